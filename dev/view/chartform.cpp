@@ -1,0 +1,3 @@
+#include "chartform.h"
+
+ChartForm::ChartForm(QWidget* parent) : QWidget(parent) {}

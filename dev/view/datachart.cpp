@@ -1,0 +1,3 @@
+#include "datachart.h"
+
+DataChart::DataChart(QWidget* parent) : QWidget(parent) {}

@@ -1,0 +1,3 @@
+#include "dynamicchart.h"
+
+DynamicChart::DynamicChart(QWidget* parent) : QWidget(parent) {}

@@ -1,0 +1,3 @@
+#include "energyline.h"
+
+Energyline::Energyline(QWidget* parent) : QWidget(parent) {}

@@ -1,0 +1,3 @@
+#include "rateinfoform.h"
+
+RateInfoForm::RateInfoForm(QWidget* parent) : QWidget(parent) {}

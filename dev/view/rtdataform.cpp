@@ -1,0 +1,3 @@
+#include "rtdataform.h"
+
+RTDataForm::RTDataForm(QWidget* parent) : QWidget(parent) {}

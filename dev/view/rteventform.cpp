@@ -1,0 +1,3 @@
+#include "rteventform.h"
+
+RTEventForm::RTEventForm(QWidget* parent) : QWidget(parent) {}

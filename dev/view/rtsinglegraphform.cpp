@@ -1,0 +1,3 @@
+#include "rtsinglegraphform.h"
+
+RTSingleGraphForm::RTSingleGraphForm(QWidget* parent) : QWidget(parent) {}

@@ -1,0 +1,3 @@
+#include "rtthreegraphform.h"
+
+RTThreeGraphForm::RTThreeGraphForm(QWidget* parent) : QWidget(parent) {}

@@ -1,0 +1,3 @@
+#include "setinfoform.h"
+
+SetInfoForm::SetInfoForm(QWidget* parent) : QWidget(parent) {}

@@ -1,0 +1,3 @@
+#include "threedynamicchart.h"
+
+ThreeDynamicChart::ThreeDynamicChart(QWidget* parent) : QWidget(parent) {}

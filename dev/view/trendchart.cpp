@@ -1,0 +1,3 @@
+#include "trendchart.h"
+
+TrendChart::TrendChart(QWidget* parent) : QWidget(parent) {}

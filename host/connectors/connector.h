@@ -1,0 +1,51 @@
+#ifndef CONNECTOR_H
+#define CONNECTOR_H
+
+// One device on one side, readings and command results on the other.
+// May touch: readings and Qt Core; a connector knows its protocol library, never a widget, the
+// fleet or the history.
+
+#include "connectors/upscommand.h"
+#include "reading/upsreading.h"
+
+#include <QObject>
+#include <QString>
+
+enum class LinkState {
+    Connecting, // nothing heard yet
+    Live,
+    Stale,  // the server answers, the driver behind it is silent
+    Lost,   // no answer
+    Refused // the answer says no: unknown device, access denied
+};
+
+// What one poll brought. reading matters only when state is Live.
+struct PollResult {
+    LinkState state = LinkState::Connecting;
+    UpsReading reading;
+    QString message; // why it is not Live, naming the cause; plain text for the operator
+};
+Q_DECLARE_METATYPE(PollResult)
+
+// Lives on the GUI thread; none of its functions blocks. I/O happens elsewhere, only values travel.
+class Connector : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    // Starts one poll, which ends with exactly one polled(). While one is under way a further call
+    // is ignored. No retry and no schedule in here: the fleet decides when to poll.
+    virtual void poll() = 0;
+
+    // Sends the command once, follows it to its result and ends with exactly one
+    // commandFinished() of the same id.
+    virtual void send(const UpsCommand& command) = 0;
+
+signals:
+    void polled(const PollResult& result);
+    void commandFinished(const CommandResult& result);
+};
+
+#endif // CONNECTOR_H

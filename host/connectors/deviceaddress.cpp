@@ -1,0 +1,121 @@
+#include "deviceaddress.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QUrl>
+#include <QUrlQuery>
+
+namespace {
+
+struct Tr {
+    Q_DECLARE_TR_FUNCTIONS(DeviceAddress)
+};
+
+const QLatin1String kSimulatorPrefix("sim:");
+
+ParsedAddress failure(const QString& error)
+{
+    return {std::nullopt, error};
+}
+
+// Fills `target` with the query's value in its canonical spelling; an unknown value is an error.
+bool readChoice(const QUrlQuery& query, const QString& key, const QStringList& choices,
+                QString& target, QString& error)
+{
+    if (!query.hasQueryItem(key))
+        return true;
+    const QString given = query.queryItemValue(key, QUrl::FullyDecoded);
+    const int index = choices.indexOf(
+        QRegularExpression(QLatin1Char('^') + QRegularExpression::escape(given) + QLatin1Char('$'),
+                           QRegularExpression::CaseInsensitiveOption));
+    if (index < 0) {
+        error = Tr::tr("\"%1\" is not one of %2 for %3")
+                    .arg(given.left(40), choices.join(QStringLiteral(", ")), key);
+        return false;
+    }
+    target = choices.at(index);
+    return true;
+}
+
+ParsedAddress parseNut(const QUrl& url, DeviceAddress address)
+{
+    if (!url.userInfo().isEmpty())
+        return failure(Tr::tr("user and password of a NUT server belong in the configuration, "
+                              "not in the address"));
+    address.scheme = DeviceAddress::Scheme::Nut;
+    address.port = static_cast<quint16>(url.port(DeviceAddress::kNutPort));
+    address.ups = url.path(QUrl::FullyDecoded).mid(1);
+    static const QRegularExpression name(QStringLiteral("^[^/\\s\"\\\\]*$"));
+    if (!name.match(address.ups).hasMatch())
+        return failure(Tr::tr("a NUT address looks like nut://HOST[:PORT]/UPS"));
+    return {address, {}};
+}
+
+ParsedAddress parseSnmp(const QUrl& url, DeviceAddress address)
+{
+    if (!url.password().isEmpty())
+        return failure(Tr::tr("SNMP secrets belong in the configuration, not in the address"));
+    address.scheme = DeviceAddress::Scheme::Snmp;
+    address.port = static_cast<quint16>(url.port(DeviceAddress::kSnmpPort));
+
+    const QUrlQuery query(url);
+    const QStringList known{"version", "level", "auth", "priv", "context"};
+    const auto items = query.queryItems();
+    for (const auto& item : items)
+        if (!known.contains(item.first))
+            return failure(Tr::tr("unknown option \"%1\"; known are %2")
+                               .arg(item.first.left(40), known.join(QStringLiteral(", "))));
+
+    QString version = QStringLiteral("2c");
+    QString error;
+    if (!readChoice(query, "version", {"1", "2", "2c", "3"}, version, error)
+        || !readChoice(query, "level", {"noAuthNoPriv", "authNoPriv", "authPriv"},
+                       address.securityLevel, error)
+        || !readChoice(query, "auth", {"MD5", "SHA", "SHA-224", "SHA-256", "SHA-384", "SHA-512"},
+                       address.authProtocol, error)
+        || !readChoice(query, "priv", {"DES", "AES", "AES-192", "AES-256"}, address.privProtocol,
+                       error))
+        return failure(error);
+    address.snmpVersion = version.left(1).toInt();
+    address.context = query.queryItemValue(QStringLiteral("context"), QUrl::FullyDecoded);
+
+    const QString name = url.userName(QUrl::FullyDecoded);
+    if (address.snmpVersion < 3) {
+        address.community = name.isEmpty() ? QStringLiteral("public") : name;
+        return {address, {}};
+    }
+    if (name.isEmpty())
+        return failure(Tr::tr("SNMPv3 needs a user: snmp://USER@HOST?version=3"));
+    address.user = name;
+    if (address.securityLevel.isEmpty())
+        address.securityLevel = QStringLiteral("authPriv");
+    if (address.authProtocol.isEmpty())
+        address.authProtocol = QStringLiteral("SHA");
+    if (address.privProtocol.isEmpty())
+        address.privProtocol = QStringLiteral("AES");
+    return {address, {}};
+}
+
+} // namespace
+
+ParsedAddress parseDeviceAddress(const QString& text)
+{
+    DeviceAddress address;
+    address.text = text.trimmed();
+    if (address.text.startsWith(kSimulatorPrefix)) {
+        address.scenario = address.text.mid(kSimulatorPrefix.size());
+        return {address, {}};
+    }
+
+    const QUrl url(address.text, QUrl::StrictMode);
+    const bool nut = url.scheme() == QLatin1String("nut");
+    const bool snmp = url.scheme() == QLatin1String("snmp");
+    if (!nut && !snmp)
+        return failure(Tr::tr("an address starts with sim:, nut:// or snmp://"));
+    if (!url.isValid() || url.host().isEmpty())
+        return failure(Tr::tr("no valid host or port in \"%1\"").arg(address.text.left(120)));
+    if (url.port(1) < 1)
+        return failure(Tr::tr("a port lies between 1 and 65535"));
+    address.host = url.host();
+    return nut ? parseNut(url, address) : parseSnmp(url, address);
+}

@@ -1,0 +1,47 @@
+#ifndef DEVICEADDRESS_H
+#define DEVICEADDRESS_H
+
+// Device addresses as the command line, the configuration and the dialogs share them.
+// May touch: Qt Core.
+
+#include <QMap>
+#include <QString>
+
+#include <optional>
+
+struct DeviceAddress {
+    enum class Scheme { Simulator, Nut, Snmp };
+
+    Scheme scheme = Scheme::Simulator;
+    QString text; // as given
+
+    QString scenario; // sim: name of the scenario, empty for the day in minutes
+
+    QString host; // nut, snmp; IPv6 without brackets
+    quint16 port = 0;
+
+    QString ups; // nut: name of the device; empty: the server's list is asked for
+
+    QString community; // snmp versions 1 and 2c; empty: "public"
+    QString user;      // snmp version 3
+    int snmpVersion = 2; // 1, 2 (2c) or 3
+    QString securityLevel; // noAuthNoPriv, authNoPriv, authPriv
+    QString authProtocol;  // MD5, SHA, SHA-224, SHA-256, SHA-384, SHA-512
+    QString privProtocol;  // DES, AES, AES-192, AES-256
+    QString context;
+
+    static constexpr quint16 kNutPort = 3493;
+    static constexpr quint16 kSnmpPort = 161;
+};
+
+struct ParsedAddress {
+    std::optional<DeviceAddress> address;
+    QString error; // what is wrong and how it should look
+};
+
+//  sim:[NAME]   nut://HOST[:PORT]/[UPS]   snmp://COMMUNITY@HOST[:PORT][?version=1]
+//  snmp://USER@HOST[:PORT]?version=3&level=authPriv&auth=SHA&priv=AES[&context=NAME]
+// A secret in the address is an error: secrets come from the configuration.
+ParsedAddress parseDeviceAddress(const QString& text);
+
+#endif // DEVICEADDRESS_H

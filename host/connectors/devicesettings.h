@@ -1,0 +1,37 @@
+#ifndef DEVICESETTINGS_H
+#define DEVICESETTINGS_H
+
+// Everything a connector needs to know of one device.
+// May touch: Qt Core and addresses.
+
+#include "connectors/deviceaddress.h"
+
+#include <QMap>
+#include <QString>
+
+struct DeviceSettings {
+    QString name; // the operator's name for it; empty: the address
+    DeviceAddress address;
+
+    // Account of a NUT server; needed for commands only.
+    QString user;
+    QString secret;
+    // SNMP version 3.
+    QString authSecret;
+    QString privSecret;
+
+    int pollInterval = 5;     // s
+    int timeout = 5;          // s until a connect or an answer counts as missing
+    int retries = 1;          // SNMP: further tries of one request
+    int shutdownDelay = 20;   // s, handed on with shutdown and standby
+    int restartDuration = 60; // s
+    bool shutdownWholeUps = false; // SNMP: shut the system down instead of the output
+    quint32 seed = 1;         // simulator
+
+    // Correction of agents that are wrong by a power of ten: quantity name to factor.
+    QMap<QString, double> scales;
+
+    QString displayName() const { return name.isEmpty() ? address.text : name; }
+};
+
+#endif // DEVICESETTINGS_H

@@ -1,0 +1,11 @@
+#include "snmpconnector.h"
+
+SnmpConnector::SnmpConnector(const DeviceSettings& settings, QObject* parent)
+    : Connector(parent)
+    , m_settings(settings)
+{
+}
+
+void SnmpConnector::poll() {}
+
+void SnmpConnector::send(const UpsCommand&) {}

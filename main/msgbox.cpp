@@ -1,0 +1,3 @@
+#include "msgbox.h"
+
+MsgBox::MsgBox(int, QString) {}
