@@ -4,7 +4,8 @@
 #include <cmath>
 #include <iterator>
 
-namespace {
+namespace
+{
 
 constexpr double kUnknownMarks[] = {-1.0, 65535.0, 655350.0, 4294967295.0, -273.0};
 
@@ -40,8 +41,8 @@ QString cleanDeviceText(const QString& raw)
 
 Value plausible(double raw)
 {
-    const bool unknown = std::find(std::begin(kUnknownMarks), std::end(kUnknownMarks), raw)
-        != std::end(kUnknownMarks);
+    const bool unknown = std::find(std::begin(kUnknownMarks), std::end(kUnknownMarks), raw) !=
+                         std::end(kUnknownMarks);
     if (unknown || !std::isfinite(raw))
         return {};
     return raw;

@@ -1,0 +1,328 @@
+#include "devicesnapshot.h"
+
+#include "globalvar.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <limits>
+
+namespace
+{
+
+struct Tr {
+    Q_DECLARE_TR_FUNCTIONS(DeviceSnapshot)
+};
+
+constexpr int kNoKey = -1;
+constexpr int kSecondsPerMinute = 60;
+constexpr double kWattsPerKilowatt = 1000.0;
+constexpr int kFullCharge = 100;
+
+struct AlarmRow {
+    Alarm alarm;
+    int key;
+    const char* text;
+};
+
+constexpr AlarmRow kAlarms[] = {
+    {Alarm::BatteryBad, alarm_BatteryBad, QT_TRANSLATE_NOOP("DeviceSnapshot", "Battery fault")},
+    {Alarm::OnBattery, alarm_OnBattery, QT_TRANSLATE_NOOP("DeviceSnapshot", "Battery powered")},
+    {Alarm::LowBattery, alarm_LowBattery, QT_TRANSLATE_NOOP("DeviceSnapshot", "Battery low")},
+    {Alarm::DepletedBattery, alarm_DepletedBattery,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "Battery EOD")},
+    {Alarm::TemperatureBad, alarm_TempBad,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "Temperature overrun MAX-value")},
+    {Alarm::InputBad, alarm_InputBad, QT_TRANSLATE_NOOP("DeviceSnapshot", "Input fault")},
+    {Alarm::OutputBad, alarm_OutputBad, QT_TRANSLATE_NOOP("DeviceSnapshot", "Output fault")},
+    {Alarm::OutputOverload, alarm_OutputOverload,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "Load overrun MAX-value")},
+    {Alarm::OnBypass, alarm_OnBypass, QT_TRANSLATE_NOOP("DeviceSnapshot", "Bypass powered")},
+    {Alarm::BypassBad, alarm_BypassBad, QT_TRANSLATE_NOOP("DeviceSnapshot", "Bypass fault")},
+    {Alarm::OutputOffAsRequested, alarm_OutputOffAsRequested,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "The UPS output has shutdown as requested")},
+    {Alarm::UpsOffAsRequested, alarm_UpsOffAsRequested,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "The entire UPS has shutdown as commanded")},
+    {Alarm::ChargerFailed, alarm_ChargerFailed,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "Charger subsystem fault")},
+    {Alarm::OutputOff, alarm_UpsOutputOff,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "The output of the UPS is in the off state")},
+    {Alarm::SystemOff, alarm_UpsSystemOff,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "The UPS system is in the off state")},
+    {Alarm::FanFailure, alarm_FanFailure, QT_TRANSLATE_NOOP("DeviceSnapshot", "Fan fault")},
+    {Alarm::FuseFailure, alarm_FuseFailure, QT_TRANSLATE_NOOP("DeviceSnapshot", "Fuse fault")},
+    {Alarm::GeneralFault, alarm_GeneralFault, QT_TRANSLATE_NOOP("DeviceSnapshot", "UPS fault")},
+    {Alarm::DiagnosticTestFailed, alarm_DiagnosticTestFailed,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "Last diagnostic test failed")},
+    {Alarm::CommunicationsLost, alarm_CommunicationsLost,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "Communication between agent and UPS fault")},
+    {Alarm::AwaitingPower, kNoKey,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "UPS is awaiting the return of input power")},
+    {Alarm::ShutdownPending, alarm_AwaitingPower,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "UPS shutdown after delay countdown is underway")},
+    {Alarm::ShutdownImminent, alarm_ShutdownPending,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "The UPS will turn off power to the load")},
+    {Alarm::TestInProgress, alarm_ShutdownImminent,
+     QT_TRANSLATE_NOOP("DeviceSnapshot", "A test is in progress")},
+};
+static_assert(std::size(kAlarms) == static_cast<int>(Alarm::TestInProgress));
+
+// Alarm keys that no alarm feeds: the page has another text there, or none.
+constexpr int kSilentAlarmKeys[] = {alarm_TestFailed, alarm_TestInProgress};
+
+const AlarmRow& rowOf(Alarm alarm)
+{
+    const auto* row = std::find_if(std::begin(kAlarms), std::end(kAlarms),
+                                   [alarm](const AlarmRow& r) { return r.alarm == alarm; });
+    return row != std::end(kAlarms) ? *row : kAlarms[static_cast<int>(Alarm::GeneralFault) - 1];
+}
+
+int saturated(double number)
+{
+    if (std::isnan(number))
+        return 0;
+    constexpr double limit = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(number, -limit, limit));
+}
+
+// Nearest integer, halves away from zero. A decimal half such as 0.35 x 10 may sit a hair below
+// its half in binary; it still counts as a half.
+int nearest(double number)
+{
+    constexpr double hair = 1e-9;
+    return saturated(std::round(number + std::copysign(hair, number)));
+}
+
+// Values that are nothing but scaled and rounded: stored = nearest(value x scale).
+struct ScalarRow {
+    int key;
+    Value UpsReading::*value;
+    double scale;
+};
+
+constexpr double kWhole = 1.0;
+constexpr double kTenths = 10.0;
+// The detail page doubles the apparent power it reads.
+constexpr double kHalved = 0.5;
+
+constexpr ScalarRow kScalars[] = {
+    {realdata_SecondsOnBat, &UpsReading::secondsOnBattery, kWhole},
+    {realdata_BatVoltage, &UpsReading::batteryVoltage, kTenths},
+    {realdata_BatCurrent, &UpsReading::batteryCurrent, kTenths},
+    {realdata_BatTemp, &UpsReading::batteryTemperature, kTenths},
+    {realdata_InputLineBads, &UpsReading::inputLineBads, kWhole},
+    {realdata_ConfigIPVol, &UpsReading::ratedInputVoltage, kWhole},
+    {realdata_ConfigIPFre, &UpsReading::ratedInputFrequency, kTenths},
+    {realdata_ConfigOPVol, &UpsReading::ratedOutputVoltage, kWhole},
+    {realdata_ConfigOPFre, &UpsReading::ratedOutputFrequency, kTenths},
+    {realdata_ConfigOPVA_Hi, &UpsReading::ratedApparentPower, kHalved},
+    {realdata_ConfigOPW_Hi, &UpsReading::ratedPower, kWhole},
+    {realdata_ConfigLowVol, &UpsReading::lowTransferVoltage, kWhole},
+    {realdata_ConfigHighVol, &UpsReading::highTransferVoltage, kWhole},
+};
+
+// Quantities of a group of lines; keys of the three lines lie `stride` apart.
+struct LineRow {
+    int keyA;
+    int stride;
+    LineReading UpsReading::*group;
+    PhaseValues LineReading::*values;
+    double scale;
+};
+
+constexpr int kTriple = 1;
+constexpr int kWords = 2; // _Hi words, each followed by its _Lo word
+
+constexpr LineRow kLines[] = {
+    {realdata_InputVoltage_A, kTriple, &UpsReading::input, &LineReading::voltage, kWhole},
+    {realdata_InputCurrent_A, kTriple, &UpsReading::input, &LineReading::current, kTenths},
+    {realdata_InputFre_A, kTriple, &UpsReading::input, &LineReading::frequency, kTenths},
+    {realdata_InputPower_A_Hi, kWords, &UpsReading::input, &LineReading::power, kWhole},
+    {realdata_OutputVoltage_A, kTriple, &UpsReading::output, &LineReading::voltage, kWhole},
+    {realdata_OutputCurrent_A, kTriple, &UpsReading::output, &LineReading::current, kTenths},
+    {realdata_OutputPower_A_Hi, kWords, &UpsReading::output, &LineReading::power, kWhole},
+    {realdata_OutputLoad_A, kTriple, &UpsReading::output, &LineReading::load, kWhole},
+    {realdata_BypVoltage_A, kTriple, &UpsReading::bypass, &LineReading::voltage, kWhole},
+    {realdata_BypCurrent_A, kTriple, &UpsReading::bypass, &LineReading::current, kTenths},
+    {realdata_BypPower_A_Hi, kWords, &UpsReading::bypass, &LineReading::power, kWhole},
+};
+
+struct GroupRow {
+    int linesKey;
+    int trueLinesKey;
+    int frequencyKey; // one frequency for the whole group; kNoKey where each line has its own
+    LineReading UpsReading::*group;
+};
+
+constexpr GroupRow kGroups[] = {
+    {realdata_InputNumLines, info_innum, kNoKey, &UpsReading::input},
+    {realdata_OutputNumLines, info_outnum, realdata_OutputFre, &UpsReading::output},
+    {realdata_BypNumLines, info_bypnum, realdata_BypFre, &UpsReading::bypass},
+};
+
+struct TextRow {
+    int key;
+    QString UpsReading::*text;
+};
+
+constexpr TextRow kTexts[] = {
+    {info_ups_type, &UpsReading::model},
+    {info_copo_name, &UpsReading::manufacturer},
+    {info_quenta_name, &UpsReading::name},
+    {info_ups_description, &UpsReading::attachedDevices},
+    {info_ups_soft_ver, &UpsReading::softwareVersion},
+    {info_quenta_soft_ver, &UpsReading::agentVersion},
+    {info_quenta_location, &UpsReading::location},
+};
+
+// Powers travel in their _Hi word; the _Lo word that follows it is always 0.
+bool isPowerWord(int key)
+{
+    return (key >= realdata_InputPower_A_Hi && key <= realdata_InputPower_C_Lo) ||
+           (key >= realdata_OutputPower_A_Hi && key <= realdata_OutputPower_C_Lo) ||
+           (key >= realdata_BypPower_A_Hi && key <= realdata_BypPower_C_Lo) ||
+           key == realdata_ConfigOPVA_Hi || key == realdata_ConfigOPW_Hi;
+}
+
+class SnapshotWriter
+{
+public:
+    explicit SnapshotWriter(const UpsReading& reading)
+        : m_reading(reading)
+    {
+    }
+
+    QMap<int, QVariant> write()
+    {
+        m_map.insert(realdata_BatteryStatus, static_cast<int>(m_reading.batteryState));
+        m_map.insert(realdata_OutputSource, static_cast<int>(m_reading.outputSource));
+        writeMinutes(realdata_MinutesRemaining, m_reading.runtime);
+        writeMinutes(realdata_ConfigLowBattTime, m_reading.lowBatteryTime);
+        if (m_reading.charge)
+            m_map.insert(realdata_ChargeRemaining,
+                         std::clamp(nearest(*m_reading.charge), 0, kFullCharge));
+        if (m_reading.beeper)
+            m_map.insert(realdata_ConfigAudibleStatus, static_cast<int>(*m_reading.beeper));
+        for (const ScalarRow& row : kScalars)
+            writeNumber(row.key, m_reading.*row.value, row.scale);
+        for (const GroupRow& row : kGroups)
+            writeGroup(row);
+        for (const LineRow& row : kLines)
+            writeLines(row);
+        for (const AlarmRow& row : kAlarms)
+            if (row.key != kNoKey)
+                m_map.insert(row.key, m_reading.alarms.contains(row.alarm) ? 1 : 0);
+        for (int key : kSilentAlarmKeys)
+            m_map.insert(key, 0);
+        for (const TextRow& row : kTexts)
+            if (!(m_reading.*row.text).isEmpty())
+                m_map.insert(row.key, m_reading.*row.text);
+        if (m_reading.alarmCount)
+            m_map.insert(info_alanum, *m_reading.alarmCount);
+        return m_map;
+    }
+
+private:
+    void writeNumber(int key, const Value& value, double scale)
+    {
+        if (!value)
+            return;
+        m_map.insert(key, nearest(*value * scale));
+        if (isPowerWord(key))
+            m_map.insert(key + 1, 0);
+    }
+
+    void writeMinutes(int key, const Value& seconds)
+    {
+        if (seconds)
+            m_map.insert(key, saturated(std::floor(*seconds / kSecondsPerMinute)));
+    }
+
+    void writeGroup(const GroupRow& row)
+    {
+        const LineReading& group = m_reading.*row.group;
+        m_map.insert(row.linesKey, shownLines(group));
+        if (group.lines)
+            m_map.insert(row.trueLinesKey, *group.lines);
+        if (row.frequencyKey != kNoKey)
+            writeNumber(row.frequencyKey, group.frequency[0], kTenths);
+    }
+
+    void writeLines(const LineRow& row)
+    {
+        const LineReading& group = m_reading.*row.group;
+        const int lines = shownLines(group);
+        for (int line = 0; line < lines; ++line)
+            writeNumber(row.keyA + line * row.stride,
+                        (group.*row.values)[static_cast<std::size_t>(line)], row.scale);
+    }
+
+    const UpsReading& m_reading;
+    QMap<int, QVariant> m_map;
+};
+
+void toKilowatts(QMap<int, QVariant>& map)
+{
+    for (int key = realdata_InputPower_A_Hi; key <= realdata_BypPower_C_Lo; ++key) {
+        const auto entry = map.find(key);
+        if (isPowerWord(key) && entry != map.end())
+            *entry = nearest(entry->toInt() / kWattsPerKilowatt);
+    }
+}
+
+} // namespace
+
+QMap<int, QVariant> deviceSnapshot(const UpsReading& reading, SnapshotPage page,
+                                   const SnapshotLink& link)
+{
+    QMap<int, QVariant> map = SnapshotWriter(reading).write();
+    if (link.communicationsLost)
+        map.insert(alarm_CommunicationsLost, 1);
+    map.insert(info_failCount, link.failedPolls);
+    const std::pair<int, const QString&> texts[] = {
+        {info_polltype, link.protocol}, {info_state, link.state}, {info_ipAddr, link.address}};
+    for (const auto& [key, text] : texts)
+        if (!text.isEmpty())
+            map.insert(key, text);
+
+    if (page == SnapshotPage::EnergyFlow)
+        toKilowatts(map);
+    if (page == SnapshotPage::Chart) {
+        if (reading.batteryTemperature)
+            map.insert(realdata_BatTemp, nearest(*reading.batteryTemperature));
+        if (reading.batteryCurrent)
+            map.insert(realdata_BatCurrent, nearest(std::abs(*reading.batteryCurrent) * kTenths));
+    }
+    return map;
+}
+
+QString alarmText(Alarm alarm)
+{
+    return Tr::tr(rowOf(alarm).text);
+}
+
+int alarmKey(Alarm alarm)
+{
+    return rowOf(alarm).key;
+}
+
+int shownLines(const LineReading& group)
+{
+    constexpr int threePhase = 3;
+    return group.lines == threePhase ? threePhase : 1;
+}
+
+QStringList readingNotes(const UpsReading& reading)
+{
+    constexpr int splitPhase = 2;
+    QStringList notes = reading.notes;
+    for (const GroupRow& row : kGroups) {
+        if ((reading.*row.group).lines == splitPhase) {
+            notes << Tr::tr("Split phase: line 1 of 2 is shown.");
+            break;
+        }
+    }
+    return notes;
+}
