@@ -1,0 +1,83 @@
+#ifndef DEVICE_H
+#define DEVICE_H
+
+// One watched UPS: its settings, its connector and what is known of it, with the age of that.
+// May touch: connectors by their base class, readings; no widget.
+
+#include "connectors/connector.h"
+#include "connectors/devicesettings.h"
+#include "fleet/fleetclock.h"
+#include "fleet/pollplan.h"
+#include "fleet/urgency.h"
+#include "reading/devicesnapshot.h"
+
+#include <QObject>
+
+#include <memory>
+
+class Device : public QObject
+{
+    Q_OBJECT
+
+public:
+    // firstDueMs: monotonic ms at which the first poll is due.
+    Device(const DeviceSettings& settings, std::unique_ptr<Connector> connector,
+           const FleetClock& clock, qint64 firstDueMs);
+    ~Device() override;
+
+    const DeviceSettings& settings() const { return m_settings; }
+    QString name() const { return m_settings.displayName(); }
+    QString address() const { return m_settings.address.text; }
+    bool isSimulated() const;
+
+    // Live only while the last good reading is young enough to be called so: a reading that has
+    // outlived its limit (a machine back from suspend) is stale whatever the last poll said.
+    LinkState link() const;
+    QString message() const; // why the device is not live; plain text
+    int failedPolls() const { return m_plan.failures(); }
+
+    // The last good reading, null before the first.
+    const UpsReading* reading() const { return m_reading ? &*m_reading : nullptr; }
+    // ms since the last good reading; -1 before the first.
+    qint64 ageMs() const;
+    Condition condition() const { return conditionOf(link(), reading()); }
+    // Since when the desk has seen the device in that condition.
+    QDateTime conditionSince() const { return m_conditionSince; }
+
+    // Empty before the first good reading: a view must not be fed with an empty snapshot.
+    QMap<int, QVariant> snapshot(SnapshotPage page) const;
+
+    // For the fleet's schedule.
+    qint64 dueMs() const { return m_plan.dueMs(); }
+    bool isPolling() const { return m_pollStarted >= 0; }
+    void startPoll();
+    void hurry() { m_plan.hurry(m_clock.monotonicMs()); }
+    // Ends a poll that the connector never answered.
+    void checkPollLimit();
+    // Notices a change of condition; to be called when time has passed, too.
+    void noteCondition();
+
+    void send(const UpsCommand& command) { m_connector->send(command); }
+
+signals:
+    void polled(); // one poll has ended, whatever it brought
+    void commandFinished(const CommandResult& result);
+
+private:
+    void takeResult(const PollResult& result);
+    qint64 freshnessLimitMs() const;
+
+    DeviceSettings m_settings;
+    std::unique_ptr<Connector> m_connector;
+    const FleetClock& m_clock;
+    PollPlan m_plan;
+    LinkState m_link = LinkState::Connecting;
+    QString m_message;
+    std::optional<UpsReading> m_reading;
+    qint64 m_readingBootMs = 0;
+    QString m_conditionText;
+    QDateTime m_conditionSince;
+    qint64 m_pollStarted = -1; // boot ms; -1: no poll is under way
+};
+
+#endif // DEVICE_H

@@ -1,0 +1,67 @@
+#ifndef FLEET_H
+#define FLEET_H
+
+// All watched devices and the schedule of their polls.
+// May touch: devices and connectors by their base class; no widget.
+
+#include "fleet/device.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class Fleet : public QObject
+{
+    Q_OBJECT
+
+public:
+    using ConnectorMaker = std::function<std::unique_ptr<Connector>(const DeviceSettings&)>;
+
+    explicit Fleet(ConnectorMaker maker, const FleetClock& clock = FleetClock::system(),
+                   QObject* parent = nullptr);
+    ~Fleet() override;
+
+    int count() const { return static_cast<int>(m_devices.size()); }
+    // index: 0 to count() - 1.
+    Device* at(int index) const { return m_devices[static_cast<std::size_t>(index)].get(); }
+    int indexOf(const Device* device) const; // -1: not (or no longer) one of ours
+
+    // The first polls of devices added together are spread over the interval; the very first
+    // device is polled at once.
+    Device* add(const DeviceSettings& settings);
+    void remove(int index);
+    void move(int from, int to);
+    // New settings, new connector; the device keeps its place, its last reading is forgotten.
+    Device* replace(int index, const DeviceSettings& settings);
+
+    void pollNow(Device* device);
+
+signals:
+    void deviceAdded(int index);
+    void deviceAboutToBeRemoved(int index);
+    void deviceRemoved(int index);
+    void deviceMoved(int from, int to);
+    void devicePolled(Device* device);
+    void commandFinished(Device* device, const CommandResult& result);
+    // Once a second, after limits have been checked: ages have grown.
+    void ticked();
+
+private:
+    std::unique_ptr<Device> makeDevice(const DeviceSettings& settings, qint64 firstDueMs);
+    void pollDueDevices();
+    void schedule();
+    void tick();
+
+    ConnectorMaker m_maker;
+    const FleetClock& m_clock;
+    std::vector<std::unique_ptr<Device>> m_devices;
+    QTimer m_pollTimer;
+    QTimer m_tickTimer;
+    qint64 m_suspendedMs; // boot clock ahead of the monotonic clock at the last tick
+    quint32 m_added = 0;
+};
+
+#endif // FLEET_H

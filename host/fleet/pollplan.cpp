@@ -1,0 +1,32 @@
+#include "pollplan.h"
+
+#include <algorithm>
+
+PollPlan::PollPlan(qint64 intervalMs, qint64 firstDueMs)
+    : m_interval(std::max<qint64>(intervalMs, 1))
+    , m_due(firstDueMs)
+    , m_place(firstDueMs)
+{
+}
+
+void PollPlan::succeeded(qint64 nowMs)
+{
+    m_failures = 0;
+    nextPlaceAfter(nowMs);
+}
+
+void PollPlan::failed(qint64 nowMs)
+{
+    constexpr int doublingsToLongest = 16; // 1 ms doubled so often is over a minute
+    const int doublings = std::min(m_failures, doublingsToLongest);
+    ++m_failures;
+    const qint64 longest = std::max(kLongestPauseMs, m_interval);
+    m_due = nowMs + std::min(m_interval << doublings, longest);
+}
+
+void PollPlan::nextPlaceAfter(qint64 nowMs)
+{
+    const qint64 passed = std::max<qint64>(nowMs - m_place, 0);
+    m_place += (passed / m_interval + 1) * m_interval;
+    m_due = m_place;
+}
