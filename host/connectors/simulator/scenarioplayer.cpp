@@ -1,0 +1,43 @@
+#include "scenarioplayer.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr qint64 kLeadIn = 3000; // ms of the first step that have passed when it begins
+} // namespace
+
+ScenarioPlayer::ScenarioPlayer(const Scenario& scenario, quint32 seed)
+    : m_scenario(scenario)
+    , m_ups(*scenario.profile, scenario.charge, seed)
+{
+    enter(0);
+    advance(kLeadIn);
+}
+
+void ScenarioPlayer::advance(qint64 milliseconds)
+{
+    qint64 left = std::max<qint64>(milliseconds, 0);
+    while (left >= m_left) {
+        m_ups.advance(m_left);
+        left -= m_left;
+        const size_t next = m_step + 1;
+        enter(next < m_scenario.steps.size() ? next : static_cast<size_t>(m_scenario.repeatFrom));
+    }
+    m_ups.advance(left);
+    m_left -= left;
+}
+
+void ScenarioPlayer::enter(size_t index)
+{
+    m_step = index;
+    m_left = qint64{step().seconds} * 1000;
+    m_ups.setMains(step().supply != Supply::Outage);
+    m_ups.setBypass(step().supply == Supply::Bypass);
+    m_ups.setDemand(step().load);
+    if (step().selfTest) {
+        UpsCommand command;
+        command.kind = CommandKind::SelfTest;
+        m_ups.carryOut(command); // what an operator has begun goes on instead
+    }
+}

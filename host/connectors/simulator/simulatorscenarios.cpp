@@ -1,0 +1,123 @@
+#include "simulatorscenarios.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+
+struct Tr {
+    Q_DECLARE_TR_FUNCTIONS(SimulatorScenarios)
+};
+
+struct Situation {
+    const char* name;
+    const char* description;
+    double charge;
+    std::vector<ScenarioStep> steps;
+    int repeatFrom = 0;
+};
+
+// Each begins in its situation and then develops. With 45 % load a full battery lasts about
+// 190 s and is low for the last 60 s of them; a recharge takes about two minutes.
+const std::vector<Situation>& situations()
+{
+    constexpr Supply mains = Supply::Mains;
+    constexpr Supply outage = Supply::Outage;
+    constexpr Supply bypass = Supply::Bypass;
+    constexpr bool test = true;
+    static const std::vector<Situation> table{
+        {"",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "a day in seven minutes"),
+         1.0,
+         {{50, mains, 0.45},
+          {145, outage, 0.45},
+          {125, mains, 0.42},
+          {30, bypass, 0.42},
+          {15, mains, 1.12},
+          {10, bypass, 1.12},
+          {20, mains, 0.40},
+          {10, mains, 0.40, test},
+          {30, mains, 0.40}}},
+        {"mains",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "mains supply, battery full"),
+         1.0,
+         {{120, mains, 0.45}, {120, mains, 0.60}, {120, mains, 0.35}}},
+        {"outage",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "mains failure, the battery carries the load"),
+         0.97,
+         {{150, outage, 0.45}, {150, mains, 0.45}}},
+        {"low-battery",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "mains failure, battery low and soon empty"),
+         0.28,
+         {{75, outage, 0.45}, {150, mains, 0.45}, {205, outage, 0.45}},
+         1},
+        {"return",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "mains are back, the battery recharges"),
+         0.35,
+         {{150, mains, 0.45}, {120, outage, 0.45}}},
+        {"bypass",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "the load is on bypass"),
+         1.0,
+         {{60, bypass, 0.45}, {30, mains, 0.45}}},
+        {"overload",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "too much load, then transfer to bypass"),
+         1.0,
+         {{40, mains, 1.12}, {20, bypass, 1.12}, {30, mains, 0.60}}},
+        {"test",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "battery self-test, repeated"),
+         1.0,
+         {{10, mains, 0.45, test}, {60, mains, 0.45}}},
+        {"silent",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "answers at first, then falls silent for a while"),
+         1.0,
+         {{20, mains, 0.45},
+          {30, mains, 0.45, false, LinkState::Stale},
+          {60, mains, 0.45, false, LinkState::Lost}}},
+        {"flapping",
+         QT_TRANSLATE_NOOP("SimulatorScenarios", "the link comes and goes"),
+         1.0,
+         {{18, mains, 0.45}, {8, mains, 0.45, false, LinkState::Lost}}},
+    };
+    return table;
+}
+
+struct Unit {
+    const UpsProfile* profile;
+    const char* name; // before the situation's
+    const char* label;
+};
+
+constexpr Unit kUnits[] = {
+    {&kSinglePhaseUps, "", QT_TRANSLATE_NOOP("SimulatorScenarios", "Single-phase UPS: %1")},
+    {&kThreePhaseUps, "three-phase",
+     QT_TRANSLATE_NOOP("SimulatorScenarios", "Three-phase UPS: %1")},
+};
+
+QString scenarioName(const Unit& unit, const Situation& situation)
+{
+    const QString first = QLatin1String(unit.name);
+    const QString second = QLatin1String(situation.name);
+    return first.isEmpty() || second.isEmpty() ? first + second : first + QLatin1Char('-') + second;
+}
+
+} // namespace
+
+std::vector<ScenarioInfo> simulatorScenarios()
+{
+    std::vector<ScenarioInfo> list;
+    for (const Unit& unit : kUnits)
+        for (const Situation& situation : situations())
+            list.push_back({scenarioName(unit, situation),
+                            Tr::tr(unit.label).arg(Tr::tr(situation.description))});
+    return list;
+}
+
+std::optional<Scenario> findScenario(const QString& name)
+{
+    for (const Unit& unit : kUnits)
+        for (const Situation& situation : situations())
+            if (name.compare(scenarioName(unit, situation), Qt::CaseInsensitive) == 0)
+                return Scenario{unit.profile, situation.charge, situation.steps,
+                                situation.repeatFrom};
+    return std::nullopt;
+}
