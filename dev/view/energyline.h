@@ -1,19 +1,140 @@
 #ifndef ENERGYLINE_H
 #define ENERGYLINE_H
 
+// The energy-flow page: input, bypass, rectifier, inverter, battery and load as a drawn diagram
+// with moving power flows, and five panels of values that a click opens and closes.
+// May touch: Qt Widgets, the data keys and the library's number formats.
+
 #include "devview_export.h"
 
 #include <QMap>
+#include <QRectF>
+#include <QString>
 #include <QVariant>
+#include <QVector>
 #include <QWidget>
 
+class QPainter;
+class QTimer;
+class RealTimeBlock;
+
+// Every length is in widget pixels; nothing scales, the diagram stays centred at its one size.
+// The four images come from the host's resources at "://image/INPUT.png" (30 by 10 px) and
+// "://image/LOAD.png", "://image/REC.png", "://image/INV.png" (70 by 55 px), each with an optional
+// "@2x" sibling for denser screens. What a host does not supply, the library draws from its own.
 class DEVVIEW_EXPORT Energyline : public QWidget
 {
     Q_OBJECT
 
 public:
+    // Opens all panels, turns all flows off and starts the animation, ten steps a second.
     explicit Energyline(QWidget* parent = nullptr);
-    void flushData(QMap<int, QVariant>) {}
+
+    // Takes over a snapshot: keys 0 to 72 as int (missing: 0), 4000 to 4002 as text (missing:
+    // empty). Sets every display string and the six flow flags. Does not repaint; the next
+    // animation step shows the new values.
+    void flushData(QMap<int, QVariant> map);
+
+    // Inverts one of the panel flags; does not repaint.
+    void toggle_view_Flag(bool& flag);
+    // Turns the flows off, all but rectifier to inverter, which keeps its state; does not repaint.
+    void set_all_off_Flow();
+
+    // What the diagram and all its panels cover.
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    // Opens or closes a panel: the input, bypass and load boxes each their own, the battery both
+    // the battery's and the device's. Edges belong to their area. Does not repaint.
+    void mousePressEvent(QMouseEvent* e) override;
+
+    // The layers of one paint, lowest first. Each leaves the painter as it found it.
+    void drawBase(QPainter* painter);    // wiring, boxes, captions
+    void drawBattery(QPainter* painter); // battery body, charge, cap
+    void drawflow(QPainter* painter);    // the flows that are on
+    void drawdate(QPainter* painter);    // charge, load and the open panels
+
+    // Moves the flows by one step and asks for a repaint.
+    void advanceFlow();
+
+    // Finished texts of the last snapshot, empty before the first. Voltages, loads, minutes and
+    // charge are shown as received; currents, frequencies, battery voltage and temperature arrive
+    // in tenths. Where a phase count is exactly 1 a text has one value, else "A/B/C".
+    QString ac_AVolt;  // "230 V"
+    QString ac_ACur;   // "5.2 A"
+    QString ac_Frenq;  // "50.0"
+    QString byp_Volt;  // "230 V"
+    QString byp_Frenq; // "50.0"
+    QString ups_Type;
+    QString ups_Name;
+    QString ups_Manufacturer;
+    QString ld_Volt;     // "230 V"
+    QString ld_Cur;      // "5.2 A"
+    QString ld_ActPower; // "3 KW", the high word alone
+    QString ld_Percent;  // "45 %"
+    QString ld_Freq;     // "50.0 Hz"
+    QString ld_State;    // what feeds the load; empty for a source outside 0 to 7
+    QString bat_Volt;    // "27.1"
+    QString bat_Temp;    // "25.0", or "--" below 0 or above 100 degrees
+    QString bat_Min;     // "40"
+    QString bat_Cap;     // "95", per cent
+    QString bat_State;   // empty for a status outside 0 to 9
+
+    // Never filled by this page.
+    QString ac_BVolt, ac_CVolt, ac_BCur, ac_CCur;
+    QString byp_State;
+    QString ups_WorkMode, ups_WorkDays;
+    QString ld_AppaPower, ld_ReactPower;
+    QString inv_temp, inv_state, rec_temp, rec_state;
+    QString currentName;
+    QVector<QString> rtDataArray;
+    bool inputIsSinglePhase = false;
+    bool outputIsSinglePhase = false;
+
+    QVector<QString> bat_fault;   // translated; not shown
+    QVector<QString> supply_mode; // translated; ld_State is one of these
+
+    // The flows that are on.
+    bool input_rec_Flag = false;
+    bool rec_bat_Flag = false;
+    bool bat_inv_Flag = false;
+    bool rec_inv_Flag = false;
+    bool inv_load_Flag = false;
+    bool byp_load_Flag = false;
+
+    // The panels that are open.
+    bool INPUT_view_Flag = true;
+    bool BYPASS_view_Flag = true;
+    bool UPS_view_Flag = true;
+    bool LOAD_view_Flag = true;
+    bool BATTERY_view_Flag = true;
+    bool RECINV_view_Flag = true; // no panel has it
+
+    // The centre: half the widget's size in whole pixels, set anew by every layer and every click.
+    double wid = 0.0;
+    double hei = 0.0;
+
+    QTimer* timer = nullptr;
+    float m_offset = 0.0F; // dash offset of the flows, in pen widths
+    int alarmValue = 20;   // per cent; up to here the battery shows its alarm colours
+    int normalValue = 60;  // per cent; above here its normal colours
+
+    // The battery symbol, set by every paint.
+    int borderRadius = 0;
+    int bgRadius = 0;
+    int headRadius = 0;
+    QRectF batteryRect;
+
+private:
+    struct PanelLine;
+    struct Panel;
+
+    QPointF centre();
+    void takeElectricalValues(const RealTimeBlock& values);
+    void takeFlows(int supply, int batteryStatus);
+    void drawBatteryFill(QPainter* painter);
+    void drawPanel(QPainter* painter, const Panel& panel);
 };
 
 #endif // ENERGYLINE_H
