@@ -756,16 +756,19 @@ void TestEnergyline::textsStayInTheirRectangles()
     const QRectF nameLine = QRectF(-100, -270, 230, 25).translated(page.middle());
     const qreal labelEnd = extentOf(device.textsOf("Name:").value(0)).x2();
     int runs = 0;
+    QSet<int> baselines;
     for (const PaintStep& step : device.stepsOf(PaintStep::Text)) {
         const QLineF extent = extentOf(step);
         const bool isName = nameLine.contains(extent.p1()) && step.text != "Name:";
         runs += isName;
+        baselines << qRound(extent.y1());
         if (isName)
             QVERIFY(extent.x1() > labelEnd && extent.x2() <= nameLine.right() + 1.0);
         // The load beside its caption ends where its room ends.
         QVERIFY(extent.x2() <= page.middle().x() + 275 + 80 + 1.0);
     }
     QVERIFY(runs >= 1);
+    QCOMPARE(baselines.size(), 6); // charge, load, title and three lines, no line broken in two
     QVERIFY(!page.grab().isNull());
 }
 
@@ -803,10 +806,10 @@ void TestEnergyline::layersInOrderLeaveThePainterAlone()
 
 void TestEnergyline::hostImagesWin()
 {
-    const auto images = [] {
+    const auto images = [](int devicePixelRatio) {
         Page page;
         page.resize(900, 700);
-        RecordingDevice device(page.size());
+        RecordingDevice device(page.size(), devicePixelRatio);
         page.recordTo(device, &Page::drawBase);
         QVector<QImage> drawn;
         for (const PaintStep& step : device.stepsOf(PaintStep::Pixmap))
@@ -815,16 +818,23 @@ void TestEnergyline::hostImagesWin()
     };
     // The library claims nothing under the host's paths: it would win there, registered first.
     QVERIFY(!QFile::exists("://image/INPUT.png"));
-    const QVector<QImage> own = images();
-    QCOMPARE(own[0], QPixmap(":/devview/image/INPUT.png").toImage());
+    const QVector<QImage> own = images(1);
+    const QVector<QImage> ownDense = images(2);
+    QCOMPARE(own[0].size(), QSize(30, 10));
+    QCOMPARE(own[2].size(), QSize(70, 55));
+    QCOMPARE(ownDense[0].size(), QSize(60, 20));
+    QCOMPARE(ownDense[2].size(), QSize(140, 110));
 
     Q_INIT_RESOURCE(hostimages);
-    const QVector<QImage> withHost = images();
+    const QVector<QImage> withHost = images(1);
+    const QVector<QImage> withHostDense = images(2);
     Q_CLEANUP_RESOURCE(hostimages);
     QCOMPARE(withHost[0].pixelColor(15, 5), QColor(255, 0, 255)); // the host's, for both boxes
     QCOMPARE(withHost[1], withHost[0]);
-    QCOMPARE(withHost[2], own[2]); // what the host lacks stays the library's
-    QCOMPARE(images(), own);
+    QCOMPARE(withHostDense[0], withHost[0]); // its one size, before the library's denser one
+    QCOMPARE(withHost[2], own[2]);           // what the host lacks stays the library's
+    QCOMPARE(withHostDense[2], ownDense[2]);
+    QCOMPARE(images(1), own);
 }
 
 QTEST_MAIN(TestEnergyline)

@@ -80,6 +80,8 @@ void drawTextLine(QPainter* painter, const QRectF& rect, int flags, const QStrin
     const PainterSaver saver(painter);
     QRectF room = wholePixels(rect);
     QString line = text.left(kMostCharacters);
+    line.replace(QChar::LineSeparator, QLatin1Char(' ')); // which even a single line would obey
+    line.replace(QChar::ParagraphSeparator, QLatin1Char(' '));
     const QFontMetricsF metrics(painter->font(), painter->device());
     const qreal narrowing = room.width() / metrics.horizontalAdvance(line);
     if (narrowing < 1.0) {
@@ -93,13 +95,21 @@ void drawTextLine(QPainter* painter, const QRectF& rect, int flags, const QStrin
     painter->drawText(room, flags | Qt::TextSingleLine, line);
 }
 
-// The host's image where it has one under the agreed path, else the library's own of that name.
-QPixmap boxImage(const char* fileName)
+// The host's image where it has one under the agreed path, else the library's own of that name. Qt
+// looks for "@2x" by itself in icons only, so this does; a host's only size wins over both of ours.
+QPixmap boxImage(const char* name, qreal devicePixelRatio)
 {
-    const QPixmap fromHost(QLatin1String("://image/") + QLatin1String(fileName));
-    if (!fromHost.isNull())
-        return fromHost;
-    return QPixmap(QLatin1String(":/devview/image/") + QLatin1String(fileName));
+    for (const char* folder : {"://image/", ":/devview/image/"}) {
+        for (const char* ending : {"@2x.png", ".png"}) {
+            if (devicePixelRatio <= 1.0 && ending[0] == '@')
+                continue;
+            const QPixmap image(QLatin1String(folder) + QLatin1String(name) +
+                                QLatin1String(ending));
+            if (!image.isNull())
+                return image;
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -335,38 +345,16 @@ void Energyline::drawBase(QPainter* painter)
     };
     constexpr qreal kWide = kBoxSize.width();
     constexpr qreal kBesideLoad = kLoadText.x() - kLoadBox.x() - kCaptionGap;
+    // clang-format off
     static constexpr Box kBoxes[] = {
-        {kInputBox,
-         QT_TR_NOOP("INPUT"),
-         Qt::AlignCenter,
-         kWide,
-         "INPUT.png",
-         {{-278.5, -5.0}, kMainsSize}},
-        {kBypassBox,
-         QT_TR_NOOP("BYPASS"),
-         Qt::AlignCenter,
-         kWide,
-         "INPUT.png",
-         {{-278.5, -155.0}, kMainsSize}},
-        {kLoadBox,
-         QT_TR_NOOP("LOAD"),
-         Qt::AlignLeft,
-         kBesideLoad,
-         "LOAD.png",
-         {{227.5, -27.5}, kSymbolSize}},
-        {kRectifierBox,
-         QT_TR_NOOP("REC"),
-         Qt::AlignCenter,
-         kWide,
-         "REC.png",
-         {{-128.5, -27.5}, kSymbolSize}},
-        {kInverterBox,
-         QT_TR_NOOP("INV"),
-         Qt::AlignCenter,
-         kWide,
-         "INV.png",
-         {{57.5, -27.5}, kSymbolSize}},
+        // box          caption               alignment        width        image    its place
+        {kInputBox,     QT_TR_NOOP("INPUT"),  Qt::AlignCenter, kWide,       "INPUT", {{-278.5, -5.0}, kMainsSize}},
+        {kBypassBox,    QT_TR_NOOP("BYPASS"), Qt::AlignCenter, kWide,       "INPUT", {{-278.5, -155.0}, kMainsSize}},
+        {kLoadBox,      QT_TR_NOOP("LOAD"),   Qt::AlignLeft,   kBesideLoad, "LOAD",  {{227.5, -27.5}, kSymbolSize}},
+        {kRectifierBox, QT_TR_NOOP("REC"),    Qt::AlignCenter, kWide,       "REC",   {{-128.5, -27.5}, kSymbolSize}},
+        {kInverterBox,  QT_TR_NOOP("INV"),    Qt::AlignCenter, kWide,       "INV",   {{57.5, -27.5}, kSymbolSize}},
     };
+    // clang-format on
     constexpr QRectF kBatteryCaption{-45.0, 160.0, 70.0, 50.0};
 
     const PainterSaver saver(painter);
@@ -390,7 +378,8 @@ void Energyline::drawBase(QPainter* painter)
         const QRectF caption(box.rect.x(), box.rect.y() - kCaptionHeight, box.captionWidth,
                              kCaptionHeight);
         drawTextLine(painter, caption.translated(c), box.captionAlignment, tr(box.caption));
-        painter->drawPixmap(wholePixels(box.imageRect.translated(c)), boxImage(box.image));
+        painter->drawPixmap(wholePixels(box.imageRect.translated(c)),
+                            boxImage(box.image, painter->device()->devicePixelRatioF()));
     }
     drawTextLine(painter, kBatteryCaption.translated(c).adjusted(0.0, 0.0, -kCaptionGap, 0.0),
                  Qt::AlignJustify, tr("BATTERY"));

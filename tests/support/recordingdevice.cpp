@@ -135,8 +135,9 @@ private:
     PaintStep m_state; // the painter's state now; its kind and geometry stay unset
 };
 
-RecordingDevice::RecordingDevice(QSize size)
+RecordingDevice::RecordingDevice(QSize size, int devicePixelRatio)
     : m_size(size)
+    , m_devicePixelRatio(devicePixelRatio)
     , m_engine(std::make_unique<RecordingEngine>())
 {
 }
@@ -207,9 +208,9 @@ int RecordingDevice::metric(PaintDeviceMetric metric) const
     case PdmPhysicalDpiY:
         return kDotsPerInch;
     case PdmDevicePixelRatio:
-        return 1;
+        return m_devicePixelRatio;
     case PdmDevicePixelRatioScaled:
-        return qRound(devicePixelRatioFScale());
+        return qRound(m_devicePixelRatio * devicePixelRatioFScale());
     }
     return 0;
 }

@@ -68,8 +68,9 @@ class RecordingEngine;
 class RecordingDevice : public QPaintDevice
 {
 public:
-    // size: what the device reports as its own, px at 96 dpi.
-    explicit RecordingDevice(QSize size);
+    // size: what the device reports as its own, px at 96 dpi; devicePixelRatio: what it reports as
+    // device pixels per pixel, which then scales every transform.
+    explicit RecordingDevice(QSize size, int devicePixelRatio = 1);
     ~RecordingDevice() override;
 
     const QVector<PaintStep>& steps() const;
@@ -87,6 +88,7 @@ protected:
 
 private:
     QSize m_size;
+    int m_devicePixelRatio;
     std::unique_ptr<RecordingEngine> m_engine;
 };
 
