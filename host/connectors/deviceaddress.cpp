@@ -5,7 +5,8 @@
 #include <QUrl>
 #include <QUrlQuery>
 
-namespace {
+namespace
+{
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(DeviceAddress)
@@ -68,13 +69,13 @@ ParsedAddress parseSnmp(const QUrl& url, DeviceAddress address)
 
     QString version = QStringLiteral("2c");
     QString error;
-    if (!readChoice(query, "version", {"1", "2", "2c", "3"}, version, error)
-        || !readChoice(query, "level", {"noAuthNoPriv", "authNoPriv", "authPriv"},
-                       address.securityLevel, error)
-        || !readChoice(query, "auth", {"MD5", "SHA", "SHA-224", "SHA-256", "SHA-384", "SHA-512"},
-                       address.authProtocol, error)
-        || !readChoice(query, "priv", {"DES", "AES", "AES-192", "AES-256"}, address.privProtocol,
-                       error))
+    if (!readChoice(query, "version", {"1", "2", "2c", "3"}, version, error) ||
+        !readChoice(query, "level", {"noAuthNoPriv", "authNoPriv", "authPriv"},
+                    address.securityLevel, error) ||
+        !readChoice(query, "auth", {"MD5", "SHA", "SHA-224", "SHA-256", "SHA-384", "SHA-512"},
+                    address.authProtocol, error) ||
+        !readChoice(query, "priv", {"DES", "AES", "AES-192", "AES-256"}, address.privProtocol,
+                    error))
         return failure(error);
     address.snmpVersion = version.left(1).toInt();
     address.context = query.queryItemValue(QStringLiteral("context"), QUrl::FullyDecoded);

@@ -22,9 +22,9 @@ struct DeviceAddress {
 
     QString ups; // nut: name of the device; empty: the server's list is asked for
 
-    QString community; // snmp versions 1 and 2c; empty: "public"
-    QString user;      // snmp version 3
-    int snmpVersion = 2; // 1, 2 (2c) or 3
+    QString community;     // snmp versions 1 and 2c; empty: "public"
+    QString user;          // snmp version 3
+    int snmpVersion = 2;   // 1, 2 (2c) or 3
     QString securityLevel; // noAuthNoPriv, authNoPriv, authPriv
     QString authProtocol;  // MD5, SHA, SHA-224, SHA-256, SHA-384, SHA-512
     QString privProtocol;  // DES, AES, AES-192, AES-256

@@ -20,13 +20,13 @@ struct DeviceSettings {
     QString authSecret;
     QString privSecret;
 
-    int pollInterval = 5;     // s
-    int timeout = 5;          // s until a connect or an answer counts as missing
-    int retries = 1;          // SNMP: further tries of one request
-    int shutdownDelay = 20;   // s, handed on with shutdown and standby
-    int restartDuration = 60; // s
+    int pollInterval = 5;          // s
+    int timeout = 5;               // s until a connect or an answer counts as missing
+    int retries = 1;               // SNMP: further tries of one request
+    int shutdownDelay = 20;        // s, handed on with shutdown and standby
+    int restartDuration = 60;      // s
     bool shutdownWholeUps = false; // SNMP: shut the system down instead of the output
-    quint32 seed = 1;         // simulator
+    quint32 seed = 1;              // simulator
 
     // Correction of agents that are wrong by a power of ten: quantity name to factor.
     QMap<QString, double> scales;

@@ -7,7 +7,8 @@
 #include <algorithm>
 #include <iterator>
 
-namespace {
+namespace
+{
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(UpsCommand)
@@ -73,7 +74,8 @@ CommandRequest commandFromEvent(int code, const QString& value)
     for (const CommandRow& row : kCommands)
         if (row.code == code)
             return request(row.kind);
-    return {std::nullopt, Tr::tr("The event %1 is no command that this desk carries out.").arg(code)};
+    return {std::nullopt,
+            Tr::tr("The event %1 is no command that this desk carries out.").arg(code)};
 }
 
 CommandRequest commandFromName(const QString& name, const QString& value)

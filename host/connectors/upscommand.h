@@ -9,22 +9,14 @@
 
 #include <optional>
 
-enum class CommandKind {
-    SelfTest,
-    DischargeTest,
-    CancelTest,
-    Shutdown,
-    Standby,
-    WakeUp,
-    Restart
-};
+enum class CommandKind { SelfTest, DischargeTest, CancelTest, Shutdown, Standby, WakeUp, Restart };
 
 struct UpsCommand {
     quint64 id = 0;
     CommandKind kind = CommandKind::SelfTest;
-    int standbyMinutes = 0;    // Standby only, 1 to kMaxStandbyMinutes
-    int shutdownDelay = 20;    // s between the command and the load going off
-    int restartDuration = 60;  // s without output on Restart
+    int standbyMinutes = 0;   // Standby only, 1 to kMaxStandbyMinutes
+    int shutdownDelay = 20;   // s between the command and the load going off
+    int restartDuration = 60; // s without output on Restart
 };
 
 enum class CommandOutcome {

@@ -99,6 +99,7 @@ void Device::takeResult(const PollResult& result)
     if (result.state == LinkState::Live) {
         m_reading = result.reading;
         m_readingBootMs = m_clock.bootMs();
+        ++m_readingNumber;
     }
     noteCondition();
     emit polled();

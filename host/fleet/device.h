@@ -38,6 +38,9 @@ public:
 
     // The last good reading, null before the first.
     const UpsReading* reading() const { return m_reading ? &*m_reading : nullptr; }
+    // Counts good readings, so that a view knows a new one from one it has shown; 0 before the
+    // first.
+    qint64 readingNumber() const { return m_readingNumber; }
     // ms since the last good reading; -1 before the first.
     qint64 ageMs() const;
     Condition condition() const { return conditionOf(link(), reading()); }
@@ -75,6 +78,7 @@ private:
     QString m_message;
     std::optional<UpsReading> m_reading;
     qint64 m_readingBootMs = 0;
+    qint64 m_readingNumber = 0;
     QString m_conditionText;
     QDateTime m_conditionSince;
     qint64 m_pollStarted = -1; // boot ms; -1: no poll is under way

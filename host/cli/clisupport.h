@@ -1,0 +1,20 @@
+#ifndef CLISUPPORT_H
+#define CLISUPPORT_H
+
+// What the subcommands share: output streams, and settings for an address on the command line.
+// May touch: addresses and the configuration.
+
+#include "connectors/devicesettings.h"
+
+#include <QString>
+
+#include <optional>
+
+void printOut(const QString& line);
+void printError(const QString& line);
+
+// Settings of the configured device with this address or name, else defaults for the address, with
+// secrets from the environment. Prints what is wrong and returns nothing for a bad address.
+std::optional<DeviceSettings> settingsForAddress(const QString& text);
+
+#endif // CLISUPPORT_H

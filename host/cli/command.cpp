@@ -1,0 +1,102 @@
+#include "command.h"
+
+#include "cli/clisupport.h"
+#include "cli/commandline.h"
+#include "cli/onepoll.h"
+#include "connectors/connectorfactory.h"
+#include "connectors/upscommand.h"
+
+#include <QCommandLineParser>
+#include <QTextStream>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace
+{
+
+// A result may be a test's begin or a tracked command's end; nothing takes longer to be told.
+constexpr int kResultLimitSeconds = 90;
+
+QString sentenceOf(const UpsCommand& command)
+{
+    QString text = commandLabel(command.kind);
+    if (command.kind == CommandKind::Standby)
+        text += QCoreApplication::translate("Command", " for %n minute(s)", nullptr,
+                                            command.standbyMinutes);
+    return text;
+}
+
+// Only a person at a terminal can say yes.
+bool isConfirmed(const QString& question)
+{
+    if (!isatty(STDIN_FILENO)) {
+        printError(QCoreApplication::translate(
+            "Command", "nobody to ask: run it on a terminal, or say --yes"));
+        return false;
+    }
+    QTextStream(stdout) << question << QStringLiteral(" [y/N] ") << Qt::flush;
+    const QString answer = QTextStream(stdin).readLine().trimmed().toLower();
+    return answer == QLatin1String("y") || answer == QLatin1String("yes");
+}
+
+int exitCodeOf(CommandOutcome outcome)
+{
+    switch (outcome) {
+    case CommandOutcome::Done:
+        return ExitOk;
+    case CommandOutcome::Refused:
+    case CommandOutcome::NotOffered:
+        return ExitRefused;
+    case CommandOutcome::NoAnswer:
+        break;
+    }
+    return ExitNotReachable;
+}
+
+} // namespace
+
+int runCommand(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QCoreApplication::translate("Command", "Sends one command and waits for its result."));
+    parser.addHelpOption();
+    const QCommandLineOption yes(QStringLiteral("yes"),
+                                 QCoreApplication::translate("Command", "Do not ask."));
+    parser.addOption(yes);
+    parser.addPositionalArgument(QStringLiteral("ADDRESS"), QStringLiteral("of the device"));
+    parser.addPositionalArgument(QStringLiteral("NAME"),
+                                 QStringLiteral("self-test, discharge-test, cancel-test, shutdown, "
+                                                "standby, wake-up, restart"));
+    parser.addPositionalArgument(QStringLiteral("VALUE"), QStringLiteral("minutes of standby"),
+                                 QStringLiteral("[VALUE]"));
+    parser.process(arguments);
+    const QStringList given = parser.positionalArguments();
+    if (given.size() < 2 || given.size() > 3) {
+        printError(QCoreApplication::translate(
+            "Command", "usage: upsdesk command ADDRESS NAME [VALUE] [--yes]"));
+        return ExitUsage;
+    }
+    const auto settings = settingsForAddress(given.at(0));
+    CommandRequest request = commandFromName(given.at(1), given.value(2));
+    if (!request.command)
+        printError(request.error);
+    if (!settings || !request.command)
+        return ExitUsage;
+
+    request.command->id = 1;
+    request.command->shutdownDelay = settings->shutdownDelay;
+    request.command->restartDuration = settings->restartDuration;
+    const QString question = QCoreApplication::translate("Command", "%1: %2?")
+                                 .arg(settings->displayName(), sentenceOf(*request.command));
+    if (!parser.isSet(yes) && !isConfirmed(question))
+        return ExitRefused;
+
+    Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
+    const CommandResult result = sendOnce(device, *request.command, kResultLimitSeconds);
+    printOut(result.message.isEmpty()
+                 ? outcomeLabel(result.outcome)
+                 : outcomeLabel(result.outcome) + QStringLiteral(": ") + result.message);
+    return exitCodeOf(result.outcome);
+}

@@ -1,0 +1,47 @@
+#include "commandline.h"
+
+#include "cli/command.h"
+#include "cli/picture.h"
+#include "cli/probe.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+
+struct Subcommand {
+    const char* name;
+    int (*run)(const QStringList& arguments);
+};
+
+constexpr Subcommand kSubcommands[] = {
+    {"probe", runProbe},
+    {"picture", runPicture},
+    {"command", runCommand},
+};
+
+const Subcommand* find(const QString& name)
+{
+    const auto* found =
+        std::find_if(std::begin(kSubcommands), std::end(kSubcommands),
+                     [&name](const Subcommand& s) { return name == QLatin1String(s.name); });
+    return found != std::end(kSubcommands) ? found : nullptr;
+}
+
+} // namespace
+
+bool isSubcommand(const QString& argument)
+{
+    return find(argument) != nullptr;
+}
+
+int runSubcommand(const QStringList& arguments)
+{
+    const Subcommand* subcommand = arguments.size() > 1 ? find(arguments.at(1)) : nullptr;
+    if (!subcommand)
+        return ExitUsage;
+    QStringList own = arguments;
+    own.removeAt(1);
+    return subcommand->run(own);
+}

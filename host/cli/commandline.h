@@ -1,0 +1,19 @@
+#ifndef COMMANDLINE_H
+#define COMMANDLINE_H
+
+// Which of upsdesk's modes a command line asks for; usage texts and exit codes.
+// May touch: Qt Core.
+
+#include <QString>
+#include <QStringList>
+
+enum ExitCode { ExitOk = 0, ExitUsage = 2, ExitNotReachable = 3, ExitRefused = 4 };
+
+// The first argument names the mode; anything else (addresses, options) is the window.
+bool isSubcommand(const QString& argument);
+
+// Runs the subcommand. arguments: all of the program's, the program's name first. QApplication or
+// QCoreApplication must exist (QApplication for "picture").
+int runSubcommand(const QStringList& arguments);
+
+#endif // COMMANDLINE_H

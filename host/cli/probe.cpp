@@ -1,0 +1,115 @@
+#include "probe.h"
+
+#include "cli/clisupport.h"
+#include "cli/commandline.h"
+#include "cli/onepoll.h"
+#include "connectors/connectorfactory.h"
+#include "fleet/device.h"
+#include "reading/keynames.h"
+
+#include "globalvar.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace
+{
+
+QJsonObject valuesOf(const QMap<int, QVariant>& snapshot)
+{
+    QJsonObject values;
+    for (auto it = snapshot.begin(); it != snapshot.end(); ++it)
+        values.insert(keyName(it.key()), QJsonValue::fromVariant(it.value()));
+    return values;
+}
+
+// Raised alarms in the order of their keys; one without a key of its own comes last, with key 0.
+QVector<QPair<int, QString>> alarmsOf(const UpsReading& reading, bool communicationsLost)
+{
+    QSet<Alarm> raised = reading.alarms;
+    if (communicationsLost)
+        raised << Alarm::CommunicationsLost;
+    QVector<QPair<int, QString>> alarms;
+    for (Alarm alarm : raised)
+        alarms.append({alarmKey(alarm), alarmText(alarm)});
+    std::sort(alarms.begin(), alarms.end());
+    return alarms;
+}
+
+QJsonObject jsonOf(const Device& device)
+{
+    QJsonArray alarms;
+    QJsonArray notes;
+    QJsonArray texts;
+    if (const UpsReading* reading = device.reading()) {
+        for (const auto& alarm : alarmsOf(*reading, device.link() != LinkState::Live)) {
+            QJsonObject entry{{"text", alarm.second}};
+            if (alarm.first >= 0)
+                entry.insert("key", alarm.first);
+            alarms.append(entry);
+        }
+        notes = QJsonArray::fromStringList(readingNotes(*reading));
+        texts = QJsonArray::fromStringList(reading->alarmTexts);
+    }
+    return {{"address", device.address()},
+            {"state", linkStateName(device.link())},
+            {"message", device.message()},
+            {"values", valuesOf(device.snapshot(SnapshotPage::Device))},
+            {"alarms", alarms},
+            {"alarmTexts", texts},
+            {"notes", notes}};
+}
+
+void printPlain(const Device& device)
+{
+    printOut(device.address() + QStringLiteral(": ") + linkStateName(device.link()) +
+             (device.message().isEmpty() ? QString() : QStringLiteral(", ") + device.message()));
+    const auto snapshot = device.snapshot(SnapshotPage::Device);
+    for (auto it = snapshot.begin(); it != snapshot.end(); ++it)
+        printOut(QStringLiteral("%1 %2").arg(keyName(it.key()), -32).arg(it.value().toString()));
+    if (const UpsReading* reading = device.reading()) {
+        for (const auto& alarm : alarmsOf(*reading, device.link() != LinkState::Live))
+            printOut(QStringLiteral("alarm: ") + alarm.second);
+        for (const QString& text : reading->alarmTexts)
+            printOut(QStringLiteral("alarm text: ") + text);
+        for (const QString& note : readingNotes(*reading))
+            printOut(QStringLiteral("note: ") + note);
+    }
+}
+
+} // namespace
+
+int runProbe(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QCoreApplication::translate("Probe", "Asks a device once and prints every value."));
+    parser.addHelpOption();
+    const QCommandLineOption json(QStringLiteral("json"),
+                                  QCoreApplication::translate("Probe", "Print JSON."));
+    parser.addOption(json);
+    parser.addPositionalArgument(QStringLiteral("ADDRESS"),
+                                 QStringLiteral("sim:[NAME], nut://HOST[:PORT]/UPS, "
+                                                "snmp://COMMUNITY@HOST[:PORT]"));
+    parser.process(arguments);
+    if (parser.positionalArguments().size() != 1) {
+        printError(QCoreApplication::translate("Probe", "usage: upsdesk probe ADDRESS [--json]"));
+        return ExitUsage;
+    }
+    const auto settings = settingsForAddress(parser.positionalArguments().first());
+    if (!settings)
+        return ExitUsage;
+
+    Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
+    pollOnce(device);
+
+    if (parser.isSet(json))
+        printOut(QString::fromUtf8(QJsonDocument(jsonOf(device)).toJson()).trimmed());
+    else
+        printPlain(device);
+    return device.link() == LinkState::Live ? ExitOk : ExitNotReachable;
+}

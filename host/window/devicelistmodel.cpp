@@ -1,0 +1,90 @@
+#include "devicelistmodel.h"
+
+#include "window/valuewords.h"
+
+namespace
+{
+
+// Polls arrive by the hundred a second in a large fleet; the views learn of them in batches.
+constexpr int kFlushMs = 200;
+
+} // namespace
+
+DeviceListModel::DeviceListModel(Fleet& fleet, QObject* parent)
+    : QAbstractListModel(parent)
+    , m_fleet(fleet)
+{
+    m_flushTimer.setSingleShot(true);
+    m_flushTimer.setInterval(kFlushMs);
+    connect(&m_flushTimer, &QTimer::timeout, this, &DeviceListModel::flushDirty);
+    const auto reset = [this] {
+        beginResetModel();
+        m_dirty.clear();
+        endResetModel();
+        emit refreshed();
+    };
+    connect(&fleet, &Fleet::deviceAdded, this, reset);
+    connect(&fleet, &Fleet::deviceRemoved, this, reset);
+    connect(&fleet, &Fleet::deviceMoved, this, reset);
+    connect(&fleet, &Fleet::devicePolled, this, [this](Device* device) {
+        m_dirty.insert(device);
+        if (!m_flushTimer.isActive())
+            m_flushTimer.start();
+    });
+}
+
+int DeviceListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_fleet.count();
+}
+
+QVariant DeviceListModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_fleet.count())
+        return {};
+    Device* device = m_fleet.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return device->name();
+    case Qt::AccessibleTextRole:
+        return QStringLiteral("%1, %2, %3")
+            .arg(device->name(), device->condition().text,
+                 linkText(device->link(), device->ageMs()));
+    case Qt::ToolTipRole: {
+        // A tool tip would take markup for markup.
+        const QString text = device->message().isEmpty() ? device->address() : device->message();
+        return QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
+    }
+    case DeviceRole:
+        return QVariant::fromValue(reinterpret_cast<quintptr>(device));
+    case UrgencyRole:
+        return static_cast<int>(device->condition().urgency);
+    case FilterRole:
+        return QString(device->name() + QLatin1Char('\n') + device->address() + QLatin1Char('\n') +
+                       device->condition().text);
+    default:
+        return {};
+    }
+}
+
+QMap<Urgency, int> DeviceListModel::counts() const
+{
+    QMap<Urgency, int> counts;
+    for (int i = 0; i < m_fleet.count(); ++i)
+        ++counts[m_fleet.at(i)->condition().urgency];
+    return counts;
+}
+
+Device* DeviceListModel::deviceAt(const QModelIndex& index)
+{
+    return reinterpret_cast<Device*>(index.data(DeviceRole).value<quintptr>());
+}
+
+void DeviceListModel::flushDirty()
+{
+    for (int row = 0; row < m_fleet.count(); ++row)
+        if (m_dirty.contains(m_fleet.at(row)))
+            emit dataChanged(index(row), index(row));
+    m_dirty.clear();
+    emit refreshed();
+}

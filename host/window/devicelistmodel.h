@@ -1,0 +1,46 @@
+#ifndef DEVICELISTMODEL_H
+#define DEVICELISTMODEL_H
+
+// The fleet as rows for the device list and the overview.
+// May touch: the fleet; no connector.
+
+#include "fleet/fleet.h"
+
+#include <QAbstractListModel>
+#include <QSet>
+#include <QTimer>
+
+class DeviceListModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    enum Role {
+        DeviceRole = Qt::UserRole, // Device*, as quintptr
+        UrgencyRole,               // int, higher is worse
+        FilterRole                 // text that the filter looks in
+    };
+
+    explicit DeviceListModel(Fleet& fleet, QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+    // Number of devices of each urgency.
+    QMap<Urgency, int> counts() const;
+
+    static Device* deviceAt(const QModelIndex& index);
+
+signals:
+    // After a batch of changes; the counts may have changed.
+    void refreshed();
+
+private:
+    void flushDirty();
+
+    Fleet& m_fleet;
+    QSet<const Device*> m_dirty;
+    QTimer m_flushTimer;
+};
+
+#endif // DEVICELISTMODEL_H

@@ -1,0 +1,21 @@
+#ifndef DEVICEROWDELEGATE_H
+#define DEVICEROWDELEGATE_H
+
+// One device in the list: marker, name, state and age, address.
+// May touch: the device list model.
+
+#include <QStyledItemDelegate>
+
+class DeviceRowDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+#endif // DEVICEROWDELEGATE_H

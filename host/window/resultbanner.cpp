@@ -1,0 +1,37 @@
+#include "resultbanner.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+#include <QVariant>
+
+ResultBanner::ResultBanner(QWidget* parent)
+    : QFrame(parent)
+    , m_text(new QLabel)
+{
+    setObjectName(QStringLiteral("ResultBanner"));
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    auto* close = new QToolButton;
+    close->setText(QStringLiteral("\u00d7"));
+    close->setAccessibleName(tr("Close"));
+    close->setAutoRaise(true);
+    connect(close, &QToolButton::clicked, this, &QWidget::hide);
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(16, 6, 8, 6);
+    row->addWidget(m_text, 1);
+    row->addWidget(close);
+    hide();
+}
+
+void ResultBanner::say(const QString& text, bool isBad)
+{
+    m_text->setText(text);
+    setAccessibleName(text);
+    setProperty("bad", QVariant(isBad));
+    style()->unpolish(this); // the style sheet looks at the property
+    style()->polish(this);
+    show();
+}

@@ -1,0 +1,18 @@
+#include "urgencycolors.h"
+
+QColor urgencyColor(Urgency urgency)
+{
+    switch (urgency) {
+    case Urgency::Normal:
+        return {0x2e, 0x7d, 0x32};
+    case Urgency::Notice:
+        return {0x29, 0x47, 0xc6};
+    case Urgency::Warning:
+        return {0xb2, 0x6a, 0x00};
+    case Urgency::Alarm:
+        return {0xd0, 0x45, 0x0c};
+    case Urgency::Critical:
+        break;
+    }
+    return {0xb7, 0x1c, 0x1c};
+}

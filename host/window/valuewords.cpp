@@ -1,0 +1,83 @@
+#include "valuewords.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+struct Tr {
+    Q_DECLARE_TR_FUNCTIONS(ValueWords)
+};
+
+constexpr qint64 kMinute = 60;
+constexpr qint64 kHour = 60 * kMinute;
+constexpr qint64 kDay = 24 * kHour;
+
+QString unknown()
+{
+    return QStringLiteral("--");
+}
+
+QString percent(const Value& value)
+{
+    return value ? Tr::tr("%1 %").arg(std::lround(std::clamp(*value, -9999.0, 9999.0))) : unknown();
+}
+
+} // namespace
+
+QString ageText(qint64 ageMs)
+{
+    if (ageMs < 0)
+        return {};
+    const qint64 s = ageMs / 1000;
+    if (s < 1)
+        return Tr::tr("now");
+    if (s < kMinute)
+        return Tr::tr("%1 s").arg(s);
+    if (s < kHour)
+        return Tr::tr("%1 min").arg(s / kMinute);
+    if (s < kDay)
+        return Tr::tr("%1 h %2 min").arg(s / kHour).arg(s % kHour / kMinute);
+    return Tr::tr("%1 days").arg(s / kDay);
+}
+
+QString linkText(LinkState link, qint64 ageMs)
+{
+    if (link == LinkState::Connecting)
+        return Tr::tr("connecting");
+    if (link == LinkState::Live)
+        return ageMs < 1000 ? Tr::tr("live, now") : Tr::tr("live, %1 ago").arg(ageText(ageMs));
+    static const QMap<LinkState, QString> words{{LinkState::Stale, Tr::tr("no new data")},
+                                                {LinkState::Lost, Tr::tr("no answer")},
+                                                {LinkState::Refused, Tr::tr("refused")}};
+    const QString word = words.value(link);
+    return ageMs < 0 ? Tr::tr("%1, never any data").arg(word)
+                     : Tr::tr("%1, last data %2 ago").arg(word, ageText(ageMs));
+}
+
+QString chargeText(const UpsReading* reading)
+{
+    return reading ? percent(reading->charge) : unknown();
+}
+
+QString runtimeText(const UpsReading* reading)
+{
+    if (!reading || !reading->runtime)
+        return unknown();
+    const auto minutes = static_cast<qint64>(std::clamp(*reading->runtime, 0.0, 1e9)) / kMinute;
+    constexpr qint64 minutesWorthCounting = 10 * 60;
+    if (minutes < minutesWorthCounting)
+        return Tr::tr("%1 min").arg(minutes);
+    return Tr::tr("%1 h").arg(minutes / 60);
+}
+
+QString loadText(const UpsReading* reading)
+{
+    if (!reading)
+        return unknown();
+    const PhaseValues& load = reading->output.load;
+    return percent(*std::max_element(load.begin(), load.end())); // an absent value is the least
+}
