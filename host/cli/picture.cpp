@@ -92,10 +92,8 @@ int runPicture(const QStringList& arguments)
     Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
     DevicePage page(device, desk);
     page.resize(size);
-    page.setAttribute(Qt::WA_DontShowOnScreen);
-    page.show();
     page.showView(DevicePage::ChartView);
-    QApplication::processEvents();
+    page.grab();
     for (int i = 0; i < kChartReadings; ++i) {
         pollOnce(device);
         page.refresh();
@@ -110,7 +108,6 @@ int runPicture(const QStringList& arguments)
         if (shown.view == DevicePage::DeviceView)
             page.showTab(shown.tab);
         page.refresh();
-        QApplication::processEvents();
         const QString file = dir.filePath(QLatin1String(shown.file) + QStringLiteral(".png"));
         if (!page.grab().save(file)) {
             printError(QCoreApplication::translate("Picture", "cannot write %1").arg(file));
