@@ -1,0 +1,178 @@
+// The prompt dialog: buttons by style, answers by key and mouse, dragging, texts nobody expects.
+// Touches only the dialog.
+
+#include "msgbox.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QtTest>
+
+namespace
+{
+
+class Box : public MsgBox
+{
+public:
+    using MsgBox::cancelbtn;
+    using MsgBox::label_body_tit;
+    using MsgBox::MsgBox;
+    using MsgBox::okbtn;
+};
+
+void sendMouse(QWidget* widget, QEvent::Type type, QPoint pos, Qt::MouseButton button,
+               Qt::MouseButtons held)
+{
+    QMouseEvent event(type, pos, widget->mapToGlobal(pos), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+} // namespace
+
+class TestMsgBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void buttonsOfStyle_data();
+    void buttonsOfStyle();
+    void answer_data();
+    void answer();
+    void drag_data();
+    void drag();
+    void texts_data();
+    void texts();
+};
+
+void TestMsgBox::buttonsOfStyle_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<bool>("choice");
+    QTest::newRow("prompt") << int(MSGBOX_STYLE_PROMPT) << false;
+    QTest::newRow("choice") << int(MSGBOX_STYLE_CHOISE) << true;
+    QTest::newRow("unknown style") << 5 << false;
+    QTest::newRow("negative style") << -1 << false;
+}
+
+void TestMsgBox::buttonsOfStyle()
+{
+    QFETCH(int, style);
+    QFETCH(bool, choice);
+    Box box(style, QStringLiteral("Restart the UPS?"));
+    box.adjustSize();
+    box.grab(); // lays out
+    QCOMPARE(box.cancelbtn->isVisibleTo(&box), choice);
+    QVERIFY(box.okbtn->isVisibleTo(&box));
+    QVERIFY(box.width() >= 300 && box.height() >= 150);
+    QRect buttons = box.okbtn->geometry();
+    if (choice) {
+        QCOMPARE(box.cancelbtn->x() - (box.okbtn->x() + box.okbtn->width()), 20);
+        buttons |= box.cancelbtn->geometry();
+    }
+    QVERIFY(qAbs(buttons.center().x() - box.rect().center().x()) <= 1);
+    QCOMPARE(box.windowFlags() & Qt::WindowType_Mask, Qt::WindowFlags(Qt::Dialog));
+    QVERIFY(box.windowFlags() & Qt::FramelessWindowHint);
+    QVERIFY(!(box.windowFlags() & Qt::WindowStaysOnTopHint));
+}
+
+void TestMsgBox::answer_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QList<int>>("keys"); // none: a click on `click`
+    QTest::addColumn<QString>("click");
+    QTest::addColumn<int>("result");
+    const int accepted = QDialog::Accepted;
+    const int rejected = QDialog::Rejected;
+    QTest::newRow("click Ok") << 1 << QList<int>() << "btnBlue" << accepted;
+    QTest::newRow("click Cancel") << 1 << QList<int>() << "btnWhite" << rejected;
+    QTest::newRow("Return") << 1 << QList<int>{Qt::Key_Return} << "" << accepted;
+    QTest::newRow("Enter") << 1 << QList<int>{Qt::Key_Enter} << "" << accepted;
+    QTest::newRow("Space") << 1 << QList<int>{Qt::Key_Space} << "" << accepted;
+    QTest::newRow("Escape") << 1 << QList<int>{Qt::Key_Escape} << "" << rejected;
+    QTest::newRow("Tab, Return") << 1 << QList<int>{Qt::Key_Tab, Qt::Key_Return} << "" << rejected;
+    QTest::newRow("Tab, Tab, Return")
+        << 1 << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return} << "" << accepted;
+    QTest::newRow("prompt: Return") << 0 << QList<int>{Qt::Key_Return} << "" << accepted;
+    QTest::newRow("prompt: Tab, Return")
+        << 0 << QList<int>{Qt::Key_Tab, Qt::Key_Return} << "" << accepted;
+    QTest::newRow("prompt: Escape") << 0 << QList<int>{Qt::Key_Escape} << "" << rejected;
+}
+
+void TestMsgBox::answer()
+{
+    QFETCH(int, style);
+    QFETCH(QList<int>, keys);
+    QFETCH(QString, click);
+    QFETCH(int, result);
+    Box box(style, QStringLiteral("UPS shutdown?"));
+    QTimer::singleShot(0, &box, [&] {
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        QCOMPARE(QApplication::activeModalWidget(), &box);
+        for (int key : keys)
+            QTest::keyClick(box.focusWidget(), static_cast<Qt::Key>(key));
+        if (!click.isEmpty())
+            QTest::mouseClick(box.findChild<QPushButton*>(click), Qt::LeftButton);
+    });
+    QCOMPARE(box.exec(), result);
+}
+
+void TestMsgBox::drag_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<QPoint>("moved");
+    QTest::newRow("left") << int(Qt::LeftButton) << QPoint(50, 30);
+    QTest::newRow("right") << int(Qt::RightButton) << QPoint();
+    QTest::newRow("middle") << int(Qt::MiddleButton) << QPoint();
+}
+
+void TestMsgBox::drag()
+{
+    QFETCH(int, button);
+    const auto pressed = static_cast<Qt::MouseButton>(button);
+    QFETCH(QPoint, moved);
+    Box box(MSGBOX_STYLE_CHOISE, QStringLiteral("UPS shutdown?"));
+    box.move(100, 100);
+    const QPoint start = box.pos();
+    const QPoint grip(10, 12);
+    sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton, Qt::NoButton);
+    QCOMPARE(box.pos(), start);
+    sendMouse(&box, QEvent::MouseButtonPress, grip, pressed, pressed);
+    sendMouse(&box, QEvent::MouseMove, grip + QPoint(50, 30), Qt::NoButton, pressed);
+    QCOMPARE(box.pos(), start + moved);
+    sendMouse(&box, QEvent::MouseButtonRelease, grip, pressed, Qt::NoButton);
+    sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton, Qt::NoButton);
+    QCOMPARE(box.pos(), start + moved);
+}
+
+void TestMsgBox::texts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("wider");
+    QTest::newRow("none") << QString() << false;
+    QTest::newRow("long") << QStringLiteral("UPS will wake up from standby state, as asked?")
+                          << true;
+    QTest::newRow("rich text") << QStringLiteral("<h1>Ok</h1><img src='x'>") << false;
+    QTest::newRow("format string") << QStringLiteral("%s%n%1 &amp;") << false;
+    QTest::newRow("100,000 characters") << QString(100000, 'W') << true;
+    QTest::newRow("20,000 words") << QStringLiteral("word ").repeated(20000) << true;
+}
+
+void TestMsgBox::texts()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, wider);
+    Box box(MSGBOX_STYLE_CHOISE, text);
+    box.adjustSize();
+    QVERIFY(!box.grab().isNull());
+    const QString shown = box.label_body_tit->text();
+    QVERIFY(shown == text || (shown.size() == 1001 && text.startsWith(shown.left(1000))));
+    QCOMPARE(box.label_body_tit->textFormat(), Qt::PlainText);
+    QCOMPARE(box.width() > 300, wider);
+    QVERIFY(box.width() <= QGuiApplication::primaryScreen()->availableSize().width());
+    QVERIFY(box.rect().contains(box.okbtn->geometry()));
+}
+
+QTEST_MAIN(TestMsgBox)
+#include "tst_msgbox.moc"
