@@ -1,0 +1,266 @@
+// The control page: what each choice posts, that nothing goes out unconfirmed, keyboard and shape.
+// Touches the page through its widgets, and the prompt as the operator would.
+
+#include "e_event.h"
+#include "msgbox.h"
+#include "setinfoform.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+
+namespace
+{
+
+using Command = QMap<QString, QVariant>;
+
+// Acts on the prompt that the next press of an OK button opens.
+void onPrompt(const std::function<void(MsgBox*)>& act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        auto* prompt = qobject_cast<MsgBox*>(QApplication::activeModalWidget());
+        QVERIFY(prompt);
+        act(prompt);
+    });
+}
+
+QPushButton* okButton(const SetInfoForm& page, bool testGroup)
+{
+    const auto buttons = page.findChildren<QPushButton*>(QStringLiteral("btnWhite"));
+    return buttons.size() == 2 ? buttons.at(testGroup ? 0 : 1) : nullptr;
+}
+
+QLineEdit* minutes(const SetInfoForm& page)
+{
+    return page.findChild<QLineEdit*>(QStringLiteral("OffSet_1_Time"));
+}
+
+} // namespace
+
+class TestSetInfoForm : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void confirmedPosts_data();
+    void confirmedPosts();
+    void unconfirmedPostsNothing_data();
+    void unconfirmedPostsNothing();
+    void pageRemovedWhilePrompting();
+    void deviceNameAsGiven_data();
+    void deviceNameAsGiven();
+    void minutesField_data();
+    void minutesField();
+    void returnInMinutesPostsNothing();
+    void tabOrderFollowsTheEye();
+    void rowsAligned();
+};
+
+void TestSetInfoForm::confirmedPosts_data()
+{
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<QString>("minutesText");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("logged");
+    const auto row = [](const char* name, const char* choice, const char* minutesText, int code,
+                        const char* value, const char* logged) {
+        QTest::newRow(name) << choice << minutesText << code << value << QByteArray(logged);
+    };
+    row("self-test", "DevTest_0", "60", 1003, "", "on_DevTest_OK_clicked 0");
+    row("discharge", "DevTest_2", "60", 1005, "", "on_DevTest_OK_clicked 1");
+    row("cancel test", "DevTest_3", "60", 1006, "", "on_DevTest_OK_clicked 2");
+    row("shutdown", "OffSet_0", "60", 1007, "12", "on_Offset_OK_clicked 0");
+    row("standby, as it starts", "OffSet_1", "60", 1008, "60", "on_Offset_OK_clicked 1");
+    row("standby, 15 minutes", "OffSet_1", "15", 1008, "15", "on_Offset_OK_clicked 1");
+    row("standby, empty minutes", "OffSet_1", "", 1008, "", "on_Offset_OK_clicked 1");
+    row("wake up", "OffSet_2", "60", 1013, "", "on_Offset_OK_clicked 2");
+    row("restart shares the code", "OffSet_3", "60", 1008, "1", "on_Offset_OK_clicked 3");
+}
+
+void TestSetInfoForm::confirmedPosts()
+{
+    QFETCH(QString, choice);
+    QFETCH(QString, minutesText);
+    QFETCH(int, code);
+    QFETCH(QString, value);
+    QFETCH(QByteArray, logged);
+    SetInfoForm page;
+    page.setCurrentName(QStringLiteral("ups 1"));
+    auto* button = page.findChild<QRadioButton*>(choice);
+    button->setChecked(true);
+    minutes(page)->setText(minutesText);
+    QSignalSpy spy(&page, &SetInfoForm::postDEvent);
+
+    QString question;
+    onPrompt([&](MsgBox* prompt) {
+        question = prompt->findChild<QLabel*>()->text();
+        QVERIFY(spy.isEmpty());
+        prompt->okBtn_press();
+    });
+    QTest::ignoreMessage(QtDebugMsg, logged);
+    okButton(page, choice.startsWith("DevTest"))->click();
+
+    QCOMPARE(question, button->text() + '?');
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(spy.first().at(0).toInt(), code);
+    QCOMPARE(spy.first().at(1).value<Command>(),
+             (Command{{"name", "ups 1"}, {"controlId", code}, {"controlValue", value}}));
+}
+
+void TestSetInfoForm::unconfirmedPostsNothing_data()
+{
+    QTest::addColumn<bool>("testGroup");
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("test, Cancel") << true << false;
+    QTest::newRow("test, Escape") << true << true;
+    QTest::newRow("shutdown, Cancel") << false << false;
+    QTest::newRow("shutdown, Escape") << false << true;
+}
+
+void TestSetInfoForm::unconfirmedPostsNothing()
+{
+    QFETCH(bool, testGroup);
+    QFETCH(bool, byKey);
+    SetInfoForm page;
+    QSignalSpy spy(&page, &SetInfoForm::postDEvent);
+    bool asked = false;
+    onPrompt([&](MsgBox* prompt) {
+        asked = true;
+        if (byKey)
+            QTest::keyClick(prompt, Qt::Key_Escape);
+        else
+            QTest::mouseClick(prompt->findChild<QPushButton*>("btnWhite"), Qt::LeftButton);
+    });
+    okButton(page, testGroup)->click();
+    QVERIFY(asked);
+    QVERIFY(spy.isEmpty());
+}
+
+void TestSetInfoForm::pageRemovedWhilePrompting()
+{
+    QPointer<SetInfoForm> page = new SetInfoForm;
+    QSignalSpy spy(page, &SetInfoForm::postDEvent);
+    onPrompt([&](MsgBox* prompt) {
+        delete page;
+        prompt->okBtn_press();
+    });
+    okButton(*page, false)->click();
+    QVERIFY(!page);
+    QVERIFY(spy.isEmpty());
+}
+
+void TestSetInfoForm::deviceNameAsGiven_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("none set") << QString();
+    QTest::newRow("rich text") << QStringLiteral("<b>ups</b>");
+    QTest::newRow("format string") << QStringLiteral("%s%n%1");
+    QTest::newRow("100,000 characters") << QString(100000, 'u');
+}
+
+void TestSetInfoForm::deviceNameAsGiven()
+{
+    QFETCH(QString, name);
+    SetInfoForm page;
+    if (!name.isEmpty())
+        page.setCurrentName(name);
+    QSignalSpy spy(&page, &SetInfoForm::postDEvent);
+    page.control(eEvent_Control_selfTest, QString());
+    const Command command = spy.first().at(1).value<Command>();
+    QCOMPARE(command.value("name"), QVariant(name));
+    QCOMPARE(int(command.value("controlId").type()), int(QVariant::Int));
+    QCOMPARE(command.value("controlValue"), QVariant(QString()));
+}
+
+void TestSetInfoForm::minutesField_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("kept");
+    QTest::newRow("eight digits") << "12345678"
+                                  << "12345678";
+    QTest::newRow("ninth digit") << "123456789"
+                                 << "12345678";
+    QTest::newRow("letters and signs") << "-1a.5 %"
+                                       << "15";
+}
+
+void TestSetInfoForm::minutesField()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, kept);
+    SetInfoForm page;
+    QCOMPARE(minutes(page)->text(), QStringLiteral("60"));
+    minutes(page)->clear();
+    QTest::keyClicks(minutes(page), typed);
+    QCOMPARE(minutes(page)->text(), kept);
+}
+
+void TestSetInfoForm::returnInMinutesPostsNothing()
+{
+    // In a dialog Return looks for a button to press.
+    QDialog host;
+    auto* page = new SetInfoForm(&host);
+    QSignalSpy spy(page, &SetInfoForm::postDEvent);
+    bool asked = false;
+    QTimer::singleShot(0, &host, [&] {
+        QVERIFY(QTest::qWaitForWindowActive(&host));
+        minutes(*page)->setFocus();
+        QTimer::singleShot(0, &host, [&] {
+            if (auto* prompt = qobject_cast<MsgBox*>(QApplication::activeModalWidget())) {
+                asked = true;
+                prompt->reject();
+            }
+        });
+        QTest::keyClick(minutes(*page), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        host.reject();
+    });
+    host.exec();
+    QVERIFY(!asked);
+    QVERIFY(spy.isEmpty());
+}
+
+void TestSetInfoForm::tabOrderFollowsTheEye()
+{
+    SetInfoForm page;
+    QWidgetList order;
+    for (QWidget* w = page.nextInFocusChain(); w != &page; w = w->nextInFocusChain()) {
+        if (qobject_cast<QAbstractButton*>(w) || qobject_cast<QLineEdit*>(w))
+            order << w;
+    }
+    QStringList names;
+    for (QWidget* w : qAsConst(order))
+        names << w->objectName();
+    QCOMPARE(names, QStringList({"DevTest_0", "DevTest_2", "DevTest_3", "btnWhite", "OffSet_0",
+                                 "OffSet_1", "OffSet_1_Time", "OffSet_2", "OffSet_3", "btnWhite"}));
+    QCOMPARE(order.at(3), okButton(page, true));
+}
+
+void TestSetInfoForm::rowsAligned()
+{
+    SetInfoForm page;
+    page.resize(741, 483);
+    page.grab(); // lays out
+    QList<int> tops;
+    for (const char* name : {"OffSet_0", "OffSet_1", "OffSet_2", "OffSet_3"}) {
+        const auto* button = page.findChild<QRadioButton*>(name);
+        QCOMPARE(button->x(), page.findChild<QRadioButton*>("DevTest_0")->x());
+        tops << button->geometry().center().y();
+    }
+    QVERIFY(qAbs((tops[1] - tops[0]) - (tops[3] - tops[2])) <= 1);
+    QCOMPARE(okButton(page, true)->geometry().right(), okButton(page, false)->geometry().right());
+    QCOMPARE(minutes(page)->size(), QSize(50, 20));
+    QVERIFY(page.findChild<QRadioButton*>("DevTest_0")->isChecked());
+    QVERIFY(page.findChild<QRadioButton*>("OffSet_0")->isChecked());
+}
+
+QTEST_MAIN(TestSetInfoForm)
+#include "tst_setinfoform.moc"
