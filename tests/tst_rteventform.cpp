@@ -1,0 +1,220 @@
+// The alarm page: texts by key, onset times over a sequence of snapshots, the table's behaviour.
+// Touches only the page; time is never waited for, known onsets are planted instead.
+
+#include "globalvar.h"
+#include "rteventform.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QtTest>
+
+#include <limits>
+
+namespace
+{
+
+class Page : public RTEventForm
+{
+public:
+    using RTEventForm::alarmTable;
+    using RTEventForm::eventLogArray_buff;
+    using RTEventForm::table_alarm_record;
+
+    QStringList column(int column) const
+    {
+        QStringList texts;
+        for (int row = 0; row < table_alarm_record->rowCount(); ++row)
+            texts << table_alarm_record->item(row, column)->text();
+        return texts;
+    }
+};
+
+const char kTimeFormat[] = "yyyy-MM-dd HH:mm:ss";
+
+} // namespace
+
+class TestRTEventForm : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textOfKey_data();
+    void textOfKey();
+    void clearTextsFollowShownTexts();
+    void rowsInKeyOrder();
+    void onsetOverTime_data();
+    void onsetOverTime();
+    void hostileStates_data();
+    void hostileStates();
+    void renamingKeepsAlarms();
+    void tableIsReadOnly();
+    void longTextsWrap();
+};
+
+void TestRTEventForm::textOfKey_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QStringList>("shown");
+    const auto row = [](const char* name, int key, const char* text) {
+        QTest::newRow(name) << key << (text ? QStringList(text) : QStringList());
+    };
+    row("first", 2000, "Communication between agent and UPS fault");
+    row("on battery", alarm_OnBattery, "Battery powered");
+    row("last where name and text agree", 2019, "Last diagnostic test failed");
+    row("text ahead of name", alarm_TestFailed,
+        "Communications between the agent and the UPS fault");
+    row("shutdown imminent", alarm_ShutdownImminent, "A test is in progress");
+    row("no text: test in progress", alarm_TestInProgress, nullptr);
+    row("no text: rectifier", alarm_RectifierRun, nullptr);
+    row("no clear text", alarm_InverterRun, "Battery Discharge");
+    row("input switch key, bypass text", alarm_InputSwitch, "Bypass switch is off");
+    row("no text: output switch", alarm_OutputSwitch, nullptr);
+    row("no text: bypass switch", alarm_BypassSwitch, nullptr);
+    row("two keys below its module", alarm_UpsType,
+        "Temperature and humidity module 1 communication lost");
+    row("last", alarm_TH4_Temp_Lo, "Temperature and humidity module 4 humidity is too low");
+    row("below the list", 1999, nullptr);
+    row("above the list", alarm_TH4_Hum_Hi, nullptr);
+    row("input", alarm_OnInput, nullptr);
+}
+
+void TestRTEventForm::textOfKey()
+{
+    QFETCH(int, key);
+    QFETCH(QStringList, shown);
+    Page page;
+    page.RefreshRTEventInfo({{key, 1}});
+    QCOMPARE(page.column(1), shown);
+    const bool listed = key >= 2000 && key < 2054;
+    QCOMPARE(page.alarmTable.keys(), listed ? QList<int>{key - 2000} : QList<int>());
+}
+
+void TestRTEventForm::clearTextsFollowShownTexts()
+{
+    Page page;
+    QCOMPARE(page.eventLogArray_buff.size(), 108);
+    QCOMPARE(page.eventLogArray_buff.at(54 + 9), QStringLiteral("Inverter operation"));
+    QCOMPARE(page.eventLogArray_buff.at(54 + 26), QString());
+    QCOMPARE(page.eventLogArray_buff.last(),
+             QStringLiteral("Temperature and humidity module 4 humidity is normal"));
+}
+
+void TestRTEventForm::rowsInKeyOrder()
+{
+    Page page;
+    page.RefreshRTEventInfo({{2009, 1}, {2001, 1}, {2024, 1}, {2005, 0}});
+    QCOMPARE(page.column(1), QStringList({"Battery fault", "Bypass powered"}));
+    page.RefreshRTEventInfo({});
+    QCOMPARE(page.table_alarm_record->rowCount(), 0);
+    QVERIFY(page.alarmTable.isEmpty());
+}
+
+void TestRTEventForm::onsetOverTime_data()
+{
+    QTest::addColumn<QVariantList>("later"); // states after the first pass, which is 1
+    QTest::addColumn<bool>("shown");
+    QTest::addColumn<bool>("keepsOnset");
+    QTest::newRow("stays raised") << QVariantList{1, 1} << true << true;
+    QTest::newRow("cleared") << QVariantList{0} << false << false;
+    QTest::newRow("missing") << QVariantList{QVariant()} << false << false;
+    QTest::newRow("no number") << QVariantList{"raised"} << false << false;
+    QTest::newRow("cleared, raised again") << QVariantList{0, 1} << true << false;
+    QTest::newRow("2 hides only") << QVariantList{2} << false << true;
+    QTest::newRow("-1 hides only") << QVariantList{-1} << false << true;
+    QTest::newRow("2, raised again") << QVariantList{2, 1} << true << true;
+    QTest::newRow("2, cleared, raised") << QVariantList{2, 0, 1} << true << false;
+}
+
+void TestRTEventForm::onsetOverTime()
+{
+    QFETCH(QVariantList, later);
+    QFETCH(bool, shown);
+    QFETCH(bool, keepsOnset);
+    const QDateTime planted({2020, 2, 29}, {23, 59, 58});
+    Page page;
+    const QDateTime before = QDateTime::currentDateTime();
+    page.RefreshRTEventInfo({{alarm_LowBattery, 1}});
+    QVERIFY(page.alarmTable.value(3) >= before);
+    page.alarmTable[3] = planted;
+
+    for (const QVariant& state : later)
+        page.RefreshRTEventInfo({{alarm_LowBattery, state}});
+
+    QCOMPARE(page.alarmTable.value(3) == planted, keepsOnset);
+    QCOMPARE(page.table_alarm_record->rowCount(), shown ? 1 : 0);
+    if (shown)
+        QCOMPARE(page.column(0), QStringList(page.alarmTable.value(3).toString(kTimeFormat)));
+}
+
+void TestRTEventForm::hostileStates_data()
+{
+    QTest::addColumn<QVariant>("state");
+    QTest::newRow("rich text") << QVariant("<b>1</b>");
+    QTest::newRow("format string") << QVariant("%s%n%1");
+    QTest::newRow("100,000 characters") << QVariant(QString(100000, '1'));
+    QTest::newRow("list") << QVariant(QVariantList{1});
+    QTest::newRow("NaN") << QVariant(std::numeric_limits<double>::quiet_NaN());
+    QTest::newRow("INT_MAX") << QVariant(std::numeric_limits<int>::max());
+    QTest::newRow("INT_MIN") << QVariant(std::numeric_limits<int>::min());
+}
+
+void TestRTEventForm::hostileStates()
+{
+    QFETCH(QVariant, state);
+    QMap<int, QVariant> snapshot;
+    for (int key = 1990; key <= alarm_cloud_connect_falil; ++key)
+        snapshot.insert(key, state);
+    Page page;
+    page.RefreshRTEventInfo(snapshot);
+    QCOMPARE(page.table_alarm_record->rowCount(), 0);
+    QVERIFY(page.alarmTable.isEmpty());
+}
+
+void TestRTEventForm::renamingKeepsAlarms()
+{
+    Page page;
+    page.RefreshRTEventInfo({{alarm_LowBattery, 1}});
+    page.setCurrentName(QStringLiteral("other"));
+    page.InitRTEventFormInfo();
+    QCOMPARE(page.column(1), QStringList("Battery low"));
+}
+
+void TestRTEventForm::tableIsReadOnly()
+{
+    Page page;
+    QTableWidget* table = page.table_alarm_record;
+    QCOMPARE(table->parentWidget()->objectName(), QStringLiteral("AlarmTable"));
+    QCOMPARE(table->minimumHeight(), 610);
+    QVERIFY(table->verticalHeader()->isHidden());
+
+    page.RefreshRTEventInfo({{2001, 1}, {2003, 1}});
+    QCOMPARE(table->item(0, 0)->textAlignment(), int(Qt::AlignCenter));
+    page.resize(741, 660);
+    page.grab(); // lays out
+    const auto centre = [table](int row) {
+        return table->visualItemRect(table->item(row, 1)).center();
+    };
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, centre(0));
+    QVERIFY(!table->isPersistentEditorOpen(table->item(0, 1)));
+    QVERIFY(table->findChildren<QLineEdit*>().isEmpty());
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, centre(0));
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::ControlModifier, centre(1));
+    QCOMPARE(table->selectedItems().size(), 2); // both cells of one row
+    QCOMPARE(table->selectedItems().first()->row(), 1);
+
+    page.RefreshRTEventInfo({{2001, 1}, {2003, 1}});
+    QVERIFY(table->selectedItems().isEmpty());
+}
+
+void TestRTEventForm::longTextsWrap()
+{
+    Page page;
+    page.resize(420, 660);
+    page.RefreshRTEventInfo({{alarm_OnBattery, 1}, {alarm_KVFLAG, 1}});
+    page.grab();
+    QVERIFY(page.table_alarm_record->rowHeight(1) > page.table_alarm_record->rowHeight(0));
+}
+
+QTEST_MAIN(TestRTEventForm)
+#include "tst_rteventform.moc"
