@@ -9,16 +9,18 @@ namespace
 
 constexpr double kUnknownMarks[] = {-1.0, 65535.0, 655350.0, 4294967295.0, -273.0};
 
-bool isValidUtf8(const QByteArray& raw)
+// With the size given, Qt reads on behind a zero byte.
+QString decoded(const QByteArray& raw)
 {
-    return QString::fromUtf8(raw).toUtf8() == raw;
+    const QString utf8 = QString::fromUtf8(raw.constData(), raw.size());
+    return utf8.toUtf8() == raw ? utf8 : QString::fromLatin1(raw.constData(), raw.size());
 }
 
 } // namespace
 
 QString cleanDeviceText(const QByteArray& raw)
 {
-    return cleanDeviceText(isValidUtf8(raw) ? QString::fromUtf8(raw) : QString::fromLatin1(raw));
+    return cleanDeviceText(decoded(raw));
 }
 
 QString cleanDeviceText(const QString& raw)

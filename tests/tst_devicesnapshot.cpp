@@ -1,0 +1,284 @@
+// From a reading to data keys: rounding, halves, tenths, phases, alarms by their text, and the
+// difference between the pages. Also that the host's alarm texts are what the alarm page shows.
+
+#include "reading/devicesnapshot.h"
+#include "reading/devicetext.h"
+#include "reading/keynames.h"
+
+#include "globalvar.h"
+#include "rteventform.h"
+
+#include <QTableWidget>
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+Q_DECLARE_METATYPE(SnapshotPage)
+
+class TestDeviceSnapshot : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void numbers_data();
+    void numbers();
+    void absentStaysAbsent();
+    void phases_data();
+    void phases();
+    void alarmKeysAlwaysComplete();
+    void alarmTextIsWhatThePageShows_data();
+    void alarmTextIsWhatThePageShows();
+    void communicationsLost();
+    void deviceText_data();
+    void deviceText();
+    void deviceNumber_data();
+    void deviceNumber();
+    void keyNamesByNumber();
+};
+
+namespace
+{
+
+using Fill = std::function<void(UpsReading&)>;
+
+int valueOf(const Fill& fill, SnapshotPage page, int key)
+{
+    UpsReading reading;
+    fill(reading);
+    const auto map = deviceSnapshot(reading, page);
+    return map.contains(key) ? map.value(key).toInt() : std::numeric_limits<int>::min();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Fill)
+
+void TestDeviceSnapshot::numbers_data()
+{
+    QTest::addColumn<Fill>("fill");
+    QTest::addColumn<SnapshotPage>("page");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("expected");
+
+    const auto row = [](const char* name, Fill fill, SnapshotPage page, int key, int expected) {
+        QTest::newRow(name) << fill << page << key << expected;
+    };
+    const auto device = SnapshotPage::Device;
+    const auto energy = SnapshotPage::EnergyFlow;
+    const auto chart = SnapshotPage::Chart;
+    row(
+        "whole minutes, rounded down", [](UpsReading& r) { r.runtime = 119.9; }, device,
+        realdata_MinutesRemaining, 1);
+    row(
+        "charge above 100 is cut", [](UpsReading& r) { r.charge = 104; }, device,
+        realdata_ChargeRemaining, 100);
+    row(
+        "charge below 0 is cut", [](UpsReading& r) { r.charge = -3; }, device,
+        realdata_ChargeRemaining, 0);
+    row(
+        "tenths", [](UpsReading& r) { r.batteryVoltage = 25.6; }, device, realdata_BatVoltage, 256);
+    row(
+        "half of a tenth, away from zero", [](UpsReading& r) { r.batteryVoltage = 1.15; }, device,
+        realdata_BatVoltage, 12);
+    row(
+        "negative half, away from zero", [](UpsReading& r) { r.batteryCurrent = -0.25; }, device,
+        realdata_BatCurrent, -3);
+    row(
+        "discharge keeps its sign", [](UpsReading& r) { r.batteryCurrent = -12.4; }, device,
+        realdata_BatCurrent, -124);
+    row(
+        "charts get its magnitude", [](UpsReading& r) { r.batteryCurrent = -12.4; }, chart,
+        realdata_BatCurrent, 124);
+    row(
+        "temperature in tenths", [](UpsReading& r) { r.batteryTemperature = 23.5; }, device,
+        realdata_BatTemp, 235);
+    row(
+        "charts get whole degrees", [](UpsReading& r) { r.batteryTemperature = 23.5; }, chart,
+        realdata_BatTemp, 24);
+    row(
+        "power in watts", [](UpsReading& r) { r.output.power[0] = 1499.6; }, device,
+        realdata_OutputPower_A_Hi, 1500);
+    row(
+        "energy flow in kilowatts", [](UpsReading& r) { r.output.power[0] = 1500; }, energy,
+        realdata_OutputPower_A_Hi, 2);
+    row(
+        "below half a kilowatt", [](UpsReading& r) { r.output.power[0] = 499; }, energy,
+        realdata_OutputPower_A_Hi, 0);
+    row(
+        "rating stays in watts", [](UpsReading& r) { r.ratedPower = 18000; }, energy,
+        realdata_ConfigOPW_Hi, 18000);
+    row(
+        "apparent power halved", [](UpsReading& r) { r.ratedApparentPower = 3001; }, device,
+        realdata_ConfigOPVA_Hi, 1501);
+    row(
+        "low word is 0", [](UpsReading& r) { r.ratedPower = 18000; }, device, realdata_ConfigOPW_Lo,
+        0);
+    row(
+        "counter beyond an int", [](UpsReading& r) { r.inputLineBads = 4.2e9; }, device,
+        realdata_InputLineBads, INT_MAX);
+    row(
+        "source of an empty reading", [](UpsReading&) {}, device, realdata_OutputSource, 1);
+    row(
+        "battery of an empty reading", [](UpsReading&) {}, device, realdata_BatteryStatus, 1);
+    row(
+        "nominal frequency", [](UpsReading& r) { r.ratedInputFrequency = 59.94; }, device,
+        realdata_ConfigIPFre, 599);
+}
+
+void TestDeviceSnapshot::numbers()
+{
+    QFETCH(Fill, fill);
+    QFETCH(SnapshotPage, page);
+    QFETCH(int, key);
+    QFETCH(int, expected);
+    QCOMPARE(valueOf(fill, page, key), expected);
+}
+
+void TestDeviceSnapshot::absentStaysAbsent()
+{
+    const auto map = deviceSnapshot({}, SnapshotPage::Device);
+    for (int key : {realdata_BatVoltage, realdata_MinutesRemaining, realdata_InputVoltage_A,
+                    realdata_OutputLoad_A, realdata_BypFre, info_ups_type, info_innum})
+        QVERIFY2(!map.contains(key), qPrintable(keyName(key)));
+}
+
+void TestDeviceSnapshot::phases_data()
+{
+    QTest::addColumn<int>("lines");
+    QTest::addColumn<int>("shown");
+    QTest::addColumn<bool>("phaseB");
+    QTest::newRow("not said") << -1 << 1 << false;
+    QTest::newRow("no such input") << 0 << 1 << false;
+    QTest::newRow("single, phantom rows left out") << 1 << 1 << false;
+    QTest::newRow("split phase") << 2 << 1 << false;
+    QTest::newRow("three") << 3 << 3 << true;
+}
+
+void TestDeviceSnapshot::phases()
+{
+    QFETCH(int, lines);
+    QFETCH(int, shown);
+    QFETCH(bool, phaseB);
+    UpsReading reading;
+    if (lines >= 0)
+        reading.bypass.lines = lines;
+    reading.bypass.voltage = {230.4, 231.5, 229.0};
+    const auto map = deviceSnapshot(reading, SnapshotPage::Device);
+    QCOMPARE(map.value(realdata_BypNumLines).toInt(), shown);
+    QCOMPARE(map.value(realdata_BypVoltage_A).toInt(), 230);
+    QCOMPARE(map.contains(realdata_BypVoltage_B), phaseB);
+    QCOMPARE(map.contains(info_bypnum), lines >= 0);
+    QCOMPARE(readingNotes(reading).size(), lines == 2 ? 1 : 0);
+}
+
+void TestDeviceSnapshot::alarmKeysAlwaysComplete()
+{
+    UpsReading reading;
+    reading.alarms = {Alarm::OnBattery, Alarm::AwaitingPower};
+    const auto map = deviceSnapshot(reading, SnapshotPage::Device);
+    int raised = 0;
+    for (int key = alarm_CommunicationsLost; key <= alarm_TestInProgress; ++key) {
+        QVERIFY(map.contains(key));
+        raised += map.value(key).toInt();
+    }
+    QCOMPARE(raised, 1);
+    QCOMPARE(map.value(alarm_OnBattery).toInt(), 1);
+}
+
+void TestDeviceSnapshot::alarmTextIsWhatThePageShows_data()
+{
+    QTest::addColumn<int>("number");
+    for (int number = 1; number <= static_cast<int>(Alarm::TestInProgress); ++number)
+        QTest::addRow("alarm %d", number) << number;
+}
+
+void TestDeviceSnapshot::alarmTextIsWhatThePageShows()
+{
+    QFETCH(int, number);
+    const auto alarm = static_cast<Alarm>(number);
+    UpsReading reading;
+    reading.alarms = {alarm};
+    RTEventForm page(nullptr);
+    page.RefreshRTEventInfo(deviceSnapshot(reading, SnapshotPage::Device));
+    auto* table = page.findChild<QTableWidget*>();
+    QVERIFY(table);
+    if (alarm == Alarm::AwaitingPower) {
+        QCOMPARE(table->rowCount(), 0);
+        QVERIFY(!alarmText(alarm).isEmpty());
+        return;
+    }
+    QCOMPARE(table->rowCount(), 1);
+    QCOMPARE(table->item(0, 1)->text(), alarmText(alarm));
+}
+
+void TestDeviceSnapshot::communicationsLost()
+{
+    SnapshotLink link;
+    QCOMPARE(deviceSnapshot({}, SnapshotPage::Device, link).value(alarm_CommunicationsLost).toInt(),
+             0);
+    link.communicationsLost = true;
+    QCOMPARE(deviceSnapshot({}, SnapshotPage::Device, link).value(alarm_CommunicationsLost).toInt(),
+             1);
+}
+
+void TestDeviceSnapshot::deviceText_data()
+{
+    QTest::addColumn<QByteArray>("raw");
+    QTest::addColumn<QString>("clean");
+    QTest::newRow("plain") << QByteArray("Smart-UPS 1000") << "Smart-UPS 1000";
+    QTest::newRow("UTF-8") << QByteArray("K\xc3\xb6ln") << QString::fromUtf8("K\xc3\xb6ln");
+    QTest::newRow("Latin-1") << QByteArray("K\xf6ln") << QString::fromUtf8("K\xc3\xb6ln");
+    QTest::newRow("control characters") << QByteArray("a\x1b[31mb\x07\0c", 10) << "a[31mbc";
+    QTest::newRow("white space") << QByteArray("  a\r\n\tb ") << "a   b";
+    QTest::newRow("text direction override")
+        << QString(QChar(0x202e)).append("abc").toUtf8() << "abc";
+    QTest::newRow("too long") << QByteArray(1000, 'x') << QString(kMaxDeviceText, 'x');
+}
+
+void TestDeviceSnapshot::deviceText()
+{
+    QFETCH(QByteArray, raw);
+    QTEST(cleanDeviceText(raw), "clean");
+}
+
+void TestDeviceSnapshot::deviceNumber_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<double>("number"); // NaN: absent
+    const double absent = std::nan("");
+    QTest::newRow("decimal") << QByteArray("227.50") << 227.5;
+    QTest::newRow("leading zeros") << QByteArray("051.0") << 51.0;
+    QTest::newRow("blanks") << QByteArray(" 12 ") << 12.0;
+    QTest::newRow("empty") << QByteArray() << absent;
+    QTest::newRow("words") << QByteArray("n/a") << absent;
+    QTest::newRow("comma") << QByteArray("12,5") << absent;
+    QTest::newRow("not known, -1") << QByteArray("-1.00") << absent;
+    QTest::newRow("not known, 65535") << QByteArray("65535") << absent;
+    QTest::newRow("not known, 32 bits") << QByteArray("4294967295") << absent;
+    QTest::newRow("not finite") << QByteArray("inf") << absent;
+    QTest::newRow("negative but real") << QByteArray("-12.5") << -12.5;
+}
+
+void TestDeviceSnapshot::deviceNumber()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(double, number);
+    const Value value = plausibleNumber(text);
+    QCOMPARE(value.has_value(), !std::isnan(number));
+    if (value)
+        QCOMPARE(*value, number);
+}
+
+void TestDeviceSnapshot::keyNamesByNumber()
+{
+    QCOMPARE(keyName(9), QStringLiteral("realdata_InputVoltage_A"));
+    QCOMPARE(keyName(2067), QStringLiteral("alarm_cloud_connect_falil"));
+    QCOMPARE(keyName(4014), QStringLiteral("info_ipAddr"));
+    QVERIFY(keyName(73).isEmpty());
+    QVERIFY(keyName(-1).isEmpty());
+    QVERIFY(keyName(5000).isEmpty());
+}
+
+QTEST_MAIN(TestDeviceSnapshot)
+#include "tst_devicesnapshot.moc"
