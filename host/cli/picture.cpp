@@ -36,6 +36,13 @@ constexpr int kMostSide = 8192;
 constexpr int kChartReadings = 6;
 constexpr unsigned long kBetweenReadingsMs = 200;
 
+// Without a display Qt remarks on every window that its size hints reach no window manager.
+void dropSizeHintRemarks(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (text != QLatin1String("This plugin does not support propagateSizeHints()"))
+        fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+}
+
 bool readSize(const QString& text, QSize& size)
 {
     static const QRegularExpression pattern(QStringLiteral("^(\\d{1,5})x(\\d{1,5})$"));
@@ -91,9 +98,12 @@ int runPicture(const QStringList& arguments)
     CommandDesk desk(fleet, log, [] { return CommandDesk::Operator{}; });
     Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
     DevicePage page(device, desk);
+    qInstallMessageHandler(dropSizeHintRemarks);
     page.resize(size);
+    page.setAttribute(Qt::WA_DontShowOnScreen);
+    page.show();
     page.showView(DevicePage::ChartView);
-    page.grab();
+    QApplication::processEvents();
     for (int i = 0; i < kChartReadings; ++i) {
         pollOnce(device);
         page.refresh();
@@ -108,6 +118,7 @@ int runPicture(const QStringList& arguments)
         if (shown.view == DevicePage::DeviceView)
             page.showTab(shown.tab);
         page.refresh();
+        QApplication::processEvents();
         const QString file = dir.filePath(QLatin1String(shown.file) + QStringLiteral(".png"));
         if (!page.grab().save(file)) {
             printError(QCoreApplication::translate("Picture", "cannot write %1").arg(file));

@@ -8,6 +8,19 @@ namespace
 // Polls arrive by the hundred a second in a large fleet; the views learn of them in batches.
 constexpr int kFlushMs = 200;
 
+struct CountWord {
+    Urgency urgency;
+    const char* word;
+};
+
+constexpr CountWord kCountWords[] = {
+    {Urgency::Critical, QT_TRANSLATE_NOOP("DeviceListModel", "%1 critical")},
+    {Urgency::Alarm, QT_TRANSLATE_NOOP("DeviceListModel", "%1 alarm")},
+    {Urgency::Warning, QT_TRANSLATE_NOOP("DeviceListModel", "%1 warning")},
+    {Urgency::Notice, QT_TRANSLATE_NOOP("DeviceListModel", "%1 notice")},
+    {Urgency::Normal, QT_TRANSLATE_NOOP("DeviceListModel", "%1 normal")},
+};
+
 } // namespace
 
 DeviceListModel::DeviceListModel(Fleet& fleet, QObject* parent)
@@ -73,6 +86,16 @@ QMap<Urgency, int> DeviceListModel::counts() const
     for (int i = 0; i < m_fleet.count(); ++i)
         ++counts[m_fleet.at(i)->condition().urgency];
     return counts;
+}
+
+QString DeviceListModel::countsText() const
+{
+    const auto numbers = counts();
+    QStringList words;
+    for (const CountWord& word : kCountWords)
+        if (const int number = numbers.value(word.urgency))
+            words << tr(word.word).arg(number);
+    return words.join(QStringLiteral("  \u00b7  "));
 }
 
 Device* DeviceListModel::deviceAt(const QModelIndex& index)

@@ -26,8 +26,9 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
-    // Number of devices of each urgency.
+    // Number of devices of each urgency, and the same in words, worst first.
     QMap<Urgency, int> counts() const;
+    QString countsText() const;
 
     static Device* deviceAt(const QModelIndex& index);
 

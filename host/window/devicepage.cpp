@@ -71,6 +71,9 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     column->addWidget(m_viewTabs);
     column->addWidget(m_stack, 1);
 
+    // The view brings a light ground of its own; the theme's takes its place.
+    m_view->setStyleSheet(QStringLiteral("background-color: %1;")
+                              .arg(palette().color(QPalette::Window).name()));
     const QString name = device.name();
     m_view->setName(name);
     m_charts->setCurrentName(name);

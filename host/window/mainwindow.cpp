@@ -25,19 +25,6 @@ constexpr QSize kFirstSize(1240, 900);
 constexpr int kSideWidth = 290;
 constexpr int kEventListHeight = 150;
 
-struct CountWord {
-    Urgency urgency;
-    const char* word;
-};
-
-constexpr CountWord kCountWords[] = {
-    {Urgency::Critical, QT_TRANSLATE_NOOP("MainWindow", "%1 critical")},
-    {Urgency::Alarm, QT_TRANSLATE_NOOP("MainWindow", "%1 alarm")},
-    {Urgency::Warning, QT_TRANSLATE_NOOP("MainWindow", "%1 warning")},
-    {Urgency::Notice, QT_TRANSLATE_NOOP("MainWindow", "%1 notice")},
-    {Urgency::Normal, QT_TRANSLATE_NOOP("MainWindow", "%1 normal")},
-};
-
 } // namespace
 
 MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, QWidget* parent)
@@ -98,8 +85,8 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, QWidget* 
                 m_banner->say(message.isEmpty() ? head : head + QStringLiteral(". ") + message,
                               isBad);
             });
-    connect(m_model, &DeviceListModel::refreshed, this, &MainWindow::showCounts);
-    showCounts();
+    connect(m_model, &DeviceListModel::refreshed, this,
+            [this] { m_counts->setText(m_model->countsText()); });
 }
 
 QWidget* MainWindow::makeSidePanel()
@@ -187,16 +174,6 @@ void MainWindow::refreshOperator()
 {
     for (DevicePage* page : qAsConst(m_pageOf))
         page->refreshOperator();
-}
-
-void MainWindow::showCounts()
-{
-    const auto counts = m_model->counts();
-    QStringList words;
-    for (const CountWord& word : kCountWords)
-        if (const int count = counts.value(word.urgency))
-            words << tr(word.word).arg(count);
-    m_counts->setText(words.join(QStringLiteral("  \u00b7  ")));
 }
 
 void MainWindow::forget(const Device* device)

@@ -38,7 +38,6 @@ public slots:
 private:
     QWidget* makeSidePanel();
     QWidget* makeEventList(EventLog& log);
-    void showCounts();
     void forget(const Device* device);
 
     Fleet& m_fleet;

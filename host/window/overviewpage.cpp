@@ -1,0 +1,84 @@
+#include "overviewpage.h"
+
+#include "window/devicelistmodel.h"
+#include "window/devicesortmodel.h"
+#include "window/devicetiledelegate.h"
+
+#include <QLabel>
+#include <QListView>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kLeastTileWidth = 290; // px
+
+} // namespace
+
+OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_sorted(new DeviceSortModel(this))
+    , m_delegate(new DeviceTileDelegate(this))
+    , m_tiles(new QListView)
+    , m_counts(new QLabel)
+{
+    m_sorted->setSourceModel(&model);
+    m_sorted->setWorstFirst(true);
+    m_counts->setObjectName(QStringLiteral("OverviewCounts"));
+    m_tiles->setObjectName(QStringLiteral("OverviewTiles"));
+    m_tiles->setAccessibleName(tr("All devices"));
+    m_tiles->setModel(m_sorted);
+    m_tiles->setItemDelegate(m_delegate);
+    m_tiles->setViewMode(QListView::IconMode);
+    m_tiles->setMovement(QListView::Static);
+    m_tiles->setResizeMode(QListView::Adjust);
+    m_tiles->setUniformItemSizes(true);
+    m_tiles->setSelectionMode(QAbstractItemView::NoSelection);
+    m_tiles->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_tiles->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_tiles->setFrameShape(QFrame::NoFrame);
+    m_tiles->setMouseTracking(true);
+    const auto choose = [this](const QModelIndex& index) {
+        if (Device* device = DeviceListModel::deviceAt(index))
+            emit deviceChosen(device);
+    };
+    connect(m_tiles, &QListView::clicked, this, choose);
+    connect(m_tiles, &QListView::activated, this, choose);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(12, 10, 12, 0);
+    column->addWidget(m_counts);
+    column->addWidget(m_tiles, 1);
+    connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::showCounts);
+    showCounts();
+}
+
+void OverviewPage::refreshAge()
+{
+    if (isVisible())
+        m_tiles->viewport()->update();
+}
+
+void OverviewPage::showCounts()
+{
+    m_counts->setText(m_model.countsText());
+}
+
+void OverviewPage::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    fitTiles();
+}
+
+// As many tiles in a row as find room, and all of them equally wide.
+void OverviewPage::fitTiles()
+{
+    const int room = m_tiles->width() - m_tiles->verticalScrollBar()->sizeHint().width() - 2;
+    const int columns = std::max(room / kLeastTileWidth, 1);
+    m_delegate->setTileWidth(room / columns);
+    m_tiles->doItemsLayout();
+}

@@ -1,0 +1,43 @@
+#ifndef OVERVIEWPAGE_H
+#define OVERVIEWPAGE_H
+
+// All devices as tiles, the most urgent first.
+// May touch: the device list model.
+
+#include <QWidget>
+
+class Device;
+class DeviceListModel;
+class DeviceSortModel;
+class DeviceTileDelegate;
+class QLabel;
+class QListView;
+
+class OverviewPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit OverviewPage(DeviceListModel& model, QWidget* parent = nullptr);
+
+    // Time has passed: ages have grown.
+    void refreshAge();
+
+signals:
+    void deviceChosen(Device* device);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void showCounts();
+    void fitTiles();
+
+    DeviceListModel& m_model;
+    DeviceSortModel* m_sorted;
+    DeviceTileDelegate* m_delegate;
+    QListView* m_tiles;
+    QLabel* m_counts;
+};
+
+#endif // OVERVIEWPAGE_H
