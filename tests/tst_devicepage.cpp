@@ -1,0 +1,299 @@
+// What the window shows of one device: each page gets its own units, what is not live is covered,
+// the right to command follows the operator, and a command reaches the connector.
+
+#include "fleet/commanddesk.h"
+#include "support/scriptedconnector.h"
+#include "window/devicelistmodel.h"
+#include "window/devicepage.h"
+#include "window/devicesortmodel.h"
+#include "window/linkcover.h"
+#include "window/mainwindow.h"
+#include "window/valuewords.h"
+
+#include "childform.h"
+#include "energyline.h"
+#include "msgbox.h"
+#include "rateinfoform.h"
+#include "rteventform.h"
+#include "setinfoform.h"
+#include "support/recordingdevice.h"
+
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QtTest>
+
+#include <climits>
+#include <cmath>
+
+namespace
+{
+
+UpsReading onMains()
+{
+    UpsReading reading;
+    reading.outputSource = OutputSource::Utility;
+    reading.batteryState = BatteryState::Normal;
+    reading.charge = 87;
+    reading.runtime = 21 * 60;
+    reading.input.lines = 1;
+    reading.output.lines = 1;
+    reading.output.power[0] = 1500;
+    reading.output.load[0] = 34;
+    return reading;
+}
+
+struct Desk {
+    QVector<ScriptedConnector*> connectors;
+    Fleet fleet{[this](const DeviceSettings&) {
+        auto connector = std::make_unique<ScriptedConnector>();
+        connectors << connector.get();
+        return connector;
+    }};
+    EventLog log;
+    CommandDesk::Operator who;
+    CommandDesk commands{fleet, log, [this] { return who; }};
+
+    Device& add(const QString& address, const QString& name = QString())
+    {
+        DeviceSettings settings;
+        settings.address = *parseDeviceAddress(address).address;
+        settings.name = name;
+        return *fleet.add(settings);
+    }
+    void answer(int device, const UpsReading& reading)
+    {
+        connectors[device]->answer(LinkState::Live, reading);
+    }
+};
+
+// A page within a window that takes no size hints from it: the offscreen platform remarks on them.
+struct ShownPage {
+    ShownPage(Device& device, CommandDesk& desk)
+        : page(new DevicePage(device, desk, &window))
+    {
+        window.resize(1024, 768);
+        page->resize(window.size());
+        window.show();
+    }
+    DevicePage* operator->() const { return page; }
+
+    QWidget window;
+    DevicePage* page;
+};
+
+QStringList paintedTexts(QWidget* widget)
+{
+    RecordingDevice recorder(widget->size());
+    widget->render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());
+    return recorder.texts();
+}
+
+QStringList labelTexts(const QWidget* widget)
+{
+    QStringList texts;
+    for (const QLabel* label : widget->findChildren<QLabel*>())
+        texts << label->text();
+    return texts;
+}
+
+} // namespace
+
+class TestDevicePage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void eachPageGetsItsUnits();
+    void notLiveIsCovered_data();
+    void notLiveIsCovered();
+    void levelFollowsTheOperator();
+    void confirmedCommandReachesTheConnector();
+    void hostileReadingIsShownAsText();
+    void listFiltersAndSorts();
+    void removedDeviceLeavesNoPage();
+    void words_data();
+    void words();
+};
+
+void TestDevicePage::eachPageGetsItsUnits()
+{
+    Desk desk;
+    Device& device = desk.add("nut://h/u");
+    ShownPage page(device, desk.commands);
+    desk.answer(0, onMains());
+    page->refresh();
+    QVERIFY(paintedTexts(page->findChild<Energyline*>()).contains("2 KW"));
+    page->showTab(2);
+    QVERIFY(labelTexts(page->findChild<RateInfoForm*>()).contains("1500 W"));
+    page->showTab(0);
+    QVERIFY(paintedTexts(page->findChild<Energyline*>()).contains("2 KW"));
+}
+
+void TestDevicePage::notLiveIsCovered_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<bool>("covered");
+    QTest::newRow("live") << int(LinkState::Live) << false;
+    QTest::newRow("stale") << int(LinkState::Stale) << true;
+    QTest::newRow("lost") << int(LinkState::Lost) << true;
+    QTest::newRow("refused") << int(LinkState::Refused) << true;
+}
+
+void TestDevicePage::notLiveIsCovered()
+{
+    QFETCH(int, state);
+    QFETCH(bool, covered);
+    Desk desk;
+    Device& device = desk.add("nut://h/u");
+    ShownPage page(device, desk.commands);
+    auto* cover = page->findChild<LinkCover*>();
+    QVERIFY(cover->isVisible()); // nothing is known yet
+
+    desk.answer(0, onMains());
+    desk.connectors[0]->answer(static_cast<LinkState>(state), onMains(), "the driver is gone");
+    page->refresh();
+    QCOMPARE(cover->isVisible(), covered);
+    QCOMPARE(cover->accessibleName().contains("the driver is gone"), covered);
+    QVERIFY(!covered || cover->size() == cover->parentWidget()->size());
+    // The last good values stay readable, and the alarm page says that they are old.
+    page->showTab(1);
+    const auto* table = page->findChild<RTEventForm*>()->findChild<QTableWidget*>();
+    QCOMPARE(table->rowCount(), covered ? 1 : 0);
+}
+
+void TestDevicePage::levelFollowsTheOperator()
+{
+    Desk desk;
+    Device& real = desk.add("nut://h/u");
+    Device& simulated = desk.add("sim:");
+    DevicePage realPage(real, desk.commands);
+    DevicePage simulatedPage(simulated, desk.commands);
+    QVERIFY(!realPage.findChild<SetInfoForm*>()->isEnabled());
+    QVERIFY(simulatedPage.findChild<SetInfoForm*>()->isEnabled());
+    desk.who = {"anna", 1};
+    realPage.refreshOperator();
+    QVERIFY(realPage.findChild<SetInfoForm*>()->isEnabled());
+}
+
+void TestDevicePage::confirmedCommandReachesTheConnector()
+{
+    Desk desk;
+    Device& device = desk.add("sim:", "Rack 3");
+    DevicePage page(device, desk.commands);
+    const auto press = [&](bool confirm) {
+        QTimer::singleShot(0, [confirm] {
+            auto* box = qobject_cast<MsgBox*>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            confirm ? box->accept() : box->reject();
+        });
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("on_DevTest_OK_clicked.*"));
+        page.findChild<SetInfoForm*>()->findChild<QPushButton*>("btnWhite")->click();
+    };
+    press(true);
+    QCOMPARE(desk.connectors[0]->sent.size(), 1);
+    QCOMPARE(desk.connectors[0]->sent.first().kind, CommandKind::SelfTest);
+    QCOMPARE(desk.log.at(0).device, QStringLiteral("Rack 3"));
+}
+
+void TestDevicePage::hostileReadingIsShownAsText()
+{
+    UpsReading hostile = onMains();
+    const QString text = QStringLiteral("<img src=x><b>%s%n%1</b>") + QString(100000, 'x');
+    for (QString UpsReading::*field :
+         {&UpsReading::model, &UpsReading::manufacturer, &UpsReading::name})
+        hostile.*field = text;
+    hostile.notes = QStringList{text};
+    hostile.alarmTexts = QStringList{text};
+    hostile.charge = std::nan("");
+    hostile.runtime = 1e300;
+    hostile.output.power[0] = INFINITY;
+    hostile.output.load[0] = -INFINITY;
+    Desk desk;
+    Device& device = desk.add("nut://h/u");
+    ShownPage page(device, desk.commands);
+    desk.answer(0, hostile);
+    for (int tab = 0; tab < 4; ++tab) {
+        page->showTab(tab);
+        page->refresh();
+        QVERIFY(!page->grab().isNull());
+    }
+    for (const QLabel* label : page->findChildren<QLabel*>())
+        if (label->text().contains("<img"))
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+    QVERIFY(page->width() <= 1024);
+}
+
+void TestDevicePage::listFiltersAndSorts()
+{
+    Desk desk;
+    desk.add("nut://h/a", "Alpha");
+    desk.add("nut://h/b", "Beta");
+    desk.add("nut://h/c", "Gamma");
+    UpsReading onBattery = onMains();
+    onBattery.outputSource = OutputSource::Battery;
+    desk.answer(0, onMains());
+    desk.answer(1, onBattery);
+    desk.answer(2, onMains());
+    DeviceListModel model(desk.fleet);
+    DeviceSortModel sorted;
+    sorted.setSourceModel(&model);
+    const auto names = [&] {
+        QStringList names;
+        for (int row = 0; row < sorted.rowCount(); ++row)
+            names << sorted.index(row, 0).data().toString();
+        return names;
+    };
+    QCOMPARE(names(), QStringList({"Alpha", "Beta", "Gamma"}));
+    sorted.setWorstFirst(true);
+    QCOMPARE(names(), QStringList({"Beta", "Alpha", "Gamma"}));
+    desk.connectors[2]->answer(LinkState::Lost);
+    desk.answer(1, onMains());
+    QTRY_COMPARE(names(), QStringList({"Gamma", "Alpha", "Beta"}));
+    sorted.setFilterFixedString("bet");
+    QCOMPARE(names(), QStringList({"Beta"}));
+    sorted.setFilterFixedString("no answer");
+    QCOMPARE(names(), QStringList({"Gamma"}));
+    sorted.setFilterFixedString({});
+    sorted.setWorstFirst(false);
+    QCOMPARE(names(), QStringList({"Alpha", "Beta", "Gamma"}));
+    QCOMPARE(model.countsText(), QString::fromUtf8("1 alarm  \u00b7  2 normal"));
+}
+
+void TestDevicePage::removedDeviceLeavesNoPage()
+{
+    Desk desk;
+    desk.add("sim:", "one");
+    desk.add("sim:", "two");
+    MainWindow window(desk.fleet, desk.commands, desk.log);
+    window.openDevice(desk.fleet.at(0));
+    QVERIFY(window.currentPage());
+    QCOMPARE(window.findChildren<DevicePage*>().size(), 1); // made when opened, not before
+    desk.fleet.remove(0);
+    QVERIFY(window.findChildren<DevicePage*>().size() <= 1);
+    for (DevicePage* page : window.findChildren<DevicePage*>())
+        QCOMPARE(page->device().name(), QStringLiteral("two"));
+}
+
+void TestDevicePage::words_data()
+{
+    QTest::addColumn<qint64>("ageMs");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("never") << qint64(-1) << "";
+    QTest::newRow("now") << qint64(999) << "now";
+    QTest::newRow("seconds") << qint64(59999) << "59 s";
+    QTest::newRow("minutes") << qint64(60000) << "1 min";
+    QTest::newRow("hours") << qint64(7500 * 1000) << "2 h 5 min";
+    QTest::newRow("days") << qint64(3) * 86400 * 1000 << "3 days";
+}
+
+void TestDevicePage::words()
+{
+    QFETCH(qint64, ageMs);
+    QTEST(ageText(ageMs), "text");
+}
+
+QTEST_MAIN(TestDevicePage)
+#include "tst_devicepage.moc"
