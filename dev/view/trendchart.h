@@ -1,10 +1,19 @@
 #ifndef TRENDCHART_H
 #define TRENDCHART_H
 
+// The scrolling chart behind DynamicChart and ThreeDynamicChart: curves that enter at the right
+// edge and move left, one sample per 5 pixels. What differs between the two is in Look.
+// May touch: Qt and its own samples; knows no snapshot, no page and no host.
+
 #include "devview_export.h"
 
+#include <QColor>
+#include <QList>
 #include <QMap>
-#include <QVariant>
+#include <QPen>
+#include <QStringList>
+#include <QTime>
+#include <QVector>
 #include <QWidget>
 
 class DEVVIEW_EXPORT TrendChart : public QWidget
@@ -12,8 +21,84 @@ class DEVVIEW_EXPORT TrendChart : public QWidget
     Q_OBJECT
 
 public:
-    explicit TrendChart(QWidget* parent = nullptr);
+    // Empties all series. The picture keeps the last curves until the next sample.
+    void initValue();
+    // Adds the newest sample of series `id`, counted from 0, in the unit of its scale; any value
+    // is taken. Values beyond the scale are drawn outside the box, NaN leaves a gap. An unknown id
+    // adds nothing. Repaints.
+    // Until the chart was painted once it has no width and keeps one sample per series.
+    void addData(int id, qreal value);
 
+    // Default: on. Repaints.
+    void setUseAntialiasing(bool on);
+    bool getUseAntialiasing() const { return m_bUseAntialiasing; }
+    // Stored for hosts; the grid is always black and dotted. Repaints.
+    void setHorizontalLineColor(const QColor& colour);
+    // What assistive technology calls the series, by id; without names they are numbered.
+    void setSeriesNames(const QStringList& names);
+
+    QSize sizeHint() const override { return {350, 350}; }
+    QSize minimumSizeHint() const override { return {280, 280}; }
+
+protected:
+    struct Curve {
+        QColor colour;
+        double fullScale; // the value that reaches the top of the box
+    };
+    struct Look {
+        QVector<Curve> curves; // by series id, at most kMaxSeries
+        const char* styleSheet;
+        bool gridCanBeHidden; // whether m_bShowHLine is asked
+        bool hasRightScale;
+    };
+    static constexpr int kMaxSeries = 6;
+
+    TrendChart(const Look& look, QWidget* parent);
+
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    // The "now" of the time axis.
+    virtual QTime wallClock() const { return QTime::currentTime(); }
+
+    double m_leftSpace = 0; // margins of the box, px
+    double m_topSpace = 0;
+    QVector<double> m_dataVec0; // the series, newest sample first
+    QVector<double> m_dataVec1;
+    QVector<double> m_dataVec2;
+    QVector<double> m_dataVec3;
+    QVector<double> m_dataVec4;
+    QVector<double> m_dataVec5;
+    QList<QPen> color_pen;               // by series id
+    QMap<int, QVector<double>> curveMap; // the series as painted
+    bool m_bUseAntialiasing;
+    bool m_bShowHLine;
+    QRectF m_topRect; // upper two thirds and lower third; kept for derived charts
+    QRectF m_bottomRect;
+    QRectF m_boxRect; // the plot box; empty until the first paint
+    QColor m_hLineClr;
+    int max_Y_Left = 400; // top labels of the scales; the curves do not follow them
+    int min_Y_Left = 0;
+    int max_Y_Right = 100;
+    int min_Y_Right = 0;
+
+private:
+    bool hasSeries(int id) const { return id >= 0 && id < m_look.curves.size(); }
+    QVector<double>& series(int id);
+    void initVariables();
+    void updateVector(int id);
+    void setCurveData(int id, const QVector<double>& samples);
+    void tellLatest();
+
+    void resetVariables(QPainter* painter);
+    void drawBox(QPainter* painter);
+    void drawText(QPainter* painter);
+    void drawScales(QPainter* painter);
+    void drawTimeAxis(QPainter* painter);
+    void drawGraph(QPainter* painter);
+
+    const Look m_look;
+    QStringList m_seriesNames;
+    QMap<int, double> m_latest; // last value given per series, trimmed or not
 };
 
 #endif // TRENDCHART_H

@@ -1,0 +1,432 @@
+// Both trend charts: how samples are kept and trimmed, and what is painted where. Reads protected
+// members through probes and the painting through a recording device.
+
+#include "dynamicchart.h"
+#include "support/recordingdevice.h"
+#include "threedynamicchart.h"
+
+#include <QtTest>
+
+#include <limits>
+
+namespace
+{
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+
+template <typename Chart>
+class Probe : public Chart
+{
+public:
+    using Chart::color_pen;
+    using Chart::curveMap;
+    using Chart::m_boxRect;
+    using Chart::m_bShowHLine;
+    using Chart::m_dataVec0;
+    using Chart::m_dataVec1;
+    using Chart::m_dataVec2;
+    using Chart::m_dataVec3;
+
+    explicit Probe(QSize size = {520, 390})
+    {
+        this->resize(size);
+        picture();
+    }
+    QVector<PaintStep> picture(PaintStep::Kind kind = PaintStep::Line)
+    {
+        RecordingDevice recorder(this->size());
+        this->render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());
+        texts = recorder.texts();
+        return recorder.stepsOf(kind);
+    }
+    QVector<PaintStep> linesOf(int series)
+    {
+        QVector<PaintStep> lines;
+        for (const PaintStep& line : picture()) {
+            if (line.pen.color() == this->color_pen.at(series).color())
+                lines.append(line);
+        }
+        return lines;
+    }
+    QVector<int> counts() const
+    {
+        return {m_dataVec0.size(), m_dataVec1.size(), m_dataVec2.size(), m_dataVec3.size()};
+    }
+    void fill(int samples)
+    {
+        for (int i = 0; i < samples; ++i) {
+            for (int id = 0; id < this->color_pen.size(); ++id)
+                this->addData(id, i);
+        }
+    }
+
+    QTime now{12, 0, 0};
+    QStringList texts;
+
+protected:
+    QTime wallClock() const override { return now; }
+};
+
+using SingleProbe = Probe<DynamicChart>;
+using ThreeProbe = Probe<ThreeDynamicChart>;
+
+void sendResize(QWidget& widget)
+{
+    QResizeEvent event(widget.size(), widget.size());
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+QVector<PaintStep> dotted(const QVector<PaintStep>& lines)
+{
+    QVector<PaintStep> result;
+    for (const PaintStep& line : lines) {
+        if (line.pen.style() == Qt::DotLine)
+            result.append(line);
+    }
+    return result;
+}
+
+} // namespace
+
+class TestTrendChart : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void firstSampleIsDoubled();
+    void beforeTheFirstPaintOneSampleStays();
+    void keepsOneSamplePerFivePixels_data();
+    void keepsOneSamplePerFivePixels();
+    void shrinkingTrimsOneSampleAtATime();
+    void unknownSeriesOnlyRefreshes_data();
+    void unknownSeriesOnlyRefreshes();
+    void boxAndGrid_data();
+    void boxAndGrid();
+    void gridSwitch();
+    void scales_data();
+    void scales();
+    void timeAxis_data();
+    void timeAxis();
+    void curvesRunFromRightToLeft();
+    void eachScaleReachesTheTop_data();
+    void eachScaleReachesTheTop();
+    void oddSamples_data();
+    void oddSamples();
+    void backgroundIsShown();
+    void antialiasingSwitch();
+    void speaksItsLatestValues();
+};
+
+void TestTrendChart::firstSampleIsDoubled()
+{
+    SingleProbe chart;
+    chart.addData(1, 230);
+    QCOMPARE(chart.m_dataVec1, QVector<double>({230, 230}));
+    chart.addData(1, 231);
+    QCOMPARE(chart.m_dataVec1, QVector<double>({231, 230, 230}));
+    QCOMPARE(chart.curveMap.value(1), chart.m_dataVec1);
+    QVERIFY(chart.m_dataVec0.isEmpty());
+}
+
+// Meant so: without a box there is no room, and every call removes the sample that it just added.
+void TestTrendChart::beforeTheFirstPaintOneSampleStays()
+{
+    class Unpainted : public DynamicChart
+    {
+    public:
+        using DynamicChart::m_dataVec0;
+    } chart;
+    for (double value : {1.0, 2.0, 3.0})
+        chart.addData(0, value);
+    QCOMPARE(chart.m_dataVec0, QVector<double>({1.0}));
+}
+
+void TestTrendChart::keepsOneSamplePerFivePixels_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("capacity");
+    QTest::newRow("box of 400.2 px") << 473 << 80;
+    QTest::newRow("box of 399.4 px: a part of a sample does not count") << 472 << 79;
+    QTest::newRow("no width") << 0 << 0;
+}
+
+void TestTrendChart::keepsOneSamplePerFivePixels()
+{
+    QFETCH(int, width);
+    QFETCH(int, capacity);
+    SingleProbe chart({width, 390});
+    chart.fill(capacity + 5);
+    QCOMPARE(chart.m_dataVec3.size(), qMax(capacity, 1));
+    if (capacity > 0) {
+        QCOMPARE(chart.m_dataVec3.first(), capacity + 4.0);
+        QCOMPARE(chart.m_dataVec3.last(), 5.0);
+    }
+}
+
+void TestTrendChart::shrinkingTrimsOneSampleAtATime()
+{
+    SingleProbe chart({520, 390}); // 88 samples
+    chart.fill(100);
+    QCOMPARE(chart.counts(), QVector<int>({88, 88, 88, 88}));
+    chart.resize(260, 390); // 44 samples
+    chart.picture();
+    QCOMPARE(chart.counts(), QVector<int>({88, 88, 88, 88})); // the box was still the old one
+
+    sendResize(chart);
+    QCOMPARE(chart.counts(), QVector<int>({87, 87, 87, 88})); // series 3 waits, as intended
+    QCOMPARE(chart.m_dataVec0.at(43), 56.0);
+    QCOMPARE(chart.m_dataVec0.at(44), 54.0); // the first one beyond the room went
+
+    chart.addData(3, 1);
+    QCOMPARE(chart.m_dataVec3.size(), 88); // one came, one went
+
+    ThreeProbe three({520, 390});
+    three.fill(100);
+    three.resize(260, 390);
+    three.picture();
+    sendResize(three);
+    QCOMPARE(three.counts(), QVector<int>({87, 87, 87, 88}));
+}
+
+void TestTrendChart::unknownSeriesOnlyRefreshes_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<bool>("knownToThree");
+    QTest::newRow("below") << -1 << false;
+    QTest::newRow("one above") << 4 << true;
+    QTest::newRow("one above six") << 6 << false;
+    QTest::newRow("far above") << std::numeric_limits<int>::max() << false;
+    QTest::newRow("far below") << std::numeric_limits<int>::min() << false;
+}
+
+void TestTrendChart::unknownSeriesOnlyRefreshes()
+{
+    QFETCH(int, id);
+    QFETCH(bool, knownToThree);
+    SingleProbe chart;
+    chart.fill(3);
+    chart.initValue();
+    QCOMPARE(chart.curveMap.value(0).size(), 4); // the picture keeps its last curves
+    chart.addData(id, 7);
+    QCOMPARE(chart.counts(), QVector<int>({0, 0, 0, 0}));
+    QCOMPARE(chart.curveMap.size(), 4);
+    QVERIFY(chart.curveMap.value(0).isEmpty());
+
+    ThreeProbe three;
+    three.addData(id, 7);
+    QCOMPARE(three.curveMap.size(), 6);
+    QCOMPARE(three.curveMap.value(id).size(), knownToThree ? 2 : 0);
+}
+
+void TestTrendChart::boxAndGrid_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("smallest hint") << QSize(280, 280);
+    QTest::newRow("wide") << QSize(1300, 390);
+}
+
+void TestTrendChart::boxAndGrid()
+{
+    QFETCH(QSize, size);
+    SingleProbe chart(size);
+    chart.setHorizontalLineColor(Qt::red);
+    const QRectF box(size.width() / 13.0, size.height() / 13.0, size.width() * 11 / 13.0,
+                     size.height() * 11 / 13.0);
+    QCOMPARE(chart.m_boxRect, box);
+
+    const QVector<PaintStep> grid = dotted(chart.picture());
+    QCOMPARE(grid.size(), 9);
+    for (int k = 1; k <= 9; ++k) {
+        const PaintStep& line = grid.at(k - 1);
+        QCOMPARE(line.points.first(), QPointF(box.left(), box.top() + k * box.height() / 10));
+        QCOMPARE(line.points.last(), QPointF(box.right(), line.points.first().y()));
+        QCOMPARE(line.pen.color(), QColor(Qt::black)); // the line colour does not show; meant so
+    }
+}
+
+void TestTrendChart::gridSwitch()
+{
+    SingleProbe chart;
+    chart.m_bShowHLine = false;
+    QCOMPARE(dotted(chart.picture()).size(), 0);
+    ThreeProbe three;
+    three.m_bShowHLine = false;
+    QCOMPARE(dotted(three.picture()).size(), 9); // this chart always shows it; meant so
+}
+
+void TestTrendChart::scales_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("small") << QSize(390, 390);
+    QTest::newRow("large") << QSize(1300, 780);
+}
+
+void TestTrendChart::scales()
+{
+    QFETCH(QSize, size);
+    ThreeProbe chart(size);
+    const QFontMetrics metrics = chart.fontMetrics();
+    const QVector<PaintStep> texts = chart.picture(PaintStep::Text);
+    for (int k = 0; k <= 10; ++k) {
+        const double baseline =
+            chart.m_boxRect.top() + k * chart.m_boxRect.height() / 10 + metrics.height() / 2.0;
+        const PaintStep& left = texts.at(2 * k);
+        QCOMPARE(left.text, QString::number(400 - 40 * k));
+        QCOMPARE(
+            left.points.first(),
+            QPointF(chart.m_boxRect.left() - 5 - metrics.horizontalAdvance(left.text), baseline));
+        const PaintStep& right = texts.at(2 * k + 1);
+        QCOMPARE(right.text, QString::number(100 - 10 * k));
+        QCOMPARE(right.points.first(),
+                 QPointF(chart.m_boxRect.right() + 5 +
+                             metrics.horizontalAdvance(right.text) / 2.0, // half a label out
+                         baseline));
+    }
+
+    SingleProbe single(size);
+    single.picture();
+    QCOMPARE(single.texts.size(), 22); // one scale and the times
+}
+
+void TestTrendChart::timeAxis_data()
+{
+    QTest::addColumn<QTime>("now");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("fifth");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("noon") << QTime(12, 0, 0) << "11:59:20"
+                          << "12:00:00"
+                          << "12:01:00";
+    QTest::newRow("before midnight") << QTime(23, 59, 30) << "23:58:50"
+                                     << "23:59:30"
+                                     << "00:00:30";
+    QTest::newRow("after midnight") << QTime(0, 0, 5, 999) << "23:59:25"
+                                    << "00:00:05"
+                                    << "00:01:05";
+}
+
+void TestTrendChart::timeAxis()
+{
+    QFETCH(QTime, now);
+    SingleProbe chart;
+    chart.now = now;
+    QVector<PaintStep> ticks;
+    const int bottom = static_cast<int>(chart.m_boxRect.bottom());
+    for (const PaintStep& line : chart.picture()) {
+        if (line.points.first().x() == line.points.last().x())
+            ticks.append(line);
+    }
+    QCOMPARE(chart.texts.size(), 22);
+    QTEST(chart.texts.at(11), "first");
+    QTEST(chart.texts.at(15), "fifth");
+    QTEST(chart.texts.at(21), "last");
+
+    QCOMPARE(ticks.size(), 11); // box 40 to 480 px
+    for (int k = 0; k <= 10; ++k) {
+        const int x = 40 + 44 * k + (k == 10 ? 0 : 1);
+        QCOMPARE(ticks.at(k).points, QPolygonF() << QPointF(x, bottom) << QPointF(x, bottom + 5));
+    }
+}
+
+void TestTrendChart::curvesRunFromRightToLeft()
+{
+    SingleProbe chart; // box 40 to 480 px and 30 to 360 px
+    for (double value : {0.0, 100.0, 400.0, 500.0})
+        chart.addData(2, value);
+    const QVector<PaintStep> lines = chart.linesOf(2);
+    const QVector<QLineF> expected{
+        {480, 360 - 412.5, 480, 30}, // newest: above the box, not clipped
+        {480, 30, 475, 277.5},       // samples 0 and 1 share the edge
+        {475, 277.5, 470, 360},
+        {470, 360, 465, 360}}; // the doubled first sample
+    QCOMPARE(lines.size(), expected.size());
+    for (int i = 0; i < lines.size(); ++i) {
+        QCOMPARE(QLineF(lines.at(i).points.first(), lines.at(i).points.last()), expected.at(i));
+        QVERIFY(!lines.at(i).hasClip || lines.at(i).clip.contains(chart.rect()));
+    }
+    QVERIFY(chart.linesOf(0).isEmpty());
+}
+
+void TestTrendChart::eachScaleReachesTheTop_data()
+{
+    QTest::addColumn<int>("series");
+    QTest::addColumn<double>("value");
+    QTest::newRow("left, first") << 0 << 400.0;
+    QTest::newRow("left, last") << 2 << 400.0;
+    QTest::newRow("right, first") << 3 << 100.0;
+    QTest::newRow("right, last") << 5 << 100.0;
+}
+
+void TestTrendChart::eachScaleReachesTheTop()
+{
+    QFETCH(int, series);
+    QFETCH(double, value);
+    ThreeProbe chart;
+    chart.addData(series, value);
+    const QVector<PaintStep> lines = chart.linesOf(series);
+    QCOMPARE(lines.size(), 1);
+    QCOMPARE(lines.first().points.first().y(), chart.m_boxRect.top());
+}
+
+void TestTrendChart::oddSamples_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("segments");
+    QTest::newRow("not a number leaves a gap") << kNaN << 2;
+    QTest::newRow("infinite") << kInfinity << 4;
+    QTest::newRow("minus infinite") << -kInfinity << 4;
+    QTest::newRow("largest double") << std::numeric_limits<double>::max() << 4;
+    QTest::newRow("negative reading taken unsigned") << 4294967291.0 << 4;
+}
+
+void TestTrendChart::oddSamples()
+{
+    QFETCH(double, value);
+    QFETCH(int, segments);
+    SingleProbe chart;
+    for (double sample : {230.0, 231.0, value, 232.0})
+        chart.addData(0, sample);
+    const QVector<PaintStep> lines = chart.linesOf(0);
+    QCOMPARE(lines.size(), segments);
+    for (const PaintStep& line : lines) {
+        for (const QPointF& point : line.points)
+            QVERIFY(qAbs(point.y()) < 32767);
+    }
+    QVERIFY(!chart.grab().isNull());
+}
+
+void TestTrendChart::backgroundIsShown()
+{
+    QWidget page;
+    page.setStyleSheet(QStringLiteral("background-color: rgb(1, 2, 3);"));
+    DynamicChart single(&page);
+    ThreeDynamicChart three(&page);
+    QCOMPARE(single.grab().toImage().pixelColor(2, 2), QColor(250, 250, 250));
+    QCOMPARE(three.grab().toImage().pixelColor(2, 2), QColor(222, 237, 253));
+}
+
+void TestTrendChart::antialiasingSwitch()
+{
+    ThreeProbe chart;
+    QVERIFY(chart.getUseAntialiasing());
+    QVERIFY(chart.picture().first().hints & QPainter::Antialiasing);
+    chart.setUseAntialiasing(false);
+    QVERIFY(!(chart.picture().first().hints & QPainter::Antialiasing));
+}
+
+void TestTrendChart::speaksItsLatestValues()
+{
+    DynamicChart chart; // never painted: speaks all the same
+    chart.addData(0, 230);
+    chart.addData(0, 231.5);
+    chart.addData(2, kNaN);
+    QCOMPARE(chart.accessibleDescription(), QStringLiteral("Curve 1 231.5, Curve 3 --"));
+    chart.setSeriesNames({QStringLiteral("Input")});
+    QCOMPARE(chart.accessibleDescription(), QStringLiteral("Input 231.5, Curve 3 --"));
+    chart.initValue();
+    QCOMPARE(chart.accessibleDescription(), QString());
+}
+
+QTEST_MAIN(TestTrendChart)
+#include "tst_trendchart.moc"
