@@ -1,3 +1,305 @@
 #include "datachart.h"
 
-DataChart::DataChart(QWidget* parent) : QWidget(parent) {}
+#include "valuetext.h"
+
+#include <QPainter>
+#include <QRadialGradient>
+#include <QTimer>
+
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+// The arc: the upper half circle less 10 degrees at each end, in Qt's 1/16 degrees.
+constexpr int kArcDegrees = 160;
+constexpr int kArcStart = 10 * 16;
+constexpr int kArcSpan = kArcDegrees * 16;
+constexpr int kArcBottom = 10; // px between arc centre and lower edge
+
+struct PainterSaver {
+    explicit PainterSaver(QPainter* p)
+        : painter(p)
+    {
+        painter->save();
+    }
+    ~PainterSaver() { painter->restore(); }
+    Q_DISABLE_COPY(PainterSaver)
+    QPainter* painter;
+};
+
+int truncated(double v)
+{
+    constexpr double kLowest = std::numeric_limits<int>::min();
+    constexpr double kHighest = std::numeric_limits<int>::max();
+    return std::isnan(v) ? 0 : static_cast<int>(qBound(kLowest, v, kHighest));
+}
+
+QFont gaugeFont(int points, int weight)
+{
+    return QFont(QStringLiteral("Microsoft YaHei"), points, weight);
+}
+
+} // namespace
+
+DataChart::DataChart(QWidget* parent)
+    : QWidget(parent)
+    , m_unitText(QStringLiteral("V"))
+{
+    constexpr int kTickMs = 10;
+    updateTimer = new QTimer(this);
+    updateTimer->setInterval(kTickMs);
+    connect(updateTimer, SIGNAL(timeout()), this, SLOT(UpdateGraph()));
+    updateTimer->start();
+    tellValue();
+}
+
+void DataChart::setValue(qreal v)
+{
+    const bool wasInvalid = m_invalidValue;
+    m_invalidValue = !isOnScale(v);
+    if (m_invalidValue)
+        v = 0;
+    if (v == m_value) {
+        if (m_invalidValue != wasInvalid) { // "0" and "--" share a value, not a picture
+            tellValue();
+            update();
+        }
+        return;
+    }
+    m_bReverse = v < m_value;
+    m_value = m_currentValue = v;
+    tellValue();
+    update();
+}
+
+bool DataChart::isOnScale(double v) const
+{
+    return std::isfinite(v) && m_maxValue > m_minValue && v >= m_minValue && v <= m_maxValue;
+}
+
+void DataChart::setUnitText(QString unit)
+{
+    m_unitText = unit;
+    tellValue();
+}
+
+void DataChart::setMaxValue(qreal v)
+{
+    m_maxValue = v;
+}
+
+void DataChart::setMinValue(qreal v)
+{
+    m_minValue = v;
+}
+
+void DataChart::setRadioValue(QList<int> ratio, QList<int> values)
+{
+    m_ratio = ratio;
+    m_radioValue = values;
+}
+
+void DataChart::tellValue()
+{
+    setAccessibleDescription(m_invalidValue ? valueText()
+                                            : valueText() + QLatin1Char(' ') + m_unitText);
+}
+
+QString DataChart::valueText() const
+{
+    return m_invalidValue ? valuetext::outOfRange() : QString::number(m_value);
+}
+
+// Half a unit past the value, then it stops for good: the timer is started once, at the beginning.
+void DataChart::UpdateGraph()
+{
+    constexpr double kStep = 0.5;
+    m_currentValue += m_bReverse ? -kStep : kStep;
+    if (m_bReverse ? m_value >= m_currentValue : m_currentValue >= m_value)
+        updateTimer->stop();
+    update();
+}
+
+void DataChart::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    resetVariables();
+    drawColorPies(&painter);
+    drawGraph(&painter);
+    drawCoverLines(&painter);
+    drawCoverCircle(&painter);
+    drawMarkAndText(&painter);
+    drawTextRect(&painter);
+}
+
+void DataChart::resetVariables()
+{
+    m_outerRadius = qMin(height(), width() / 2);
+    m_innerRadius = 0.85 * m_outerRadius;
+    m_colorPieRadius = 0.7 * m_outerRadius;
+    m_coverCircleRadius = 0.5 * m_colorPieRadius;
+    m_longHand = m_outerRadius / 20.0;
+    m_okHand = 0.7 * m_longHand;
+    m_shortHand = 0.5 * m_longHand;
+    m_space = 0.1 * m_longHand;
+    m_center = rect().center();
+    m_pieRect = QRectF(arcCentre() - QPointF(m_colorPieRadius, m_colorPieRadius),
+                       2 * QSizeF(m_colorPieRadius, m_colorPieRadius));
+}
+
+QPointF DataChart::arcCentre() const
+{
+    return QPointF(width() / 2, height() - kArcBottom);
+}
+
+int DataChart::bandColour() const
+{
+    constexpr int kGrey = 3;
+    constexpr double kNoLimit = std::numeric_limits<double>::infinity();
+    if (m_ratio.isEmpty())
+        return kGrey;
+    const auto colour = [this](int band) { return m_ratio.at(qMin(band, m_ratio.size() - 1)); };
+    const auto limit = [this](int band) {
+        return band < m_radioValue.size() ? m_radioValue.at(band) : kNoLimit;
+    };
+    if (m_value >= m_minValue && m_value < limit(0))
+        return colour(0);
+    if (m_ratio.size() != 3)
+        return colour(1);
+    return m_value >= limit(0) && m_value <= limit(1) ? colour(1) : colour(2);
+}
+
+void DataChart::setColor(QRadialGradient& gradient, int index)
+{
+    static const QColor kStops[][3] = {
+        // centre             0.7                  edge
+        {{138, 226, 52}, {115, 210, 22}, {78, 154, 6}},     // green
+        {{255, 235, 69}, {255, 205, 0}, {255, 166, 0}},     // yellow
+        {{238, 119, 34}, {221, 85, 34}, {205, 34, 51}},     // red
+        {{242, 242, 242}, {221, 210, 240}, {219, 200, 199}} // grey
+    };
+    if (index < 0 || index >= static_cast<int>(std::size(kStops)))
+        return;
+    gradient.setColorAt(0, kStops[index][0]);
+    gradient.setColorAt(0.7, kStops[index][1]);
+    gradient.setColorAt(1, kStops[index][2]);
+}
+
+void DataChart::drawColorPies(QPainter* painter)
+{
+    const PainterSaver saver(painter);
+    QRadialGradient gradient(arcCentre(), m_colorPieRadius);
+    setColor(gradient, bandColour());
+    painter->setPen(QColor(128, 128, 128));
+    painter->setBrush(gradient);
+    painter->drawPie(m_pieRect, kArcStart, kArcSpan);
+}
+
+int DataChart::coveredSpan() const
+{
+    const double degreesPerUnit = kArcDegrees / (m_maxValue - m_minValue);
+    const double filled = (m_currentValue - m_minValue) * degreesPerUnit * 16;
+    // Not a number on a scale without width, which has nothing to fill.
+    if (!(m_currentValue >= m_minValue) || !(m_maxValue > m_minValue) || std::isnan(filled))
+        return kArcSpan;
+    return static_cast<int>(qBound<double>(0, kArcSpan - filled, kArcSpan));
+}
+
+void DataChart::drawGraph(QPainter* painter)
+{
+    const PainterSaver saver(painter);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(QColor(238, 238, 221));
+    painter->drawPie(m_pieRect, kArcStart, coveredSpan());
+}
+
+// Five equal sectors.
+void DataChart::drawCoverLines(QPainter* painter)
+{
+    constexpr int kFirstAngle = 100; // degrees, as rotated from straight down
+    constexpr int kLines = 6;
+    constexpr int kSector = 32;
+
+    const PainterSaver saver(painter);
+    painter->translate(arcCentre());
+    painter->rotate(kFirstAngle);
+    painter->setPen(QColor(47, 47, 47));
+    for (int i = 0; i < kLines; ++i) {
+        painter->drawLine(QPointF(0, m_colorPieRadius), QPointF(0, 1.5 * m_coverCircleRadius));
+        painter->rotate(kSector);
+    }
+}
+
+// Has neither pen nor brush and leaves no mark: the inner part of the arc stays coloured.
+void DataChart::drawCoverCircle(QPainter* painter)
+{
+    const PainterSaver saver(painter);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(Qt::NoBrush);
+    const QPointF corner(m_coverCircleRadius, m_coverCircleRadius);
+    painter->drawChord(QRectF(arcCentre() - corner, arcCentre() + corner), kArcStart, kArcSpan);
+}
+
+void DataChart::drawMarkAndText(QPainter* painter)
+{
+    constexpr double kFirstAngle = 100.0;
+    constexpr int kSteps = 100;
+    constexpr double kDegreesPerStep = 1.6;
+    constexpr int kMajor = 20; // steps
+    constexpr int kMinor = 5;
+    constexpr double kIntervals = kSteps / kMajor;
+    static const QColor kMajorColour(16, 49, 98);
+    static const QColor kMinorColour(47, 47, 47);
+
+    const PainterSaver saver(painter);
+    painter->translate(arcCentre());
+    const double start = m_space + m_colorPieRadius;
+    int number = truncated(m_minValue);
+    for (int i = 0; i <= kSteps; i += kMinor) {
+        const double angle = kFirstAngle + i * kDegreesPerStep;
+        const bool major = i % kMajor == 0;
+        const PainterSaver turned(painter);
+        painter->rotate(angle);
+        painter->setPen(major ? kMajorColour : kMinorColour);
+        painter->drawLine(QPointF(0, start), QPointF(0, start + (major ? m_longHand : m_okHand)));
+        if (!major)
+            continue;
+        drawLabel(painter, number, angle);
+        number = truncated(number + (m_maxValue - m_minValue) / kIntervals);
+    }
+}
+
+// The painter stands turned by `angle` at the arc centre; the text is upright. It is placed by the
+// metrics of the widget's own font.
+void DataChart::drawLabel(QPainter* painter, int number, double angle)
+{
+    constexpr int kPoints = 8;
+    const QString text = QString::number(number);
+    const double w = fontMetrics().horizontalAdvance(text);
+    const double h = fontMetrics().height();
+    painter->translate(-w / 2, 2 * m_space + m_colorPieRadius + m_longHand + h);
+    painter->rotate(-angle);
+    painter->setPen(Qt::black);
+    painter->setFont(gaugeFont(kPoints, QFont::Normal));
+    painter->drawText(QPointF(3.0 - w, 2.0 + h / 2), text);
+}
+
+void DataChart::drawTextRect(QPainter* painter)
+{
+    constexpr int kPoints = 11;
+    const PainterSaver saver(painter);
+    const int k = static_cast<int>((m_colorPieRadius - m_coverCircleRadius) / 3.0);
+    const QRect box(width() / 2 - 3 * k, height() - 2 * k, 6 * k, 2 * k);
+    painter->setOpacity(0.7);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(Qt::blue);
+    painter->drawRoundedRect(box, k, k, Qt::RelativeSize);
+
+    painter->setOpacity(1.0);
+    painter->setPen(Qt::white);
+    painter->setFont(gaugeFont(kPoints, QFont::Bold));
+    painter->drawText(box, Qt::AlignCenter | Qt::TextDontClip, valueText());
+}
