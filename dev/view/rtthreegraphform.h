@@ -1,11 +1,17 @@
 #ifndef RTTHREEGRAPHFORM_H
 #define RTTHREEGRAPHFORM_H
 
+// Chart page of a three-phase unit: five gauges and the trends of input, output and bypass, each
+// with its legend.
+// May touch: gauges, trend charts and the real-time block.
+
 #include "devview_export.h"
 
 #include <QMap>
 #include <QVariant>
 #include <QWidget>
+
+class Ui_RTThreeGraphForm;
 
 class DEVVIEW_EXPORT RTThreeGraphForm : public QWidget
 {
@@ -13,7 +19,21 @@ class DEVVIEW_EXPORT RTThreeGraphForm : public QWidget
 
 public:
     explicit RTThreeGraphForm(QWidget* parent = nullptr);
+    ~RTThreeGraphForm() override;
 
+    // false: InitRtChart; true: nothing.
+    void InitRTChartFormInfo(bool flag);
+    // Gauges and legends to 0, curves emptied.
+    void InitRtChart();
+    // Shows a snapshot and adds it to the curves. Charge and load in %, temperature in degrees,
+    // battery voltage and current and all frequencies in tenths, other voltages in V.
+    // The battery voltage gauge ends at 600 V, or at 1000 V for batteries of 601 to 1000 V.
+    void RefreshRtChartInfo(QMap<int, QVariant> snapshot);
+
+private:
+    void configureGauges(double batteryVoltage);
+
+    Ui_RTThreeGraphForm* ui;
 };
 
 #endif // RTTHREEGRAPHFORM_H
