@@ -1,0 +1,399 @@
+#include "nutreading.h"
+
+#include "reading/devicetext.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <cmath>
+#include <iterator>
+
+namespace
+{
+
+struct Tr {
+    Q_DECLARE_TR_FUNCTIONS(NutReading)
+};
+
+using Tokens = QSet<QByteArray>;
+
+// The first name that holds a usable value wins.
+struct NumberRow {
+    Value UpsReading::*target;
+    const char* names[2];
+};
+
+constexpr NumberRow kNumbers[] = {
+    {&UpsReading::runtime, {"battery.runtime"}},
+    {&UpsReading::charge, {"battery.charge"}},
+    {&UpsReading::batteryVoltage, {"battery.voltage"}},
+    {&UpsReading::batteryCurrent, {"battery.current"}},
+    {&UpsReading::batteryTemperature, {"battery.temperature"}},
+    {&UpsReading::ratedInputVoltage, {"input.voltage.nominal"}},
+    {&UpsReading::ratedInputFrequency, {"input.frequency.nominal"}},
+    {&UpsReading::ratedOutputVoltage, {"output.voltage.nominal"}},
+    {&UpsReading::ratedOutputFrequency, {"output.frequency.nominal"}},
+    {&UpsReading::ratedApparentPower, {"ups.power.nominal", "output.power.nominal"}},
+    {&UpsReading::ratedPower, {"ups.realpower.nominal", "output.realpower.nominal"}},
+    {&UpsReading::lowBatteryTime, {"battery.runtime.low"}},
+    {&UpsReading::lowTransferVoltage, {"input.transfer.low"}},
+    {&UpsReading::highTransferVoltage, {"input.transfer.high"}},
+};
+
+struct TextRow {
+    QString UpsReading::*target;
+    const char* names[2];
+};
+
+constexpr TextRow kTexts[] = {
+    {&UpsReading::model, {"device.model", "ups.model"}},
+    {&UpsReading::manufacturer, {"device.mfr", "ups.mfr"}},
+    {&UpsReading::name, {"ups.id"}},
+    {&UpsReading::softwareVersion, {"ups.firmware"}},
+    {&UpsReading::agentVersion, {"ups.firmware.aux"}},
+    {&UpsReading::location, {"device.location"}},
+};
+
+// Input, output and bypass name their quantities alike, behind a prefix of their own.
+struct GroupRow {
+    LineReading UpsReading::*target;
+    const char* prefix;
+    const char* totalPower; // asked before the group's own name
+    const char* totalLoad;  // output only
+    const char* caption;
+};
+
+constexpr GroupRow kGroups[] = {
+    {&UpsReading::input, "input.", nullptr, nullptr, QT_TRANSLATE_NOOP("NutReading", "Input")},
+    {&UpsReading::output, "output.", "ups.realpower", "ups.load",
+     QT_TRANSLATE_NOOP("NutReading", "Output")},
+    {&UpsReading::bypass, "input.bypass.", nullptr, nullptr,
+     QT_TRANSLATE_NOOP("NutReading", "Bypass")},
+};
+
+constexpr int kLines = 3;
+constexpr const char* kLineToNeutral[kLines] = {"L1-N.voltage", "L2-N.voltage", "L3-N.voltage"};
+constexpr const char* kLineToLine[kLines] = {"L1-L2.voltage", "L2-L3.voltage", "L3-L1.voltage"};
+// What betrays a line when the device gives no count.
+constexpr const char* kSignsOfLine2[] = {"L2-N.voltage", "L2-L3.voltage", "L2.current",
+                                         "L2.realpower", "L2.power.percent"};
+constexpr const char* kSignsOfLine3[] = {"L3-N.voltage", "L3-L1.voltage", "L3.current",
+                                         "L3.realpower", "L3.power.percent"};
+
+struct SourceRow {
+    OutputSource source;
+    const char* tokens[2];
+};
+
+// The first match wins.
+constexpr SourceRow kSources[] = {
+    {OutputSource::None, {"OFF"}},          {OutputSource::Bypass, {"BYPASS"}},
+    {OutputSource::Battery, {"OB", "CAL"}}, {OutputSource::Booster, {"BOOST"}},
+    {OutputSource::Reducer, {"TRIM"}},      {OutputSource::Utility, {"OL"}},
+};
+// Without one of these nothing is known of the power path, whatever else the status says.
+constexpr const char* kPathTokens[] = {"OL", "OB", "OFF", "BYPASS"};
+
+struct BatteryRow {
+    BatteryState state;
+    const char* tokens[2];
+    const char* charger; // battery.charger.status
+};
+
+// The first match wins.
+constexpr BatteryRow kBattery[] = {
+    {BatteryState::Low, {"LB"}, nullptr},
+    {BatteryState::SelfTest, {"CAL", "TEST"}, nullptr},
+    {BatteryState::Discharge, {"OB", "DISCHRG"}, "discharging"},
+    {BatteryState::BoostCharge, {"CHRG"}, "charging"},
+    {BatteryState::FloatCharge, {}, "floating"},
+    {BatteryState::Normal, {"OL"}, "resting"},
+};
+
+struct AlarmRow {
+    Alarm alarm;
+    const char* tokens[2];
+};
+
+constexpr AlarmRow kAlarms[] = {
+    {Alarm::BatteryBad, {"RB"}},
+    {Alarm::OnBattery, {"OB"}},
+    {Alarm::LowBattery, {"LB"}},
+    {Alarm::OutputOverload, {"OVER"}},
+    {Alarm::OnBypass, {"BYPASS"}},
+    {Alarm::OutputOff, {"OFF"}},
+    {Alarm::GeneralFault, {"ALARM"}},
+    {Alarm::ShutdownImminent, {"FSD"}},
+    {Alarm::TestInProgress, {"CAL", "TEST"}},
+};
+
+struct BeeperRow {
+    const char* text;
+    Beeper beeper;
+};
+
+constexpr BeeperRow kBeepers[] = {
+    {"disabled", Beeper::Disabled}, {"enabled", Beeper::Enabled}, {"muted", Beeper::Muted}};
+
+template <size_t N>
+bool hasAny(const Tokens& tokens, const char* const (&names)[N])
+{
+    return std::any_of(std::begin(names), std::end(names),
+                       [&](const char* name) { return name && tokens.contains(name); });
+}
+
+// Reads variables of one group, or of none when the prefix is empty.
+class Variables
+{
+public:
+    Variables(const NutVariables& all, const char* prefix)
+        : m_all(all)
+        , m_prefix(prefix)
+    {
+    }
+
+    bool has(const char* name) const { return m_all.contains(m_prefix + name); }
+    QByteArray text(const char* name) const { return m_all.value(m_prefix + name).trimmed(); }
+    Value number(const char* name) const
+    {
+        return name ? plausibleNumber(m_all.value(m_prefix + name)) : Value();
+    }
+    // "L2.current" for ".current" of line 2 (index 1)
+    Value ofLine(int index, const char* quantity) const
+    {
+        return number((QByteArray("L") + char('1' + index) + quantity).constData());
+    }
+    template <size_t N>
+    bool hasOneOf(const char* const (&names)[N]) const
+    {
+        return std::any_of(std::begin(names), std::end(names),
+                           [this](const char* name) { return has(name); });
+    }
+
+private:
+    const NutVariables& m_all;
+    const QByteArray m_prefix;
+};
+
+std::optional<int> lineCount(const Variables& group)
+{
+    constexpr double kMostLines = 12;
+    const Value count = group.number("phases");
+    if (count && *count >= 0 && *count <= kMostLines && *count == std::floor(*count))
+        return static_cast<int>(*count);
+    if (group.hasOneOf(kSignsOfLine3))
+        return 3;
+    if (group.hasOneOf(kSignsOfLine2))
+        return 2;
+    return std::nullopt;
+}
+
+bool isEmpty(const PhaseValues& values)
+{
+    return std::none_of(values.begin(), values.end(), [](const Value& v) { return v.has_value(); });
+}
+
+// Quantities of several lines, each under the name of its line.
+void readLines(const Variables& group, int lines, LineReading& reading)
+{
+    for (int i = 0; i < lines; ++i) {
+        reading.voltage[i] = group.number(kLineToNeutral[i]);
+        reading.current[i] = group.ofLine(i, ".current");
+        reading.frequency[i] = group.ofLine(i, ".frequency");
+        reading.power[i] = group.ofLine(i, ".realpower");
+        reading.load[i] = group.ofLine(i, ".power.percent");
+    }
+}
+
+// The names without a line: all of a single-phase group, and what remains when a group of several
+// lines does not tell them apart.
+void readTotals(const Variables& group, const Variables& all, const GroupRow& row,
+                LineReading& reading, QStringList& totals)
+{
+    struct Total {
+        PhaseValues& values;
+        Value value;
+        const char* caption;
+    };
+    const Value ownPower = all.number(row.totalPower);
+    const Total rows[] = {
+        {reading.voltage, group.number("voltage"), QT_TRANSLATE_NOOP("NutReading", "voltage")},
+        {reading.current, group.number("current"), QT_TRANSLATE_NOOP("NutReading", "current")},
+        {reading.power, ownPower ? ownPower : group.number("realpower"),
+         QT_TRANSLATE_NOOP("NutReading", "power")},
+        {reading.load, all.number(row.totalLoad), QT_TRANSLATE_NOOP("NutReading", "load")},
+    };
+    for (const Total& total : rows) {
+        if (!total.value || !isEmpty(total.values))
+            continue;
+        total.values[0] = total.value;
+        totals << Tr::tr(total.caption);
+    }
+}
+
+void readGroup(const NutVariables& variables, const GroupRow& row, UpsReading& reading)
+{
+    const Variables group(variables, row.prefix);
+    const Variables all(variables, "");
+    LineReading& lines = reading.*row.target;
+    const QString caption = Tr::tr(row.caption);
+
+    lines.lines = lineCount(group);
+    const int count = std::min(std::max(lines.lines.value_or(1), 1), kLines);
+    QStringList totals;
+    if (count == 1) {
+        readTotals(group, all, row, lines, totals);
+        totals.clear(); // with one line the total is the line
+        LineReading named;
+        readLines(group, 1, named);
+        for (PhaseValues LineReading::*quantity : {&LineReading::voltage, &LineReading::current,
+                                                   &LineReading::power, &LineReading::load})
+            if (isEmpty(lines.*quantity))
+                lines.*quantity = named.*quantity;
+        lines.frequency = named.frequency;
+    } else {
+        readLines(group, count, lines);
+        if (isEmpty(lines.voltage)) {
+            for (int i = 0; i < count; ++i)
+                lines.voltage[i] = group.number(kLineToLine[i]);
+            if (!isEmpty(lines.voltage))
+                reading.notes << Tr::tr("%1 voltages are line to line.").arg(caption);
+        }
+        readTotals(group, all, row, lines, totals);
+    }
+    const Value frequency = group.number("frequency");
+    for (int i = 0; i < count; ++i)
+        if (!lines.frequency[i])
+            lines.frequency[i] = frequency;
+
+    if (lines.lines == 2)
+        reading.notes << Tr::tr("%1 is split phase (two lines).").arg(caption);
+    if (!totals.isEmpty())
+        reading.notes << Tr::tr("%1: one value for all lines (%2), shown in the first.")
+                             .arg(caption, totals.join(QStringLiteral(", ")));
+}
+
+void readStatus(const NutVariables& variables, UpsReading& reading)
+{
+    const auto words = variables.value("ups.status").simplified().split(' ');
+    const Tokens tokens(words.begin(), words.end());
+
+    for (const AlarmRow& row : kAlarms)
+        if (hasAny(tokens, row.tokens))
+            reading.alarms.insert(row.alarm);
+    if (tokens.contains("OB") && !tokens.contains("CAL"))
+        reading.alarms.insert(Alarm::InputBad);
+
+    if (!hasAny(tokens, kPathTokens)) {
+        reading.notes << (tokens.contains("WAIT")
+                              ? Tr::tr("The driver has just started and has no data yet; the "
+                                       "source of power is unknown.")
+                              : Tr::tr("The UPS does not say where its power comes from."));
+        return;
+    }
+    for (const SourceRow& row : kSources) {
+        if (hasAny(tokens, row.tokens)) {
+            reading.outputSource = row.source;
+            break;
+        }
+    }
+
+    const QByteArray charger = variables.value("battery.charger.status").trimmed();
+    for (const BatteryRow& row : kBattery) {
+        if (hasAny(tokens, row.tokens) || (row.charger && charger == row.charger)) {
+            reading.batteryState = row.state;
+            break;
+        }
+    }
+    if (tokens.contains("OB") && reading.charge && *reading.charge <= 0) {
+        reading.batteryState = BatteryState::Depleted;
+        reading.notes << Tr::tr("Battery depleted: derived from a charge of 0 %.");
+    }
+}
+
+bool isGood(const QByteArray& status)
+{
+    return status.isEmpty() || status == "good";
+}
+
+// The status words of measured quantities: "good", "warning-low", "critical-high" ...
+void readConditions(const NutVariables& variables, UpsReading& reading)
+{
+    static const QRegularExpression inputStatus(
+        QStringLiteral("^input\\.(L[123](-N)?\\.)?(voltage|frequency)\\.status$"));
+    static const QRegularExpression ambientStatus(
+        QStringLiteral("^(ambient\\.(?:\\d+\\.)?)(temperature|humidity)\\.status$"));
+    for (auto it = variables.begin(); it != variables.end(); ++it) {
+        const QByteArray status = it.value().trimmed();
+        if (!it.key().endsWith(".status") || isGood(status))
+            continue;
+        const QString name = QString::fromLatin1(it.key());
+        if (inputStatus.match(name).hasMatch()) {
+            reading.alarms.insert(Alarm::InputBad);
+            continue;
+        }
+        const auto ambient = ambientStatus.match(name);
+        const bool isPresent = variables.value(ambient.captured(1).toLatin1() + "present") != "no";
+        const bool isAlarm = status.startsWith("warning") || status.startsWith("critical");
+        if (!ambient.hasMatch() || !isPresent || !isAlarm)
+            continue;
+        if (ambient.captured(2) == QLatin1String("temperature"))
+            reading.alarms.insert(Alarm::TemperatureBad);
+        else
+            reading.alarmTexts << Tr::tr("Humidity %1").arg(cleanDeviceText(status));
+    }
+}
+
+void readEvents(const NutVariables& variables, UpsReading& reading)
+{
+    const Value shutdownTimer = plausibleNumber(variables.value("ups.timer.shutdown"));
+    if (shutdownTimer && *shutdownTimer > 0)
+        reading.alarms.insert(Alarm::ShutdownPending);
+
+    // Free text with a dozen dialects; only what plainly tells of a failure counts.
+    static const QRegularExpression failed(
+        QStringLiteral("(?<!no )(?<!not )(?<!without )\\b(fail|error|bad|ng\\b)"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (failed.match(cleanDeviceText(variables.value("ups.test.result"))).hasMatch())
+        reading.alarms.insert(Alarm::DiagnosticTestFailed);
+
+    const QString text = cleanDeviceText(variables.value("ups.alarm"));
+    if (!text.isEmpty())
+        reading.alarmTexts << text;
+}
+
+} // namespace
+
+bool isPrivateNutVariable(const QByteArray& name)
+{
+    return name.startsWith("driver.parameter.");
+}
+
+UpsReading readingFromNut(const NutVariables& variables, const QByteArray& description,
+                          const QString& upsName)
+{
+    UpsReading reading;
+    for (const NumberRow& row : kNumbers)
+        for (const char* name : row.names)
+            if (name && !(reading.*row.target))
+                reading.*row.target = plausibleNumber(variables.value(name));
+    for (const TextRow& row : kTexts)
+        for (const char* name : row.names)
+            if (name && (reading.*row.target).isEmpty())
+                reading.*row.target = cleanDeviceText(variables.value(name));
+    if (reading.name.isEmpty())
+        reading.name = cleanDeviceText(description);
+    if (reading.name.isEmpty())
+        reading.name = cleanDeviceText(upsName);
+    const QByteArray beeper = variables.value("ups.beeper.status").trimmed();
+    for (const BeeperRow& row : kBeepers)
+        if (beeper == row.text)
+            reading.beeper = row.beeper;
+
+    for (const GroupRow& row : kGroups)
+        readGroup(variables, row, reading);
+    readStatus(variables, reading);
+    readConditions(variables, reading);
+    readEvents(variables, reading);
+    return reading;
+}
