@@ -1,0 +1,448 @@
+// The connector against a real server with simulated devices, and against servers that misbehave.
+
+#include "connectors/nut/nutconnector.h"
+#include "connectors/nut/nutserverlist.h"
+
+#include "support/lineserver.h"
+#include "support/nutserverfixture.h"
+
+#include <QElapsedTimer>
+#include <QHostAddress>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QtTest>
+
+Q_DECLARE_METATYPE(CommandKind)
+Q_DECLARE_METATYPE(CommandOutcome)
+
+namespace {
+
+constexpr int kPatience = 15000; // ms; far beyond any limit in here
+
+DeviceSettings settingsFor(const QString& address, const QString& user = {},
+                           const QString& secret = {})
+{
+    DeviceSettings settings;
+    settings.address = parseDeviceAddress(address).address.value();
+    settings.timeout = 1;
+    settings.user = user;
+    settings.secret = secret;
+    return settings;
+}
+
+class ClockedConnector : public NutConnector
+{
+public:
+    using NutConnector::NutConnector;
+    using NutConnector::setClock;
+};
+
+PollResult pollOnce(Connector& connector)
+{
+    QSignalSpy polled(&connector, &Connector::polled);
+    connector.poll();
+    if (!polled.wait(kPatience))
+        return {};
+    return polled.at(0).at(0).value<PollResult>();
+}
+
+LinkState stateOf(Connector& connector)
+{
+    return pollOnce(connector).state;
+}
+
+CommandResult sendOnce(Connector& connector, CommandKind kind, int minutes = 0)
+{
+    UpsCommand command;
+    command.id = 7;
+    command.kind = kind;
+    command.standbyMinutes = minutes;
+    QSignalSpy finished(&connector, &Connector::commandFinished);
+    connector.send(command);
+    if (!finished.wait(kPatience))
+        return {};
+    return finished.at(0).at(0).value<CommandResult>();
+}
+
+// The answers of a server with one device, "unit", in good order.
+QByteArray orderly(const QByteArray& line, const QByteArray& status = "OL")
+{
+    const auto list = [&](const QByteArray& query, const QByteArray& rows) {
+        return "BEGIN LIST " + query + '\n' + rows + "END LIST " + query + '\n';
+    };
+    const QByteArray query = QByteArray(line).replace("\"", "");
+    if (query == "LIST VAR unit")
+        return list("VAR unit", "VAR unit ups.status \"" + status + "\"\nVAR unit ups.id \"U\"\n");
+    if (query == "LIST CMD unit")
+        return list("CMD unit", "CMD unit shutdown.return\nCMD unit test.battery.start.quick\n");
+    if (query == "LIST RW unit")
+        return list("RW unit", "RW unit ups.delay.start \"30\"\n");
+    if (query == "LIST UPS")
+        return list("UPS", "UPS unit \"The only one\"\n");
+    if (query == "STARTTLS")
+        return "ERR FEATURE-NOT-CONFIGURED\n";
+    if (query.startsWith("USERNAME") || query.startsWith("PASSWORD") || query == "SET TRACKING ON")
+        return "OK\n";
+    if (query.startsWith("SET VAR") || query.startsWith("INSTCMD"))
+        return "OK TRACKING 17\n";
+    if (query.startsWith("GET TRACKING"))
+        return "SUCCESS\n";
+    return "ERR UNKNOWN-COMMAND\n";
+}
+
+QString addressOf(const LineServer& server, const QString& ups = "unit")
+{
+    return QStringLiteral("nut://127.0.0.1:%1/%2").arg(server.serverPort()).arg(ups);
+}
+
+} // namespace
+
+class TestNutConnector : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        m_server = std::make_unique<NutServerFixture>(
+            QStringList{TEST_DATA "/nut/single-phase.dev", TEST_DATA "/nut/three-phase.dev"});
+        const QString error = m_server->start();
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+    }
+    void cleanupTestCase() { m_server.reset(); }
+
+    void readsADevice()
+    {
+        NutConnector connector(settingsFor(m_server->address("three-phase")));
+        PollResult result;
+        QTRY_VERIFY_WITH_TIMEOUT((result = pollOnce(connector)).state == LinkState::Live &&
+                                     result.reading.outputSource == OutputSource::Utility,
+                                 kPatience);
+        QCOMPARE(result.reading.input.voltage, (PhaseValues{231, 232, 233}));
+        QCOMPARE(result.reading.name, QString("Test device three-phase"));
+        QCOMPARE(result.reading.secondsOnBattery, Value(0));
+        QVERIFY(result.message.isEmpty());
+    }
+
+    void aDriverGoesAndComes()
+    {
+        NutConnector connector(settingsFor(m_server->address("single-phase")));
+        NutConnector other(settingsFor(m_server->address("three-phase")));
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Live, kPatience);
+        m_server->stopDriver("single-phase");
+        PollResult gone;
+        QTRY_VERIFY_WITH_TIMEOUT((gone = pollOnce(connector)).state == LinkState::Stale, kPatience);
+        QVERIFY(gone.message.contains("driver"));
+        QCOMPARE(stateOf(other), LinkState::Live);
+
+        QVERIFY(m_server->startDriver("single-phase"));
+        PollResult back;
+        QTRY_VERIFY_WITH_TIMEOUT((back = pollOnce(connector)).state == LinkState::Live, kPatience);
+        // A driver that has just started has nothing but the word WAIT; that is not mains.
+        if (back.reading.outputSource != OutputSource::Utility) {
+            QCOMPARE(back.reading.outputSource, OutputSource::Other);
+            QVERIFY(!back.reading.notes.isEmpty());
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(pollOnce(connector).reading.charge == Value(100), kPatience);
+    }
+
+    void aDriverFreezes()
+    {
+        NutConnector connector(settingsFor(m_server->address("single-phase")));
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Live, kPatience);
+        m_server->freezeDriver("single-phase", true);
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Stale, kPatience);
+        m_server->freezeDriver("single-phase", false);
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Live, kPatience);
+    }
+
+    void theServerGoesAndComes()
+    {
+        NutConnector connector(settingsFor(m_server->address("three-phase")));
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Live, kPatience);
+        m_server->stopServer();
+        const PollResult gone = pollOnce(connector);
+        QCOMPARE(gone.state, LinkState::Lost);
+        QVERIFY2(gone.message.contains("refuses the connection"), qPrintable(gone.message));
+        QVERIFY(m_server->startServer());
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Live, kPatience);
+    }
+
+    void theServerFreezes()
+    {
+        NutConnector connector(settingsFor(m_server->address("three-phase")));
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Live, kPatience);
+        m_server->freezeServer(true);
+        for (const char* connection : {"the old one", "a new one"}) {
+            const PollResult silent = pollOnce(connector);
+            QVERIFY2(silent.state == LinkState::Lost, connection);
+            QVERIFY2(silent.message.contains("does not answer"), qPrintable(silent.message));
+        }
+        m_server->freezeServer(false);
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Live, kPatience);
+    }
+
+    void namesOfDevices()
+    {
+        NutConnector unknown(settingsFor(m_server->address("nobody")));
+        QCOMPARE(stateOf(unknown), LinkState::Refused);
+        NutConnector unnamed(settingsFor(m_server->address("")));
+        const PollResult several = pollOnce(unnamed);
+        QCOMPARE(several.state, LinkState::Refused);
+        QVERIFY2(several.message.contains("single-phase, three-phase"),
+                 qPrintable(several.message));
+
+        NutServerList list(settingsFor(m_server->address("")));
+        QSignalSpy finished(&list, &NutServerList::finished);
+        list.start();
+        QVERIFY(finished.wait(kPatience));
+        const auto devices = finished.at(0).at(0).value<QVector<NutDevice>>();
+        QCOMPARE(finished.at(0).at(1).toString(), QString());
+        QCOMPARE(devices.size(), 2);
+        QCOMPARE(devices.at(1).name, QString("three-phase"));
+        QCOMPARE(devices.at(1).description, QString("Test device three-phase"));
+
+        LineServer one([](const QByteArray& line) { return orderly(line); });
+        NutConnector only(settingsFor(addressOf(one, "")));
+        QCOMPARE(stateOf(only), LinkState::Live);
+    }
+
+    void noSuchHost()
+    {
+        NutConnector connector(settingsFor("nut://no-such-host.invalid/ups"));
+        const PollResult result = pollOnce(connector);
+        QCOMPARE(result.state, LinkState::Lost);
+        QVERIFY2(result.message.contains("no-such-host.invalid"), qPrintable(result.message));
+    }
+
+    void refusedCommands_data()
+    {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<QString>("secret");
+        QTest::addColumn<CommandKind>("kind");
+        QTest::addColumn<CommandOutcome>("outcome");
+        QTest::addColumn<QString>("word");
+        using O = CommandOutcome;
+        QTest::newRow("no account")
+            << QString() << QString() << CommandKind::Shutdown << O::Refused << "configuration";
+        QTest::newRow("wrong password")
+            << "operator"
+            << "hunter2" << CommandKind::Shutdown << O::Refused << "wrong password";
+        QTest::newRow("too few rights")
+            << "guest"
+            << "guest" << CommandKind::Shutdown << O::Refused << "too few rights";
+        QTest::newRow("not offered")
+            << "operator"
+            << "secret" << CommandKind::SelfTest << O::NotOffered << "test.battery.start.quick";
+        // The simulated device lists this one command and then does not know it.
+        QTest::newRow("driver says no")
+            << "operator"
+            << "secret" << CommandKind::Shutdown << O::Refused << "driver";
+    }
+    void refusedCommands()
+    {
+        QFETCH(QString, user);
+        QFETCH(QString, secret);
+        QFETCH(CommandKind, kind);
+        QFETCH(QString, word);
+        NutConnector connector(settingsFor(m_server->address("three-phase"), user, secret));
+        const CommandResult result = sendOnce(connector, kind);
+        QCOMPARE(result.id, 7u);
+        QTEST(result.outcome, "outcome");
+        QVERIFY2(result.message.contains(word), qPrintable(result.message));
+        QVERIFY(secret.isEmpty() || secret == user || !result.message.contains(secret));
+    }
+
+    void commandWithoutADriver()
+    {
+        NutConnector connector(
+            settingsFor(m_server->address("single-phase"), "operator", "secret"));
+        m_server->stopDriver("single-phase");
+        QTRY_VERIFY_WITH_TIMEOUT(stateOf(connector) == LinkState::Stale, kPatience);
+        const CommandResult result = sendOnce(connector, CommandKind::Shutdown);
+        QCOMPARE(result.outcome, CommandOutcome::Refused);
+        QVERIFY2(result.message.contains("Nothing was sent"), qPrintable(result.message));
+        QVERIFY(m_server->startDriver("single-phase"));
+    }
+
+    void aCommandIsFollowedToItsEnd()
+    {
+        int pending = 2;
+        LineServer server([&](const QByteArray& line) {
+            if (line.startsWith("GET TRACKING") && pending-- > 0)
+                return QByteArray("PENDING\n");
+            return orderly(line);
+        });
+        NutConnector connector(settingsFor(addressOf(server), "operator", "secret"));
+        const CommandResult result = sendOnce(connector, CommandKind::Standby, 10);
+        QVERIFY2(result.outcome == CommandOutcome::Done, qPrintable(result.message));
+        const int set = server.lines.indexOf("SET VAR \"unit\" ups.delay.start \"600\"");
+        const int told = server.lines.indexOf("INSTCMD \"unit\" shutdown.return");
+        QVERIFY(set > 0 && set < told);
+        QCOMPARE(server.count("INSTCMD"), 1);
+        QCOMPARE(server.count("GET TRACKING"), 4);
+    }
+
+    void aRefusedSettingStopsTheCommand()
+    {
+        LineServer server([](const QByteArray& line) {
+            return line.startsWith("SET VAR") ? QByteArray("ERR INVALID-VALUE\n") : orderly(line);
+        });
+        NutConnector connector(settingsFor(addressOf(server), "operator", "secret"));
+        const CommandResult result = sendOnce(connector, CommandKind::Standby, 10);
+        QCOMPARE(result.outcome, CommandOutcome::Refused);
+        QVERIFY2(result.message.contains("ups.delay.start"), qPrintable(result.message));
+        QCOMPARE(server.count("INSTCMD"), 0);
+    }
+
+    void unclearEndings_data()
+    {
+        QTest::addColumn<QByteArray>("question");
+        QTest::addColumn<QByteArray>("answer"); // empty: the connection is closed
+        QTest::newRow("closed at the command") << QByteArray("INSTCMD") << QByteArray();
+        QTest::newRow("closed at every question") << QByteArray("GET TRACKING") << QByteArray();
+        QTest::newRow("no tracking") << QByteArray("INSTCMD") << QByteArray("OK\n");
+        QTest::newRow("no result") << QByteArray("GET TRACKING") << QByteArray("PENDING\n");
+        QTest::newRow("nonsense") << QByteArray("INSTCMD") << QByteArray("\"\n");
+    }
+    void unclearEndings()
+    {
+        QFETCH(QByteArray, question);
+        QFETCH(QByteArray, answer);
+        LineServer* self = nullptr;
+        LineServer server([&](const QByteArray& line) {
+            if (!line.startsWith(question))
+                return orderly(line);
+            if (answer.isEmpty())
+                QTimer::singleShot(0, self, &LineServer::closeConnections);
+            return answer;
+        });
+        self = &server;
+        NutConnector connector(settingsFor(addressOf(server), "operator", "secret"));
+        const CommandResult result = sendOnce(connector, CommandKind::SelfTest);
+        QCOMPARE(result.outcome, CommandOutcome::NoAnswer);
+        QVERIFY(!result.message.isEmpty() && !result.message.contains("secret"));
+        QCOMPARE(server.count("INSTCMD"), 1);
+    }
+
+    void aClosedConnectionCostsNoPoll()
+    {
+        LineServer server([](const QByteArray& line) { return orderly(line); });
+        NutConnector connector(settingsFor(addressOf(server)));
+        QCOMPARE(stateOf(connector), LinkState::Live);
+        server.closeConnections();
+        QCOMPARE(stateOf(connector), LinkState::Live);
+        QCOMPARE(server.connections, 2);
+    }
+
+    void badAnswers_data()
+    {
+        QTest::addColumn<QByteArray>("answer"); // to LIST VAR
+        const QByteArray begin = "BEGIN LIST VAR unit\n";
+        const QByteArray row = "VAR unit ups.status \"OL\"\n";
+        QTest::newRow("silence") << QByteArray();
+        QTest::newRow("list without end") << begin + row;
+        QTest::newRow("too many rows") << begin + row.repeated(5000);
+        QTest::newRow("line without end") << QByteArray(100000, 'x');
+        QTest::newRow("value of 64 KiB")
+            << begin + "VAR unit ups.id \"" + QByteArray(65536, 'x') + "\"\n";
+        QTest::newRow("another device") << begin + "VAR unit2 ups.status \"OL\"\n";
+        QTest::newRow("another list") << QByteArray("BEGIN LIST RW unit\nEND LIST RW unit\n");
+        QTest::newRow("row without value") << begin + "VAR unit ups.status\n";
+        QTest::newRow("open quote") << begin + "VAR unit ups.status \"OL\n";
+        QTest::newRow("empty line") << QByteArray("\n");
+        QTest::newRow("web server") << QByteArray("HTTP/1.1 400 Bad Request\r\n\r\n");
+        QTest::newRow("octets of zero") << QByteArray(500, '\0') + '\n';
+    }
+    void badAnswers()
+    {
+        QFETCH(QByteArray, answer);
+        bool bad = true;
+        LineServer server([&](const QByteArray& line) {
+            return bad && line.startsWith("LIST VAR") ? answer : orderly(line);
+        });
+        NutConnector connector(settingsFor(addressOf(server)));
+        const PollResult result = pollOnce(connector);
+        QCOMPARE(result.state, LinkState::Lost);
+        QVERIFY(!result.message.isEmpty());
+        bad = false;
+        QCOMPARE(stateOf(connector), LinkState::Live);
+    }
+
+    // Each piece comes well within the time-out, the whole never.
+    void aDrippingAnswerIsLimited()
+    {
+        LineServer server([&](const QByteArray& line) {
+            return line.startsWith("LIST VAR") ? QByteArray("BEGIN LIST") : orderly(line);
+        });
+        QTimer drip;
+        connect(&drip, &QTimer::timeout, &server, [&] { server.write("x"); });
+        drip.start(50);
+        NutConnector connector(settingsFor(addressOf(server)));
+        QCOMPARE(stateOf(connector), LinkState::Lost);
+    }
+
+    // However many devices a dead server has, it costs them one time-out together.
+    void devicesShareALostServer()
+    {
+        LineServer server([](const QByteArray&) { return QByteArray(); });
+        std::vector<std::unique_ptr<NutConnector>> connectors;
+        int lost = 0;
+        for (int i = 0; i < 20; ++i) {
+            connectors.push_back(std::make_unique<NutConnector>(settingsFor(addressOf(server))));
+            connect(connectors.back().get(), &Connector::polled, this,
+                    [&](const PollResult& result) { lost += result.state == LinkState::Lost; });
+        }
+        for (const auto& connector : connectors) {
+            connector->poll();
+            connector->poll(); // one is under way: nothing happens
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(lost, 20, kPatience);
+        QCOMPARE(server.connections, 1);
+    }
+
+    void timeOnBattery()
+    {
+        QByteArray status = "OL";
+        LineServer server([&](const QByteArray& line) { return orderly(line, status); });
+        ClockedConnector connector(settingsFor(addressOf(server)));
+        double now = 1000.5;
+        connector.setClock([&] { return now; });
+        struct Step {
+            const char* status;
+            double clock;
+            Value seconds;
+        };
+        const Step steps[] = {
+            {"OL", 1000.5, 0},   {"OB", 1010, 0}, {"OB", 1015.9, 5}, {"WAIT", 1020, {}},
+            {"OB LB", 1030, 20}, {"OL", 1040, 0}, {"OB", 1050, 0},   {"OB CAL", 1051, 1},
+        };
+        for (const Step& step : steps) {
+            status = step.status;
+            now = step.clock;
+            const PollResult result = pollOnce(connector);
+            QCOMPARE(result.state, LinkState::Live);
+            QCOMPARE(result.reading.secondsOnBattery, step.seconds);
+        }
+    }
+
+    // Nobody waits for a server when its last device goes; the answer finds nobody.
+    void destructionDoesNotWait()
+    {
+        LineServer server([](const QByteArray&) { return QByteArray(); });
+        DeviceSettings patient = settingsFor(addressOf(server), "operator", "secret");
+        patient.timeout = 60;
+        auto connector = std::make_unique<NutConnector>(patient);
+        connector->poll();
+        QTRY_COMPARE_WITH_TIMEOUT(server.lines.size(), 1, kPatience);
+        connector.reset();
+        // Its thread closes the connection long before the time-out.
+        QTRY_VERIFY_WITH_TIMEOUT(!server.hasConnections(), kPatience);
+    }
+
+private:
+    std::unique_ptr<NutServerFixture> m_server;
+};
+
+QTEST_GUILESS_MAIN(TestNutConnector)
+#include "tst_nutconnector.moc"
