@@ -15,7 +15,8 @@
 Q_DECLARE_METATYPE(CommandKind)
 Q_DECLARE_METATYPE(CommandOutcome)
 
-namespace {
+namespace
+{
 
 constexpr int kPatience = 15000; // ms; far beyond any limit in here
 
@@ -367,6 +368,33 @@ private slots:
         QVERIFY(!result.message.isEmpty());
         bad = false;
         QCOMPARE(stateOf(connector), LinkState::Live);
+    }
+
+    // No way back to plain text, and no endless wait in the handshake.
+    void encryptionThatFails_data()
+    {
+        QTest::addColumn<QByteArray>("atOnce"); // after the server's OK
+        QTest::addColumn<QByteArray>("later");
+        QTest::newRow("silence") << QByteArray() << QByteArray();
+        QTest::newRow("plain text slipped in") << QByteArray("OK\n") << QByteArray();
+        QTest::newRow("no handshake") << QByteArray() << QByteArray("HTTP/1.1 400 What?\r\n");
+    }
+    void encryptionThatFails()
+    {
+        QFETCH(QByteArray, atOnce);
+        QFETCH(QByteArray, later);
+        LineServer* self = nullptr;
+        LineServer server([&](const QByteArray& line) {
+            if (line != "STARTTLS")
+                return orderly(line);
+            QTimer::singleShot(50, self, [=] { self->write(later); });
+            return "OK STARTTLS\n" + atOnce;
+        });
+        self = &server;
+        NutConnector connector(settingsFor(addressOf(server), "operator", "secret"));
+        QCOMPARE(stateOf(connector), LinkState::Lost);
+        QCOMPARE(sendOnce(connector, CommandKind::SelfTest).outcome, CommandOutcome::NoAnswer);
+        QCOMPARE(server.count("LIST") + server.count("PASSWORD"), 0);
     }
 
     // Each piece comes well within the time-out, the whole never.

@@ -73,7 +73,9 @@ NutServer::NutServer(const NutAccount& account)
     endingThreads(); // exists before, so outlives, every thread
     m_thread->setObjectName(QStringLiteral("nut"));
     m_worker->moveToThread(m_thread.get());
-    connect(m_thread.get(), &QThread::finished, m_worker, &QObject::deleteLater);
+    // In its own thread, and not by an event: at the program's end there may be no application left
+    // to deliver one.
+    connect(m_thread.get(), &QThread::finished, [worker = m_worker] { delete worker; });
     connect(m_worker, &NutWorker::polled, this, &NutServer::polled);
     connect(m_worker, &NutWorker::listed, this, &NutServer::listed);
     connect(m_worker, &NutWorker::commandFinished, this, &NutServer::commandFinished);

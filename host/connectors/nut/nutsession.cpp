@@ -1,5 +1,7 @@
 #include "nutsession.h"
 
+#include "nuttls.h"
+
 #include "reading/devicetext.h"
 
 #include <QCoreApplication>
@@ -14,7 +16,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <mutex>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
@@ -34,7 +35,9 @@ struct Tr {
 
 constexpr int kLongestLine = 2048; // octets; the server's own limit is far below
 constexpr int kMostRows = 4096;    // of one list
-constexpr std::chrono::milliseconds kClockSlack(100);
+// What the server says where its administrator wrote no description.
+constexpr char kNoDescription[] = "Unavailable";
+constexpr char kNoListedDescription[] = "Description unavailable";
 
 // The library writes to sockets that the other side may have closed.
 void blockBrokenPipeSignal()
@@ -51,12 +54,6 @@ void acknowledgeAtOnce(int fd)
 {
     const int on = 1;
     setsockopt(fd, IPPROTO_TCP, TCP_QUICKACK, &on, sizeof on);
-}
-
-void initialiseTlsOnce()
-{
-    static std::once_flag once;
-    std::call_once(once, [] { upscli_init(0, nullptr, nullptr, nullptr); });
 }
 
 timeval asTimeval(NutSession::Clock::duration duration)
@@ -123,42 +120,27 @@ NutFailure NutSession::open()
         // One address that swallows packets must not cost the others their turn.
         const auto now = Clock::now();
         const auto share = (m_deadline - now) / left--;
-        failure = connectTo(address, now + share, 0);
-        bool tls = false;
+        failure = connectTo(address, now + share);
         if (!failure)
-            failure = offersTls(tls);
-        if (!failure && tls) {
-            close();
-            initialiseTlsOnce();
-            failure = connectTo(address, m_deadline, UPSCLI_CONN_REQSSL);
-        }
+            failure = encrypt();
         if (!failure || isOverdue())
             break;
     }
     return failure;
 }
 
-NutFailure NutSession::connectTo(const QByteArray& address, Clock::time_point deadline, int flags)
+NutFailure NutSession::connectTo(const QByteArray& address, Clock::time_point deadline)
 {
     UPSCONN_t& library = m_connection->library;
-    const auto started = Clock::now();
-    timeval limit = asTimeval(deadline - started);
-    m_guard.watch(&library.fd, deadline);
-    const int result = upscli_tryconnect(&library, address.constData(), m_port, flags, &limit);
-    m_guard.leave();
+    timeval limit = asTimeval(deadline - Clock::now());
+    const int result = upscli_tryconnect(&library, address.constData(), m_port, 0, &limit);
 
     const QString shown = QString::fromLatin1(address) == QString::fromUtf8(m_host)
                               ? m_server
                               : Tr::tr("%1 (%2)").arg(m_server, QString::fromLatin1(address));
     if (result == 0) {
         m_guardedFd = dup(library.fd);
-        if (upscli_ssl(&library) == 1) {
-            // The TLS layer closes the descriptor, and so does the library after it: by then the
-            // number can belong to a file or socket of another thread. It closes a copy instead.
-            const int copy = dup(library.fd);
-            library.fd = copy;
-        }
-        m_open = m_guardedFd >= 0 && library.fd >= 0;
+        m_open = m_guardedFd >= 0;
         if (m_open) {
             ++m_number;
             return {};
@@ -167,39 +149,49 @@ NutFailure NutSession::connectTo(const QByteArray& address, Clock::time_point de
         return lost(Tr::tr("No connection to %1: too many open files.").arg(shown));
     }
 
-    const int error = upscli_upserror(&library);
+    // No number at all means that the limit was reached.
+    const int error = library.syserrno;
     library.fd = -1;
-    if (error == UPSCLI_ERR_CONNFAILURE && library.syserrno == ECONNREFUSED)
+    if (error == ECONNREFUSED)
         return lost(Tr::tr("%1 refuses the connection: no NUT server runs there, or it does not "
                            "listen on this address.")
                         .arg(shown));
-    if (error == UPSCLI_ERR_CONNFAILURE && library.syserrno != 0 && library.syserrno != ETIMEDOUT)
+    if (error != 0 && error != ETIMEDOUT)
         return lost(Tr::tr("No connection to %1: %2.")
-                        .arg(shown, QString::fromLocal8Bit(std::strerror(library.syserrno))));
-    if (error == UPSCLI_ERR_SSLERR || error == UPSCLI_ERR_SSLFAIL ||
-        (flags != 0 && Clock::now() + kClockSlack < deadline))
-        return lost(Tr::tr("%1 offers encryption, but the two sides cannot agree on it; check the "
-                           "certificate of the server.")
-                        .arg(shown));
+                        .arg(shown, QString::fromLocal8Bit(std::strerror(error))));
     return lost(Tr::tr("%1 does not answer; check that the server is on and that no firewall is in "
                        "between.")
                     .arg(shown));
 }
 
-// Asked here and not left to the library: it would go on in plain text after a handshake that
-// failed, and would announce its missing certificate store on the terminal in any case.
-NutFailure NutSession::offersTls(bool& offered)
+NutFailure NutSession::encrypt()
 {
     Words answer;
     const NutFailure failure = ask("STARTTLS", answer);
-    offered = !failure;
-    return failure.isAnswer() ? NutFailure() : failure;
+    if (failure)
+        return failure.isAnswer() ? NutFailure() : failure; // it has no TLS
+    UPSCONN_t& library = m_connection->library;
+    // What came in plain text after the answer could pass for an answer under TLS.
+    if (answer.first() != "OK" || library.readidx != library.readlen)
+        return noUsableAnswer();
+
+    m_guard.watch(m_guardedFd, m_deadline);
+    library.ssl = startNutTls(library.fd);
+    const bool timedOut = m_guard.leave();
+    if (library.ssl)
+        return {};
+    if (timedOut)
+        return failedExchange();
+    close();
+    return lost(Tr::tr("%1 offers encryption, but the two sides cannot agree on it; check the "
+                       "certificate of the server.")
+                    .arg(m_server));
 }
 
 void NutSession::close()
 {
     if (m_connection->library.fd >= 0) {
-        m_guard.watch(&m_guardedFd, m_deadline); // it says goodbye to the server
+        m_guard.watch(m_guardedFd, m_deadline); // it says goodbye to the server
         upscli_disconnect(&m_connection->library);
         m_guard.leave();
     }
@@ -245,7 +237,7 @@ NutFailure NutSession::sendLine(const QByteArray& line)
     if (!m_open)
         return lost(Tr::tr("There is no connection to %1.").arg(m_server));
     const QByteArray octets = line + '\n';
-    m_guard.watch(&m_guardedFd, m_deadline);
+    m_guard.watch(m_guardedFd, m_deadline);
     const auto sent = upscli_sendline_timeout(&m_connection->library, octets.constData(),
                                               static_cast<size_t>(octets.size()), secondsLeft());
     if (sent < 0)
@@ -260,7 +252,7 @@ NutFailure NutSession::readLine(Words& words)
     if (isOverdue())
         return failedExchange();
     char line[kLongestLine];
-    m_guard.watch(&m_guardedFd, m_deadline);
+    m_guard.watch(m_guardedFd, m_deadline);
     const auto read =
         upscli_readline_timeout(&m_connection->library, line, sizeof line, secondsLeft());
     if (read < 0)
@@ -335,7 +327,9 @@ NutFailure NutSession::listDevices(QVector<NutDevice>& devices)
 {
     devices.clear();
     return list("UPS", 2, [&](const Words& row) {
-        devices << NutDevice{cleanDeviceText(row.at(1)), cleanDeviceText(row.value(2))};
+        const bool hasText = row.value(2) != kNoListedDescription;
+        devices << NutDevice{cleanDeviceText(row.at(1)),
+                             hasText ? cleanDeviceText(row.value(2)) : QString()};
     });
 }
 
@@ -348,7 +342,7 @@ NutFailure NutSession::description(const QByteArray& ups, QByteArray& text)
     if (answer.mid(0, 2) != Words{"UPSDESC", ups})
         return noUsableAnswer();
     text = answer.value(2);
-    if (text == "Unavailable") // the server's word for none
+    if (text == kNoDescription)
         text.clear();
     return {};
 }

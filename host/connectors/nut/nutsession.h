@@ -62,8 +62,8 @@ public:
 private:
     using Words = QList<QByteArray>;
 
-    NutFailure connectTo(const QByteArray& address, Clock::time_point deadline, int flags);
-    NutFailure offersTls(bool& offered);
+    NutFailure connectTo(const QByteArray& address, Clock::time_point deadline);
+    NutFailure encrypt();
     NutFailure ask(const QByteArray& line, Words& answer);
     NutFailure list(const QByteArray& query, int words,
                     const std::function<void(const Words&)>& row);

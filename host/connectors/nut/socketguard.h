@@ -10,8 +10,8 @@
 #include <thread>
 
 // libupsclient waits up to five seconds for every piece of an answer, and under TLS without any
-// limit. From the deadline on the guard shuts the socket down, again and again until it is told to
-// leave, which makes every call on it return at once.
+// limit. At the deadline the guard shuts the socket down, which makes every call on it return at
+// once.
 class SocketGuard
 {
 public:
@@ -22,10 +22,9 @@ public:
     SocketGuard(const SocketGuard&) = delete;
     SocketGuard& operator=(const SocketGuard&) = delete;
 
-    // Watches the descriptor that *fd holds at the deadline; it may change until then. A descriptor
-    // without a connection is left alone.
-    void watch(const int* fd, Clock::time_point deadline);
-    // After this *fd is not read again. True when the time was over.
+    // The descriptor stays the caller's: it is not to be closed before leave().
+    void watch(int fd, Clock::time_point deadline);
+    // True when the time was over.
     bool leave();
 
     // From any thread, for good: every deadline is now.
@@ -33,11 +32,12 @@ public:
     bool isAborted() const;
 
 private:
+    static constexpr int kNone = -1;
     void run();
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
-    const int* m_fd = nullptr;
+    int m_fd = kNone;
     Clock::time_point m_deadline;
     bool m_expired = false;
     bool m_aborted = false;
