@@ -60,9 +60,10 @@ HostLookup::Result HostLookup::find(const QByteArray& host, Clock::time_point de
         return numeric;
 
     std::unique_lock<std::mutex> lock(m_shared->mutex);
-    if (!m_shared->running) {
+    // One that ended after its caller had given up still counts, or a slow name server would never
+    // get to answer.
+    if (!m_shared->running && !m_shared->done) {
         m_shared->running = true;
-        m_shared->done = false;
         std::thread([shared = m_shared, host = QByteArray(host.constData())] {
             const Result result = lookUp(host, AI_ADDRCONFIG);
             std::lock_guard<std::mutex> lock(shared->mutex);
@@ -72,9 +73,12 @@ HostLookup::Result HostLookup::find(const QByteArray& host, Clock::time_point de
             shared->changed.notify_all();
         }).detach();
     }
-    const bool finished = m_shared->changed.wait_until(
-        lock, deadline, [this] { return m_shared->done || m_shared->aborted; });
-    return finished && m_shared->done ? m_shared->result : Result();
+    m_shared->changed.wait_until(lock, deadline,
+                                 [this] { return m_shared->done || m_shared->aborted; });
+    if (!m_shared->done)
+        return {};
+    m_shared->done = false;
+    return m_shared->result;
 }
 
 void HostLookup::abort()
