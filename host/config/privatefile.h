@@ -1,0 +1,22 @@
+#ifndef PRIVATEFILE_H
+#define PRIVATEFILE_H
+
+// Files that only their owner may read.
+// May touch: Qt Core, the file system.
+
+#include <QByteArray>
+#include <QString>
+
+// Replaces the file in one step or not at all, mode 0600, with its folder where there is none
+// (0700). A symbolic link stays one: its target is replaced. Returns what went wrong, empty when
+// written.
+QString writePrivateFile(const QString& path, const QByteArray& bytes);
+
+// The folder and what leads to it; one that is made is mode 0700, one that exists is left alone.
+bool makePrivateFolder(const QString& folder);
+
+// The file belongs to this user and nobody else may read or write it; also true where it is
+// missing.
+bool isPrivateFile(const QString& path);
+
+#endif // PRIVATEFILE_H
