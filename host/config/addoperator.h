@@ -1,0 +1,17 @@
+#ifndef ADDOPERATOR_H
+#define ADDOPERATOR_H
+
+// What `upsdesk add-operator` does.
+// May touch: the configuration file.
+
+#include "passwordhash.h"
+
+// Adds the operator to the file at `path`, or replaces level and password of the one that is there.
+// level 0..9; the password has at least kMinPasswordLength characters. Returns why nothing was
+// written, empty: written. Takes the time of one hash.
+QString addOperator(const QString& path, const QString& name, int level, const SecretText& password,
+                    const HashLimits& limits = HashLimits::standard());
+
+constexpr int kMinPasswordLength = 8;
+
+#endif // ADDOPERATOR_H

@@ -1,0 +1,60 @@
+#ifndef OPERATORSESSION_H
+#define OPERATORSESSION_H
+
+// Who is logged in at the window, and for how long.
+// May touch: Qt Core, operators. Checks passwords in a pool thread.
+
+#include "operators.h"
+
+#include <QObject>
+#include <QTimer>
+
+class OperatorSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit OperatorSession(QObject* parent = nullptr);
+
+    static constexpr int kDefaultIdleTime = 10 * 60 * 1000; // ms
+
+    bool isLoggedIn() const { return !m_name.isEmpty(); }
+    QString name() const { return m_name; } // empty: nobody
+    int level() const { return m_level; }   // 0: nobody
+
+    // Who is logged in stays so, at the level of the new table; who is not in it is logged out.
+    void setOperators(const Operators& operators);
+    // ms without activity() until the operator is logged out; above 0.
+    void setIdleTime(int milliseconds);
+
+    // Answers with changed() or refused(). A second call before the answer replaces the first. Who
+    // is logged in stays so until the answer is yes.
+    void logIn(const QString& name, const SecretText& password);
+    bool isChecking() const { return m_checking; }
+    // Also ends a check that is under way.
+    void logOut();
+    // Somebody uses the window. Logs out where the idle time has passed unnoticed, as it does while
+    // the machine sleeps; so call it before what the activity asks for.
+    void activity();
+
+signals:
+    void changed();
+    void refused(const QString& reason);
+
+protected:
+    virtual qint64 wallClock() const; // ms; goes on while the machine sleeps
+
+private:
+    void answer(int attempt, const QString& name, bool fits);
+    void set(const QString& name, int level);
+
+    Operators m_operators;
+    QString m_name;
+    int m_level = OperatorAccount::kMinLevel;
+    int m_attempt = 0;
+    bool m_checking = false;
+    qint64 m_lastActivity = 0; // ms of the wall clock
+    QTimer m_idle;
+};
+
+#endif // OPERATORSESSION_H
