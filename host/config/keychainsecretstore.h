@@ -1,0 +1,29 @@
+#ifndef KEYCHAINSECRETSTORE_H
+#define KEYCHAINSECRETSTORE_H
+
+// Secrets in the desktop's keychain, under the service name "upsdesk".
+// May touch: QtKeychain, in a thread of its own: reaching a desktop bus that does not answer
+// blocks.
+
+#include "secretstore.h"
+
+class KeychainSecretStore : public SecretStore
+{
+    Q_OBJECT
+
+public:
+    // ms; long enough to type the keychain's own password when it asks for it.
+    static constexpr int kDefaultTimeLimit = 60 * 1000;
+
+    // A call that has no answer within the limit fails; what it asked for may still happen later.
+    explicit KeychainSecretStore(int timeLimit = kDefaultTimeLimit, QObject* parent = nullptr);
+
+protected:
+    void run(Action action, const QString& key, const SecretText& secret,
+             const Callback& done) override;
+
+private:
+    int m_timeLimit;
+};
+
+#endif // KEYCHAINSECRETSTORE_H
