@@ -1,11 +1,34 @@
 #include "snmpconnector.h"
 
+#include "snmpdevice.h"
+#include "snmpengine.h"
+
 SnmpConnector::SnmpConnector(const DeviceSettings& settings, QObject* parent)
     : Connector(parent)
-    , m_settings(settings)
+    , m_engine(SnmpEngine::instance())
+    , m_device(new SnmpDevice(settings))
 {
+    qRegisterMetaType<PollResult>();
+    qRegisterMetaType<CommandResult>();
+    m_device->moveToThread(m_engine.get());
+    connect(m_device, &SnmpDevice::polled, this, &Connector::polled, Qt::QueuedConnection);
+    connect(m_device, &SnmpDevice::commandFinished, this, &Connector::commandFinished,
+            Qt::QueuedConnection);
 }
 
-void SnmpConnector::poll() {}
+SnmpConnector::~SnmpConnector()
+{
+    m_device->deleteLater(); // on its own thread, when that gets round to it
+}
 
-void SnmpConnector::send(const UpsCommand&) {}
+void SnmpConnector::poll()
+{
+    QMetaObject::invokeMethod(
+        m_device, [device = m_device] { device->poll(); }, Qt::QueuedConnection);
+}
+
+void SnmpConnector::send(const UpsCommand& command)
+{
+    QMetaObject::invokeMethod(
+        m_device, [device = m_device, command] { device->send(command); }, Qt::QueuedConnection);
+}

@@ -1,0 +1,164 @@
+#include "snmpdevice.h"
+
+#include <QHostAddress>
+#include <QHostInfo>
+
+#include <algorithm>
+
+using std::chrono::seconds;
+
+SnmpDevice::SnmpDevice(const DeviceSettings& settings)
+    : m_settings(settings)
+    , m_pollLimit(this)
+{
+    m_settings.timeout = std::max(1, m_settings.timeout);
+    m_settings.retries = qBound(0, m_settings.retries, 10);
+    if (m_settings.address.port == 0)
+        m_settings.address.port = DeviceAddress::kSnmpPort;
+    m_pollLimit.setSingleShot(true);
+    connect(&m_pollLimit, &QTimer::timeout, this, &SnmpDevice::onPollLimit);
+}
+
+SnmpDevice::~SnmpDevice()
+{
+    if (m_lookup != -1)
+        QHostInfo::abortHostLookup(m_lookup);
+}
+
+QString SnmpDevice::peer() const
+{
+    const QString& host = m_settings.address.host;
+    const bool v6 = host.contains(QLatin1Char(':'));
+    return (v6 ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2"))
+        .arg(host)
+        .arg(m_settings.address.port);
+}
+
+// Looking up a name may take long; it happens on Qt's own threads.
+void SnmpDevice::withAddress(AddressHandler handler)
+{
+    const QString& host = m_settings.address.host;
+    if (m_addresses.isEmpty() && QHostAddress().setAddress(host))
+        m_addresses << host;
+    if (!m_addresses.isEmpty())
+        return handler(m_addresses.first(), {});
+
+    m_waitingForAddress.push_back(std::move(handler));
+    if (m_lookup != -1)
+        return;
+    m_lookup = QHostInfo::lookupHost(host, this, [this](const QHostInfo& info) {
+        m_lookup = -1;
+        QList<QHostAddress> found = info.addresses();
+        // Agents of many cards listen on IPv4 only.
+        std::stable_partition(found.begin(), found.end(), [](const QHostAddress& address) {
+            return address.protocol() == QAbstractSocket::IPv4Protocol;
+        });
+        for (const QHostAddress& address : qAsConst(found))
+            m_addresses << address.toString();
+        const QString error =
+            m_addresses.isEmpty()
+                ? tr("Name not found: %1 (%2)").arg(m_settings.address.host, info.errorString())
+                : QString();
+        const std::vector<AddressHandler> waiting = std::move(m_waitingForAddress);
+        m_waitingForAddress.clear();
+        for (const AddressHandler& waits : waiting)
+            waits(m_addresses.value(0), error);
+    });
+}
+
+void SnmpDevice::poll()
+{
+    if (m_polling)
+        return;
+    m_polling = true;
+    // All tries of a request, and once more the same for agents that need several requests.
+    m_pollLimit.start(seconds(m_settings.timeout * (m_settings.retries + 1) + m_settings.timeout));
+    withAddress([this](const QString& address, const QString& error) {
+        if (!m_polling || m_poll) // the limit has ended this poll meanwhile
+            return;
+        if (error.isEmpty())
+            return startPoll(address);
+        PollResult failed;
+        failed.state = LinkState::Lost;
+        failed.message = error;
+        endPoll(failed);
+    });
+}
+
+void SnmpDevice::startPoll(const QString& address)
+{
+    SnmpPoll::Limits limits;
+    limits.version = m_settings.address.snmpVersion;
+    limits.timeout = seconds(m_settings.timeout);
+    limits.retries = m_settings.retries;
+    limits.peer = peer();
+    m_poll = std::make_unique<SnmpPoll>(limits, m_memory);
+    if (!m_exchange) {
+        m_exchange = std::make_unique<SnmpExchange>(m_settings);
+        connect(m_exchange.get(), &SnmpExchange::ended, this,
+                [this] { endPoll(m_poll->result()); });
+    }
+    m_exchange->start(m_poll.get(), address);
+}
+
+void SnmpDevice::onPollLimit()
+{
+    if (!m_polling)
+        return;
+    if (m_exchange)
+        m_exchange->stop();
+    if (m_poll)
+        return endPoll(m_poll->result());
+    PollResult late;
+    late.state = LinkState::Lost;
+    late.message = tr("The name server does not answer for %1").arg(m_settings.address.host);
+    endPoll(late);
+}
+
+void SnmpDevice::endPoll(const PollResult& result)
+{
+    m_pollLimit.stop();
+    m_poll.reset();
+    m_polling = false;
+    if (result.state == LinkState::Lost) {
+        // Late answers go nowhere, and the next try takes the next address of the name, if any.
+        if (m_exchange)
+            m_exchange->stop();
+        if (!m_addresses.isEmpty())
+            m_addresses.removeFirst();
+    }
+    emit polled(result);
+}
+
+void SnmpDevice::send(const UpsCommand& command)
+{
+    SnmpCommand::Limits limits;
+    limits.timeout = seconds(m_settings.timeout);
+    limits.retries = m_settings.retries;
+    limits.shutdownWholeUps = m_settings.shutdownWholeUps;
+    limits.account = m_settings.address.snmpVersion == 3
+                         ? tr("user \"%1\"").arg(m_settings.address.user)
+                         : tr("community");
+    RunningCommand running{std::make_unique<SnmpCommand>(command, limits),
+                           std::make_unique<SnmpExchange>(m_settings)};
+    SnmpCommand* dialogue = running.dialogue.get();
+    SnmpExchange* exchange = running.exchange.get();
+    connect(
+        exchange, &SnmpExchange::ended, this,
+        [this, dialogue] {
+            const CommandResult result = dialogue->result();
+            m_commands.erase(dialogue);
+            emit commandFinished(result);
+        },
+        Qt::QueuedConnection);
+    m_commands.emplace(dialogue, std::move(running));
+
+    withAddress([this, dialogue, exchange](const QString& address, const QString& error) {
+        if (error.isEmpty())
+            return exchange->start(dialogue, address);
+        CommandResult failed = dialogue->result();
+        failed.message = error;
+        m_commands.erase(dialogue);
+        emit commandFinished(failed);
+    });
+}

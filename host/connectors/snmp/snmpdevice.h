@@ -1,0 +1,59 @@
+#ifndef SNMPDEVICE_H
+#define SNMPDEVICE_H
+
+// One agent as its connector sees it: polls and commands in, results out.
+// May touch: sessions, polls, commands, name look-up. Lives on the engine's thread.
+
+#include "snmpcommand.h"
+#include "snmpexchange.h"
+#include "snmppoll.h"
+
+#include <functional>
+#include <map>
+
+class SnmpDevice : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SnmpDevice(const DeviceSettings& settings);
+    ~SnmpDevice() override;
+
+    // One poll at a time; ends with exactly one polled(), after a time that timeout and retries
+    // bound.
+    void poll();
+    // Each command has a session of its own: a poll that waits for an answer holds up none.
+    void send(const UpsCommand& command);
+
+signals:
+    void polled(const PollResult& result);
+    void commandFinished(const CommandResult& result);
+
+private:
+    using AddressHandler = std::function<void(const QString& address, const QString& error)>;
+
+    void withAddress(AddressHandler handler);
+    void startPoll(const QString& address);
+    void endPoll(const PollResult& result);
+    void onPollLimit();
+    QString peer() const;
+
+    struct RunningCommand {
+        std::unique_ptr<SnmpCommand> dialogue;
+        std::unique_ptr<SnmpExchange> exchange;
+    };
+
+    DeviceSettings m_settings;
+    SnmpMemory m_memory;
+    QStringList m_addresses; // of the host name, the one in use first
+    std::vector<AddressHandler> m_waitingForAddress;
+    int m_lookup = -1;
+
+    bool m_polling = false;
+    std::unique_ptr<SnmpPoll> m_poll;
+    std::unique_ptr<SnmpExchange> m_exchange;
+    QTimer m_pollLimit;
+    std::map<SnmpCommand*, RunningCommand> m_commands;
+};
+
+#endif // SNMPDEVICE_H

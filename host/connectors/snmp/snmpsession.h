@@ -1,0 +1,82 @@
+#ifndef SNMPSESSION_H
+#define SNMPSESSION_H
+
+// One open conversation with one agent through net-snmp: a request out, a reply in, never blocking.
+// May touch: net-snmp, Qt Core, values. Lives on the engine's thread, like all calls of net-snmp.
+
+#include "snmpdialogue.h"
+
+#include "connectors/devicesettings.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+struct snmp_pdu;
+struct snmp_session;
+
+class SnmpSession
+{
+    Q_DECLARE_TR_FUNCTIONS(SnmpSession)
+
+public:
+    using Handler = std::function<void(const SnmpReply&)>;
+
+    // handler is called once for each request(), never from within it; it may call request() again,
+    // but must not destroy the session.
+    SnmpSession(const DeviceSettings& settings, Handler handler);
+    ~SnmpSession();
+    SnmpSession(const SnmpSession&) = delete;
+    SnmpSession& operator=(const SnmpSession&) = delete;
+
+    // Where to send to: a numeric address. Takes effect when the session opens.
+    void setPeer(const QString& numericAddress, quint16 port);
+
+    // One at a time. Opens the session where it is closed; with version 3 this asks for the agent's
+    // engine first. A silent version 3 session is opened anew for each further try, for an agent
+    // that has restarted never answers an old one.
+    void request(const SnmpRequest& request);
+
+    // Answers that are still on their way are lost; a pending request gets no reply.
+    void close();
+
+private:
+    static int onReply(int operation, snmp_session*, int, snmp_pdu* pdu, void* self);
+
+    bool open(QString& error);
+    bool addSecurity(snmp_session& session, QString& error);
+    void claimUser();
+    bool needsEngine() const;
+    void sendTry();
+    bool sendPdu(snmp_pdu* pdu);
+    snmp_pdu* makePdu() const;
+    snmp_pdu* makeEngineProbe() const;
+
+    void readSocket();
+    void onTimer();
+    void settleReply();
+    void deliver(const SnmpReply& reply);
+    void refuse(const QString& message);
+    QString securityError(int error) const;
+
+    DeviceSettings m_settings;
+    Handler m_handler;
+    QByteArray m_peer; // as net-snmp writes addresses
+    void* m_session = nullptr;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+
+    SnmpRequest m_request;
+    bool m_pending = false;
+    bool m_probing = false; // for the engine of version 3
+    int m_triesLeft = 0;
+    std::optional<SnmpReply> m_reply; // left by the callback, taken up after it
+    int m_reportError = 0;
+};
+
+#endif // SNMPSESSION_H
