@@ -22,6 +22,8 @@ void startLibrary()
           NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD, NETSNMP_DS_LIB_DISABLE_PERSISTENT_SAVE,
           NETSNMP_DS_LIB_DONT_LOAD_HOST_FILES})
         netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, option, 1);
+    // A place where no file can be, for the files that the options above do not cover.
+    netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_PERSISTENT_DIR, "/dev/null");
     netsnmp_set_mib_directory("");
     char noModules[] = "mibs :";
     netsnmp_config_remember(noModules);

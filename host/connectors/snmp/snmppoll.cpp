@@ -129,6 +129,8 @@ void SnmpPoll::takeSilence(const QString& message)
 void SnmpPoll::takeError(const SnmpReply& reply)
 {
     const std::size_t index = static_cast<std::size_t>(std::max(reply.errorIndex, 0));
+    m_denied = m_denied || reply.errorStatus == SnmpAuthorizationError ||
+               reply.errorStatus == SnmpNoAccess;
     if (reply.errorStatus == SnmpTooBig && m_phase == Phase::Columns && usesBulk())
         m_memory.bulk = false;
     else if (reply.errorStatus == SnmpTooBig && m_asked > 1)

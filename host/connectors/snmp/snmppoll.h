@@ -78,6 +78,7 @@ private:
     std::size_t m_most;            // objects per request, for the rest of this poll
     std::chrono::milliseconds m_roundTrip{0};
     SnmpValues m_values;
+    bool m_denied = false; // the agent has objects that it does not show us
     LinkState m_state = LinkState::Lost;
     QString m_message;
 };

@@ -160,8 +160,6 @@ bool SnmpSession::open(QString& error)
 
     wanted.version = kLibraryVersions[version - 1];
     wanted.peername = m_peer.data();
-    // Asking for the engine is our own request: the library would wait for the answer.
-    wanted.flags |= SNMP_FLAGS_DONT_PROBE;
     if (version == 3) {
         wanted.securityName = user.data();
         wanted.securityNameLen = static_cast<size_t>(user.size());
@@ -181,6 +179,8 @@ bool SnmpSession::open(QString& error)
                 .arg(address.host, QString::fromLocal8Bit(snmp_api_errstring(wanted.s_snmp_errno)));
         return false;
     }
+    // Asking for the engine is our own request: the library would wait for the answer.
+    snmp_sess_session(m_session)->flags |= SNMP_FLAGS_DONT_PROBE;
     m_notifier = std::make_unique<QSocketNotifier>(snmp_sess_transport(m_session)->sock,
                                                    QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { readSocket(); });
@@ -319,6 +319,7 @@ void SnmpSession::request(const SnmpRequest& request)
 {
     m_request = request;
     m_pending = true;
+    m_engineFound = false;
     m_clock.start();
     // The library repeats a request under the same number, so that a late answer still counts.
     m_triesLeft = m_settings.address.snmpVersion == 3 ? request.retries + 1 : 1;
@@ -434,8 +435,13 @@ void SnmpSession::readSocket()
     netsnmp_large_fd_set_init(&readable, socket + 1);
     NETSNMP_LARGE_FD_ZERO(&readable);
     NETSNMP_LARGE_FD_SET(socket, &readable);
+    const u_int forged = snmp_get_statistic(STAT_USMSTATSWRONGDIGESTS);
     snmp_sess_read2(m_session, &readable);
     netsnmp_large_fd_set_cleanup(&readable);
+    // Some agents sign even their report of a wrong secret with the right one: the library drops
+    // what it cannot verify, and only counts it.
+    if (m_pending && !m_reply && snmp_get_statistic(STAT_USMSTATSWRONGDIGESTS) != forged)
+        refuse(securityError(SNMPERR_AUTHENTICATION_FAILURE));
     settleReply();
 }
 
@@ -468,6 +474,7 @@ void SnmpSession::settleReply()
     if (m_probing && reply.kind == SnmpReply::Kind::Answer) {
         if (!needsEngine()) {
             m_probing = false;
+            m_engineFound = true;
             claimUser();
             sendPdu(makePdu());
             return;
@@ -487,9 +494,12 @@ void SnmpSession::settleReply()
     m_pending = true;
     m_triesLeft = triesLeft;
     if (m_triesLeft > 0)
-        sendTry();
-    else
-        deliver(reply);
+        return sendTry();
+    if (m_engineFound && reply.message.isEmpty())
+        reply.message = tr("%1 answers, but not what user \"%2\" sends: wrong privacy secret or "
+                           "protocol, or unknown context")
+                            .arg(m_settings.address.host, m_settings.address.user);
+    deliver(reply);
 }
 
 void SnmpSession::deliver(const SnmpReply& reply)

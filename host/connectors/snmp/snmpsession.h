@@ -73,7 +73,8 @@ private:
 
     SnmpRequest m_request;
     bool m_pending = false;
-    bool m_probing = false; // for the engine of version 3
+    bool m_probing = false;     // for the engine of version 3
+    bool m_engineFound = false; // since the request was made
     int m_triesLeft = 0;
     std::optional<SnmpReply> m_reply; // left by the callback, taken up after it
     int m_reportError = 0;
