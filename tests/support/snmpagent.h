@@ -1,0 +1,40 @@
+#ifndef SNMPAGENT_H
+#define SNMPAGENT_H
+
+// An SNMPv1 and v2c agent on a free port of loopback that answers from a table. Needs an event
+// loop; may live on a thread of its own.
+// May touch: Qt Network and the table.
+
+#include "snmptable.h"
+
+#include <QUdpSocket>
+
+class SnmpAgent : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SnmpAgent(QObject* parent = nullptr);
+
+    quint16 port() const { return m_socket.localPort(); }
+
+    SnmpTable table;
+    QByteArray community = "public";
+    bool frozen = false; // keeps what it is asked and answers when it thaws
+    void thaw();
+
+private:
+    void receive();
+    void answer(const QByteArray& packet, const QHostAddress& from, quint16 port);
+
+    struct Packet {
+        QByteArray bytes;
+        QHostAddress from;
+        quint16 port;
+    };
+
+    QUdpSocket m_socket;
+    std::vector<Packet> m_kept;
+};
+
+#endif // SNMPAGENT_H
