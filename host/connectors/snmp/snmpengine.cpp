@@ -4,7 +4,7 @@
 
 #include <net-snmp/net-snmp-includes.h>
 
-#include <QCoreApplication>
+#include <mutex>
 
 namespace
 {
@@ -53,9 +53,9 @@ SnmpEngine::~SnmpEngine()
 
 void SnmpEngine::run()
 {
-    startLibrary();
+    // Once in the life of the process: starting the library anew loses memory each time, and with
+    // nothing to save there is nothing to shut down but the sessions, which their devices close.
+    static std::once_flag started;
+    std::call_once(started, startLibrary);
     exec();
-    // Devices whose connectors have gone close their sessions before the library goes.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    snmp_shutdown(kApplication);
 }

@@ -121,6 +121,7 @@ SnmpSession::SnmpSession(const DeviceSettings& settings, Handler handler)
 
 SnmpSession::~SnmpSession()
 {
+    m_notifier.reset(); // at once: the thread may be about to end
     close();
 }
 
