@@ -148,7 +148,7 @@ void SnmpSession::close()
     m_reply.reset();
 }
 
-bool SnmpSession::open(QString& error)
+bool SnmpSession::open()
 {
     netsnmp_session wanted;
     snmp_sess_init(&wanted);
@@ -166,8 +166,11 @@ bool SnmpSession::open(QString& error)
         wanted.securityNameLen = static_cast<size_t>(user.size());
         wanted.contextName = context.data();
         wanted.contextNameLen = static_cast<size_t>(context.size());
-        if (!addSecurity(wanted, error))
+        QString error;
+        if (!addSecurity(wanted, error)) {
+            fail(SnmpReply::Kind::Refusal, error);
             return false;
+        }
     } else {
         wanted.community = reinterpret_cast<u_char*>(community.data());
         wanted.community_len = static_cast<size_t>(community.size());
@@ -175,9 +178,9 @@ bool SnmpSession::open(QString& error)
 
     m_session = snmp_sess_open(&wanted);
     if (!m_session) {
-        error =
-            tr("No SNMP session to %1: %2")
-                .arg(address.host, QString::fromLocal8Bit(snmp_api_errstring(wanted.s_snmp_errno)));
+        const QString cause = QString::fromLocal8Bit(snmp_api_errstring(wanted.s_snmp_errno));
+        fail(SnmpReply::Kind::Silence,
+             tr("No SNMP session to %1: %2").arg(m_settings.address.host, cause));
         return false;
     }
     // Asking for the engine is our own request: the library would wait for the answer.
@@ -330,43 +333,40 @@ void SnmpSession::request(const SnmpRequest& request)
 void SnmpSession::sendTry()
 {
     m_reply.reset();
-    QString error;
-    if (!m_session && !open(error))
-        return refuse(error);
+    if (!m_session && !open())
+        return;
     m_probing = needsEngine();
     if (!m_probing)
         claimUser();
     sendPdu(m_probing ? makeEngineProbe() : makePdu());
 }
 
-bool SnmpSession::sendPdu(netsnmp_pdu* pdu)
+void SnmpSession::sendPdu(netsnmp_pdu* pdu)
 {
     netsnmp_session* session = snmp_sess_session(m_session);
     session->timeout = std::chrono::microseconds(m_request.timeout).count();
     session->retries = m_settings.address.snmpVersion == 3 ? 0 : m_request.retries;
     if (pdu && snmp_sess_async_send(m_session, pdu, &SnmpSession::onReply, this) != 0) {
         m_timer.start(m_request.timeout + milliseconds(1));
-        return true;
+        return;
     }
     snmp_free_pdu(pdu);
     const int cause = session->s_snmp_errno;
     const QString text = QString::fromLocal8Bit(snmp_api_errstring(cause));
-    if (cause == SNMPERR_BAD_SENDTO) { // the network has no way there now
-        m_reply = SnmpReply();
-        m_reply->message = tr("Cannot send to %1: %2").arg(m_settings.address.host, text);
-        m_triesLeft = 1;
-        m_timer.start(0);
-    } else {
-        refuse(tr("The request cannot be made: %1").arg(text));
-    }
-    return false;
+    if (cause == SNMPERR_BAD_SENDTO) // the network has no way there now
+        fail(SnmpReply::Kind::Silence,
+             tr("Cannot send to %1: %2").arg(m_settings.address.host, text));
+    else
+        fail(SnmpReply::Kind::Refusal, tr("The request cannot be made: %1").arg(text));
 }
 
-void SnmpSession::refuse(const QString& message)
+// Before anything is sent, or instead of waiting on; told from the event loop.
+void SnmpSession::fail(SnmpReply::Kind kind, const QString& message)
 {
     m_reply = SnmpReply();
-    m_reply->kind = SnmpReply::Kind::Refusal;
+    m_reply->kind = kind;
     m_reply->message = message;
+    m_triesLeft = 1;
     m_timer.start(0);
 }
 
@@ -442,7 +442,7 @@ void SnmpSession::readSocket()
     // Some agents sign even their report of a wrong secret with the right one: the library drops
     // what it cannot verify, and only counts it.
     if (m_pending && !m_reply && snmp_get_statistic(STAT_USMSTATSWRONGDIGESTS) != forged)
-        refuse(securityError(SNMPERR_AUTHENTICATION_FAILURE));
+        fail(SnmpReply::Kind::Refusal, securityError(SNMPERR_AUTHENTICATION_FAILURE));
     settleReply();
 }
 

@@ -47,12 +47,12 @@ public:
 private:
     static int onReply(int operation, snmp_session*, int, snmp_pdu* pdu, void* self);
 
-    bool open(QString& error);
+    bool open();
     bool addSecurity(snmp_session& session, QString& error);
     void claimUser();
     bool needsEngine() const;
     void sendTry();
-    bool sendPdu(snmp_pdu* pdu);
+    void sendPdu(snmp_pdu* pdu);
     snmp_pdu* makePdu() const;
     snmp_pdu* makeEngineProbe() const;
 
@@ -60,7 +60,7 @@ private:
     void onTimer();
     void settleReply();
     void deliver(const SnmpReply& reply);
-    void refuse(const QString& message);
+    void fail(SnmpReply::Kind kind, const QString& message);
     QString securityError(int error) const;
 
     DeviceSettings m_settings;
