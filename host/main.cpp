@@ -3,17 +3,20 @@
 
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
+#include "config/deskconfig.h"
+#include "config/devicesecrets.h"
+#include "config/operatorsession.h"
 #include "connectors/connectorfactory.h"
+#include "window/activitywatch.h"
 #include "window/mainwindow.h"
 #include "window/theme.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 
-namespace
-{
+namespace {
 
-constexpr int kSimulatorPollSeconds = 1;
+constexpr int kMsPerMinute = 60 * 1000;
 
 // Without a display Qt would end the program; pictures and probes need none.
 void fallBackToOffscreen()
@@ -23,43 +26,99 @@ void fallBackToOffscreen()
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-int runWindow(QApplication& app)
+struct WindowOptions {
+    QStringList addresses;
+    bool kiosk = false;
+    Theme theme = Theme::Light;
+};
+
+WindowOptions readOptions(const QApplication& app)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::translate(
-        "main", "Watches uninterruptible power supplies.\n\n"
-                "Other modes: probe, picture, command; each explains itself with --help."));
+        "main", "Watches uninterruptible power supplies.\n\nOther modes: probe, picture, command, "
+                "add-operator, check-config; each explains itself with --help."));
     parser.addHelpOption();
     parser.addVersionOption();
+    const QCommandLineOption kiosk(
+        QStringLiteral("kiosk"),
+        QApplication::translate("main", "Wall display: all devices, full screen, no commands."));
+    const QCommandLineOption dark(QStringLiteral("dark"),
+                                  QApplication::translate("main", "Dark theme."));
+    parser.addOptions({kiosk, dark});
     parser.addPositionalArgument(
         QStringLiteral("ADDRESS"),
-        QApplication::translate("main", "sim:[NAME], nut://HOST[:PORT]/UPS, "
-                                        "snmp://COMMUNITY@HOST[:PORT]; the simulator without one"),
+        QApplication::translate("main",
+                                "sim:[NAME], nut://HOST[:PORT]/UPS, snmp://COMMUNITY@HOST[:PORT]; "
+                                "without one the configured devices, or else the simulator"),
         QStringLiteral("[ADDRESS...]"));
     parser.process(app);
+    return {parser.positionalArguments(), parser.isSet(kiosk),
+            parser.isSet(dark) ? Theme::Dark : Theme::Light};
+}
 
-    QStringList addresses = parser.positionalArguments();
-    if (addresses.isEmpty())
-        addresses << QStringLiteral("sim:");
+// What is wrong in the configuration, for the operator; empty when nothing is.
+QString faultText(const DeskConfig& config)
+{
+    QStringList lines;
+    for (const ConfigFault& fault : config.faults())
+        if (fault.severity == ConfigSeverity::Error)
+            lines << QApplication::translate("main", "line %1: %2").arg(fault.line).arg(fault.text);
+    if (lines.isEmpty())
+        return {};
+    return QApplication::translate("main",
+                                   "The configuration has faults and is used without them: ") +
+           lines.join(QStringLiteral("; "));
+}
+
+int runWindow(const WindowOptions& options)
+{
     QVector<DeviceSettings> devices;
-    for (const QString& address : qAsConst(addresses)) {
+    for (const QString& address : options.addresses) {
         const auto settings = settingsForAddress(address);
         if (!settings)
             return ExitUsage;
         devices << *settings;
-        if (settings->address.scheme == DeviceAddress::Scheme::Simulator)
-            devices.last().pollInterval = kSimulatorPollSeconds;
     }
 
-    applyTheme(Theme::Light);
+    applyTheme(options.theme);
+    DeskConfig config = DeskConfig::load();
+    OperatorSession session;
+    session.setOperators(Operators(config.operators()));
+    session.setIdleTime(config.settings().idleLogout * kMsPerMinute);
+    ActivityWatch watch(session);
+
     Fleet fleet(makeConnector);
     EventLog log;
-    CommandDesk desk(fleet, log, [] { return CommandDesk::Operator{}; });
-    MainWindow window(fleet, desk, log);
-    for (const DeviceSettings& settings : qAsConst(devices))
-        fleet.add(settings);
-    window.openDevice(fleet.at(0));
-    window.show();
+    CommandDesk desk(fleet, log, [&session] {
+        return CommandDesk::Operator{session.name(), session.level()};
+    });
+    const auto mode = options.kiosk ? MainWindow::Mode::Kiosk : MainWindow::Mode::Desk;
+    MainWindow window(fleet, desk, log, session, mode);
+    if (const QString faults = faultText(config); !faults.isEmpty())
+        window.tell(faults, true);
+
+    const auto store = SecretStore::make(config.settings().secrets);
+    if (!devices.isEmpty()) {
+        for (const DeviceSettings& settings : qAsConst(devices))
+            fleet.add(settings);
+    } else if (!config.devices().isEmpty()) {
+        readDeviceSecrets(*store, config.devices(), &window,
+                          [&](const QVector<DeviceSettings>& complete, const QString& message) {
+                              for (const DeviceSettings& settings : complete)
+                                  fleet.add(settings);
+                              if (!message.isEmpty())
+                                  window.tell(message, true);
+                          });
+    } else {
+        fleet.add(*settingsForAddress(QStringLiteral("sim:")));
+    }
+    if (fleet.count() == 1 && !options.kiosk)
+        window.openDevice(fleet.at(0));
+    if (options.kiosk)
+        window.showFullScreen();
+    else
+        window.show();
     return QApplication::exec();
 }
 
@@ -76,5 +135,5 @@ int main(int argc, char** argv)
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() > 1 && isSubcommand(arguments.at(1)))
         return runSubcommand(arguments);
-    return runWindow(app);
+    return runWindow(readOptions(app));
 }

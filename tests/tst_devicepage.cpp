@@ -267,7 +267,8 @@ void TestDevicePage::removedDeviceLeavesNoPage()
     Desk desk;
     desk.add("sim:", "one");
     desk.add("sim:", "two");
-    MainWindow window(desk.fleet, desk.commands, desk.log);
+    OperatorSession session;
+    MainWindow window(desk.fleet, desk.commands, desk.log, session);
     window.openDevice(desk.fleet.at(0));
     QVERIFY(window.currentPage());
     QCOMPARE(window.findChildren<DevicePage*>().size(), 1); // made when opened, not before

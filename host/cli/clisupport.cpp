@@ -1,5 +1,10 @@
 #include "clisupport.h"
 
+#include "config/deskconfig.h"
+#include "config/devicesecrets.h"
+#include "config/secretstore.h"
+
+#include <QEventLoop>
 #include <QTextStream>
 
 #include <cstdio>
@@ -14,8 +19,48 @@ void printError(const QString& line)
     QTextStream(stderr) << "upsdesk: " << line << '\n';
 }
 
+namespace {
+
+// For NUT commands on a device that is not in the configuration.
+constexpr char kUserVariable[] = "UPSDESK_NUT_USER";
+
+// The simulator moves quickly, and asking it costs nothing.
+constexpr int kSimulatorPollSeconds = 1;
+
+std::optional<DeviceSettings> configuredDevice(const DeskConfig& config, const QString& text)
+{
+    for (const DeviceSettings& device : config.devices())
+        if (device.name == text || device.address.text == text)
+            return device;
+    return {};
+}
+
+DeviceSettings withStoredSecrets(const DeviceSettings& device, SecretsChoice choice)
+{
+    if (neededSecrets(device).isEmpty())
+        return device;
+    const auto store = SecretStore::make(choice);
+    DeviceSettings complete = device;
+    QEventLoop loop;
+    readDeviceSecrets(*store, {device}, &loop,
+                      [&](const QVector<DeviceSettings>& devices, const QString& message) {
+                          complete = devices.first();
+                          if (!message.isEmpty())
+                              printError(message);
+                          loop.quit();
+                      });
+    loop.exec();
+    return complete;
+}
+
+} // namespace
+
 std::optional<DeviceSettings> settingsForAddress(const QString& text)
 {
+    const DeskConfig config = DeskConfig::load();
+    if (const auto configured = configuredDevice(config, text))
+        return withStoredSecrets(*configured, config.settings().secrets);
+
     const ParsedAddress parsed = parseDeviceAddress(text);
     if (!parsed.address) {
         printError(parsed.error);
@@ -23,9 +68,10 @@ std::optional<DeviceSettings> settingsForAddress(const QString& text)
     }
     DeviceSettings settings;
     settings.address = *parsed.address;
-    settings.user = qEnvironmentVariable("UPSDESK_NUT_USER");
-    settings.secret = qEnvironmentVariable("UPSDESK_NUT_SECRET");
-    settings.authSecret = qEnvironmentVariable("UPSDESK_AUTH_SECRET");
-    settings.privSecret = qEnvironmentVariable("UPSDESK_PRIV_SECRET");
+    settings.pollInterval = parsed.address->scheme == DeviceAddress::Scheme::Simulator
+                                ? kSimulatorPollSeconds
+                                : config.settings().pollInterval;
+    settings.user = qEnvironmentVariable(kUserVariable);
+    applySecretOverrides(settings);
     return settings;
 }

@@ -13,8 +13,9 @@
 void printOut(const QString& line);
 void printError(const QString& line);
 
-// Settings of the configured device with this address or name, else defaults for the address, with
-// secrets from the environment. Prints what is wrong and returns nothing for a bad address.
+// Settings of the configured device with this address or name, else defaults for the address; with
+// secrets from the environment or, for a configured device, the secret store. Prints what is wrong
+// and returns nothing for a bad address. Runs an event loop while the store answers.
 std::optional<DeviceSettings> settingsForAddress(const QString& text);
 
 #endif // CLISUPPORT_H

@@ -12,8 +12,7 @@
 #include <cstdio>
 #include <unistd.h>
 
-namespace
-{
+namespace {
 
 // A result may be a test's begin or a tracked command's end; nothing takes longer to be told.
 constexpr int kResultLimitSeconds = 90;

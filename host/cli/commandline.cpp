@@ -1,5 +1,7 @@
 #include "commandline.h"
 
+#include "cli/addoperatorcommand.h"
+#include "cli/checkconfigcommand.h"
 #include "cli/command.h"
 #include "cli/picture.h"
 #include "cli/probe.h"
@@ -7,8 +9,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace
-{
+namespace {
 
 struct Subcommand {
     const char* name;
@@ -19,6 +20,8 @@ constexpr Subcommand kSubcommands[] = {
     {"probe", runProbe},
     {"picture", runPicture},
     {"command", runCommand},
+    {"add-operator", runAddOperator},
+    {"check-config", runCheckConfig},
 };
 
 const Subcommand* find(const QString& name)

@@ -14,8 +14,7 @@
 #include <QRegularExpression>
 #include <QThread>
 
-namespace
-{
+namespace {
 
 struct Page {
     const char* file;

@@ -16,8 +16,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 QJsonObject valuesOf(const QMap<int, QVariant>& snapshot)
 {

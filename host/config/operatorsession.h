@@ -22,6 +22,8 @@ public:
     QString name() const { return m_name; } // empty: nobody
     int level() const { return m_level; }   // 0: nobody
 
+    // False: nobody can log in before an operator has been added.
+    bool hasOperators() const { return !m_operators.accounts().isEmpty(); }
     // Who is logged in stays so, at the level of the new table; who is not in it is logged out.
     void setOperators(const Operators& operators);
     // ms without activity() until the operator is logged out; above 0.

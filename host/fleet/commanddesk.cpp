@@ -13,6 +13,8 @@ CommandDesk::CommandDesk(Fleet& fleet, EventLog& log, WhoIsThere whoIsThere, QOb
 
 int CommandDesk::levelFor(const Device& device) const
 {
+    if (m_locked)
+        return 0;
     const int level = m_whoIsThere().level;
     return device.isSimulated() ? std::max(level, kCommandLevel) : level;
 }

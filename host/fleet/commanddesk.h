@@ -35,6 +35,9 @@ public:
     // newcomer can press the buttons.
     int levelFor(const Device& device) const;
 
+    // A wall display commands nothing, not even the simulator.
+    void lock() { m_locked = true; }
+
     // A command as a view posts it: CorvelEvent and command map.
     void post(Device* device, int code, const QMap<QString, QVariant>& command);
 
@@ -60,6 +63,7 @@ private:
     WhoIsThere m_whoIsThere;
     QHash<quint64, Pending> m_pending;
     quint64 m_lastId = 0;
+    bool m_locked = false;
 };
 
 #endif // COMMANDDESK_H

@@ -1,9 +1,9 @@
 #include "device.h"
 
 #include "reading/devicetext.h"
+#include "reading/readingscale.h"
 
-namespace
-{
+namespace {
 
 constexpr qint64 kMsPerSecond = 1000;
 // A NUT server may serve values this old before it says so.
@@ -98,6 +98,7 @@ void Device::takeResult(const PollResult& result)
         m_plan.failed(m_clock.monotonicMs());
     if (result.state == LinkState::Live) {
         m_reading = result.reading;
+        applyScales(*m_reading, m_settings.scales);
         m_readingBootMs = m_clock.bootMs();
         ++m_readingNumber;
     }

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 constexpr int kTickMs = 1000;
 // The boot clock runs ahead of the monotonic one by this much more after a suspend worth naming.

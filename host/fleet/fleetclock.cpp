@@ -2,8 +2,7 @@
 
 #include <ctime>
 
-namespace
-{
+namespace {
 
 qint64 readClockMs(clockid_t id)
 {

@@ -6,8 +6,7 @@ PollPlan::PollPlan(qint64 intervalMs, qint64 firstDueMs)
     : m_interval(std::max<qint64>(intervalMs, 1))
     , m_due(firstDueMs)
     , m_place(firstDueMs)
-{
-}
+{}
 
 void PollPlan::succeeded(qint64 nowMs)
 {

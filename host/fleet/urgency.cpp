@@ -7,8 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(Urgency)

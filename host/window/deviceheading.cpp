@@ -8,8 +8,7 @@
 #include <QLocale>
 #include <QVBoxLayout>
 
-namespace
-{
+namespace {
 
 // Today the time is enough; before, the day as well.
 QString sinceText(const QDateTime& since)

@@ -2,8 +2,7 @@
 
 #include "window/valuewords.h"
 
-namespace
-{
+namespace {
 
 // Polls arrive by the hundred a second in a large fleet; the views learn of them in batches.
 constexpr int kFlushMs = 200;

@@ -14,8 +14,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-namespace
-{
+namespace {
 
 // The energy-flow diagram with all panels open, and the tabs above it; px.
 constexpr QSize kWholeDiagram(775, 690);
@@ -72,8 +71,8 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     column->addWidget(m_stack, 1);
 
     // The view brings a light ground of its own; the theme's takes its place.
-    m_view->setStyleSheet(QStringLiteral("background-color: %1;")
-                              .arg(palette().color(QPalette::Window).name()));
+    m_view->setStyleSheet(
+        QStringLiteral("background-color: %1;").arg(palette().color(QPalette::Window).name()));
     const QString name = device.name();
     m_view->setName(name);
     m_charts->setCurrentName(name);

@@ -7,8 +7,7 @@
 #include <QApplication>
 #include <QPainter>
 
-namespace
-{
+namespace {
 
 // px
 constexpr int kMargin = 8;

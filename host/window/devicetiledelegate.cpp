@@ -91,10 +91,10 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         drawElided(painter, figure, Qt::AlignLeft | Qt::AlignVCenter, f.value);
         painter->setPen(soft);
         painter->setFont(sized(option.font, kSmallSize, false));
-        drawElided(painter,
-                   QRect(figure.left(), figure.bottom(), columnWidth,
-                         painter->fontMetrics().height()),
-                   Qt::AlignLeft | Qt::AlignVCenter, f.caption);
+        drawElided(
+            painter,
+            QRect(figure.left(), figure.bottom(), columnWidth, painter->fontMetrics().height()),
+            Qt::AlignLeft | Qt::AlignVCenter, f.caption);
         figure.moveLeft(figure.left() + columnWidth);
     }
 

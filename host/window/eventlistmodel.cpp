@@ -2,8 +2,7 @@
 
 #include "window/urgencycolors.h"
 
-namespace
-{
+namespace {
 
 struct ColumnText {
     const char* caption;

@@ -5,8 +5,7 @@
 #include <QEvent>
 #include <QPainter>
 
-namespace
-{
+namespace {
 
 // Light enough to read through, grey enough that nothing beneath passes for live.
 constexpr int kVeilAlpha = 150;

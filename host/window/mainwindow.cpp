@@ -5,21 +5,25 @@
 #include "window/devicerowdelegate.h"
 #include "window/devicesortmodel.h"
 #include "window/eventlistmodel.h"
+#include "window/logindialog.h"
+#include "window/operatorbar.h"
+#include "window/overviewpage.h"
 #include "window/resultbanner.h"
 
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QPushButton>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTreeView>
 #include <QVBoxLayout>
 
-namespace
-{
+namespace {
 
 constexpr QSize kFirstSize(1240, 900);
 constexpr int kSideWidth = 290;
@@ -27,44 +31,54 @@ constexpr int kEventListHeight = 150;
 
 } // namespace
 
-MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, QWidget* parent)
+MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorSession& session,
+                       Mode mode, QWidget* parent)
     : QMainWindow(parent)
     , m_fleet(fleet)
     , m_desk(desk)
+    , m_log(log)
+    , m_session(session)
     , m_model(new DeviceListModel(fleet, this))
     , m_sorted(new DeviceSortModel(this))
     , m_list(new QListView)
     , m_counts(new QLabel)
     , m_pages(new QStackedWidget)
+    , m_overview(new OverviewPage(*m_model))
+    , m_overviewButton(new QPushButton(tr("&All devices")))
     , m_banner(new ResultBanner)
 {
     setWindowTitle(tr("upsdesk"));
     resize(kFirstSize);
     m_sorted->setSourceModel(m_model);
 
+    m_pages->addWidget(m_overview);
+    m_overviewButton->setObjectName(QStringLiteral("OverviewButton"));
+    connect(m_overview, &OverviewPage::deviceChosen, this, &MainWindow::openDevice);
+    connect(m_overviewButton, &QPushButton::clicked, this, &MainWindow::openOverview);
+
     auto* right = new QWidget;
     auto* column = new QVBoxLayout(right);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
+    if (mode == Mode::Kiosk)
+        column->addWidget(m_overviewButton);
     column->addWidget(m_pages, 1);
     column->addWidget(m_banner);
 
-    auto* splitter = new QSplitter;
-    splitter->addWidget(makeSidePanel());
-    splitter->addWidget(right);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({kSideWidth, kFirstSize.width() - kSideWidth});
-    splitter->setChildrenCollapsible(false);
-    setCentralWidget(splitter);
-
-    auto* dock = new QDockWidget(tr("Events"));
-    dock->setObjectName(QStringLiteral("EventDock"));
-    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
-    dock->setWidget(makeEventList(log));
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
-    resizeDocks({dock}, {kEventListHeight}, Qt::Vertical);
-    dock->hide(); // shows itself with the first event
-    connect(&log, &EventLog::appended, dock, &QWidget::show);
+    if (mode == Mode::Kiosk) {
+        desk.lock();
+        setCentralWidget(right);
+    } else {
+        auto* splitter = new QSplitter;
+        splitter->addWidget(makeSidePanel());
+        splitter->addWidget(right);
+        splitter->setStretchFactor(1, 1);
+        splitter->setSizes({kSideWidth, kFirstSize.width() - kSideWidth});
+        splitter->setChildrenCollapsible(false);
+        setCentralWidget(splitter);
+        addDockWidget(Qt::BottomDockWidgetArea, makeEventDock());
+    }
+    openOverview();
 
     connect(&fleet, &Fleet::devicePolled, this, [this](Device* device) {
         DevicePage* page = currentPage();
@@ -73,6 +87,7 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, QWidget* 
     });
     connect(&fleet, &Fleet::ticked, this, [this] {
         m_list->viewport()->update(); // ages
+        m_overview->refreshAge();
         if (DevicePage* page = currentPage())
             page->refreshAge();
     });
@@ -82,11 +97,9 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, QWidget* 
             [this](const QString& device, const QString& command, const QString& outcome,
                    const QString& message, bool isBad) {
                 const QString head = QStringLiteral("%1: %2: %3").arg(device, command, outcome);
-                m_banner->say(message.isEmpty() ? head : head + QStringLiteral(". ") + message,
-                              isBad);
+                tell(message.isEmpty() ? head : head + QStringLiteral(". ") + message, isBad);
             });
-    connect(m_model, &DeviceListModel::refreshed, this,
-            [this] { m_counts->setText(m_model->countsText()); });
+    connect(&session, &OperatorSession::changed, this, &MainWindow::operatorChanged);
 }
 
 QWidget* MainWindow::makeSidePanel()
@@ -118,11 +131,18 @@ QWidget* MainWindow::makeSidePanel()
 
     m_counts->setObjectName(QStringLiteral("CountsLabel"));
     m_counts->setWordWrap(true);
+    connect(m_model, &DeviceListModel::refreshed, this,
+            [this] { m_counts->setText(m_model->countsText()); });
+    m_counts->setText(m_model->countsText());
+
+    auto* who = new OperatorBar(m_session);
+    connect(who, &OperatorBar::loginWanted, this, &MainWindow::askWhoIsThere);
 
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 8, 0, 8);
     auto* head = new QVBoxLayout;
     head->setContentsMargins(8, 0, 8, 0);
+    head->addWidget(m_overviewButton);
     head->addWidget(filter);
     head->addWidget(worstFirst);
     column->addLayout(head);
@@ -130,29 +150,48 @@ QWidget* MainWindow::makeSidePanel()
     auto* foot = new QVBoxLayout;
     foot->setContentsMargins(8, 0, 8, 0);
     foot->addWidget(m_counts);
+    foot->addWidget(who);
     column->addLayout(foot);
     return panel;
 }
 
-QWidget* MainWindow::makeEventList(EventLog& log)
+QDockWidget* MainWindow::makeEventDock()
 {
     auto* view = new QTreeView;
-    view->setModel(new EventListModel(log, view));
+    view->setObjectName(QStringLiteral("EventList"));
+    view->setModel(new EventListModel(m_log, view));
     view->setAccessibleName(tr("Events"));
     view->setRootIsDecorated(false);
     view->setUniformRowHeights(true);
     view->setAlternatingRowColors(true);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->header()->setStretchLastSection(true);
-    constexpr int widths[] = {140, 90, 160, 190, 50, 60, 150};
+    constexpr int widths[] = {140, 90, 160, 190, 50, 60, 150}; // px
     for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
         view->setColumnWidth(column, widths[column]);
-    return view;
+
+    auto* dock = new QDockWidget(tr("Events"));
+    dock->setObjectName(QStringLiteral("EventDock"));
+    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    dock->setWidget(view);
+    view->setMinimumHeight(kEventListHeight);
+    dock->hide(); // shows itself with the first event
+    connect(&m_log, &EventLog::appended, dock, &QWidget::show);
+    return dock;
 }
 
 DevicePage* MainWindow::currentPage() const
 {
     return qobject_cast<DevicePage*>(m_pages->currentWidget());
+}
+
+void MainWindow::openOverview()
+{
+    m_pages->setCurrentWidget(m_overview);
+    m_overview->refreshAge();
+    m_list->setCurrentIndex({});
+    m_list->clearSelection();
+    setWindowTitle(tr("upsdesk"));
 }
 
 void MainWindow::openDevice(Device* device)
@@ -170,8 +209,35 @@ void MainWindow::openDevice(Device* device)
     setWindowTitle(tr("%1 - upsdesk").arg(device->name()));
 }
 
-void MainWindow::refreshOperator()
+void MainWindow::tell(const QString& text, bool isBad)
 {
+    m_banner->say(text, isBad);
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && currentPage())
+        openOverview();
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::askWhoIsThere()
+{
+    auto* dialog = new LoginDialog(m_session, m_session.hasOperators(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void MainWindow::operatorChanged()
+{
+    DeskEvent event;
+    event.time = QDateTime::currentDateTime();
+    event.operatorName = m_session.isLoggedIn() ? m_session.name() : m_lastOperator;
+    event.text = m_session.isLoggedIn() ? tr("Logged in") : tr("Logged out");
+    event.outcome = m_session.isLoggedIn() ? tr("level %1").arg(m_session.level()) : tr("done");
+    m_log.append(event);
+    m_lastOperator = m_session.name();
     for (DevicePage* page : qAsConst(m_pageOf))
         page->refreshOperator();
 }
@@ -179,4 +245,6 @@ void MainWindow::refreshOperator()
 void MainWindow::forget(const Device* device)
 {
     delete m_pageOf.take(device);
+    if (!currentPage())
+        openOverview();
 }

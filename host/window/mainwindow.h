@@ -1,9 +1,11 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
-// The desk: device list at the left, the chosen device at the right, events below.
+// The desk: device list at the left, the chosen device or all of them at the right, events below.
+// As a wall display: nothing but the devices, and no commands.
 // May touch: the fleet, the command desk and the views through device pages; no connector.
 
+#include "config/operatorsession.h"
 #include "fleet/commanddesk.h"
 
 #include <QHash>
@@ -12,10 +14,13 @@
 class DeviceListModel;
 class DevicePage;
 class DeviceSortModel;
+class OverviewPage;
+class QDockWidget;
 class QLabel;
 class QListView;
 class QModelIndex;
 class QStackedWidget;
+class QPushButton;
 class ResultBanner;
 
 class MainWindow : public QMainWindow
@@ -23,30 +28,43 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    // All three must outlive the window.
-    MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, QWidget* parent = nullptr);
+    enum class Mode { Desk, Kiosk };
+
+    // All references must outlive the window.
+    MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorSession& session,
+               Mode mode = Mode::Desk, QWidget* parent = nullptr);
 
     // Opens the device's page; its page is made when it is opened for the first time.
     void openDevice(Device* device);
-    // The page on show, null before a device is chosen.
+    // All devices as tiles.
+    void openOverview();
+    // The page on show, null before a device is chosen and on the overview.
     DevicePage* currentPage() const;
+    // Something the operator should know that concerns no device.
+    void tell(const QString& text, bool isBad);
 
-public slots:
-    // Somebody logged in or out.
-    void refreshOperator();
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QWidget* makeSidePanel();
-    QWidget* makeEventList(EventLog& log);
+    QDockWidget* makeEventDock();
+    void askWhoIsThere();
+    void operatorChanged();
     void forget(const Device* device);
 
     Fleet& m_fleet;
     CommandDesk& m_desk;
+    EventLog& m_log;
+    OperatorSession& m_session;
+    QString m_lastOperator;
     DeviceListModel* m_model;
     DeviceSortModel* m_sorted;
     QListView* m_list;
     QLabel* m_counts;
     QStackedWidget* m_pages;
+    OverviewPage* m_overview;
+    QPushButton* m_overviewButton;
     ResultBanner* m_banner;
     QHash<const Device*, DevicePage*> m_pageOf;
 };

@@ -6,8 +6,7 @@
 #include <QPalette>
 #include <QStyleFactory>
 
-namespace
-{
+namespace {
 
 struct ThemeRow {
     const char* styleSheet;

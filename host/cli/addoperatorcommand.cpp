@@ -1,0 +1,93 @@
+#include "addoperatorcommand.h"
+
+#include "cli/clisupport.h"
+#include "cli/commandline.h"
+#include "config/addoperator.h"
+#include "config/deskconfig.h"
+
+#include <QCommandLineParser>
+#include <QFile>
+#include <QTextStream>
+
+#include <cstdio>
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int kLongestPassword = 1024;
+
+// A line from the terminal that is not shown while it is typed; from a pipe, simply a line.
+SecretText askSecret(const QString& prompt)
+{
+    const bool atTerminal = isatty(STDIN_FILENO);
+    termios before{};
+    if (atTerminal) {
+        QTextStream(stderr) << prompt << Qt::flush;
+        tcgetattr(STDIN_FILENO, &before);
+        termios silent = before;
+        silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
+    }
+    QByteArray line;
+    int c = 0;
+    while ((c = getchar()) != EOF && c != '\n' && line.size() < kLongestPassword)
+        line += static_cast<char>(c);
+    if (atTerminal) {
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &before);
+        QTextStream(stderr) << '\n';
+    }
+    const SecretText secret(line);
+    line.fill('\0');
+    return secret;
+}
+
+bool isSame(const SecretText& a, const SecretText& b)
+{
+    return a.toString() == b.toString();
+}
+
+} // namespace
+
+int runAddOperator(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QCoreApplication::translate(
+        "AddOperator", "Adds an operator, or gives one a new password and level."));
+    parser.addHelpOption();
+    const QCommandLineOption levelOption(
+        QStringLiteral("level"),
+        QCoreApplication::translate("AddOperator", "0 watches, 1 and above may command."),
+        QStringLiteral("N"));
+    parser.addOption(levelOption);
+    parser.addPositionalArgument(QStringLiteral("NAME"), QStringLiteral("of the operator"));
+    parser.process(arguments);
+    bool ok = false;
+    const int level = parser.value(levelOption).toInt(&ok);
+    if (parser.positionalArguments().size() != 1 || !ok) {
+        printError(QCoreApplication::translate("AddOperator",
+                                               "usage: upsdesk add-operator NAME --level N"));
+        return ExitUsage;
+    }
+
+    const SecretText password =
+        askSecret(QCoreApplication::translate("AddOperator", "Password (at least %1 characters): ")
+                      .arg(kMinPasswordLength));
+    if (isatty(STDIN_FILENO) &&
+        !isSame(password, askSecret(QCoreApplication::translate("AddOperator", "Once more: ")))) {
+        printError(QCoreApplication::translate("AddOperator", "the two passwords differ"));
+        return ExitUsage;
+    }
+    const QString path = DeskConfig::defaultPath();
+    const QString name = parser.positionalArguments().first();
+    const QString refusal = addOperator(path, name, level, password);
+    if (!refusal.isEmpty()) {
+        printError(refusal);
+        return ExitRefused;
+    }
+    printOut(QCoreApplication::translate("AddOperator", "%1 may log in at level %2 (%3)")
+                 .arg(name)
+                 .arg(level)
+                 .arg(path));
+    return ExitOk;
+}

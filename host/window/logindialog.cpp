@@ -1,0 +1,79 @@
+#include "logindialog.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+constexpr int kLongestInput = 200;
+constexpr int kWidth = 380; // px
+
+} // namespace
+
+LoginDialog::LoginDialog(OperatorSession& session, bool hasOperators, QWidget* parent)
+    : QDialog(parent)
+    , m_session(session)
+    , m_name(new QLineEdit)
+    , m_password(new QLineEdit)
+    , m_message(new QLabel)
+    , m_logIn(new QPushButton(tr("Log in")))
+{
+    setObjectName(QStringLiteral("LoginDialog"));
+    setWindowTitle(tr("Log in"));
+    setMinimumWidth(kWidth);
+    m_name->setObjectName(QStringLiteral("LoginName"));
+    m_password->setObjectName(QStringLiteral("LoginPassword"));
+    m_name->setMaxLength(kLongestInput);
+    m_password->setMaxLength(kLongestInput);
+    m_password->setEchoMode(QLineEdit::Password);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+
+    auto* form = new QFormLayout(this);
+    form->addRow(tr("&Name"), m_name);
+    form->addRow(tr("&Password"), m_password);
+    form->addRow(m_message);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    buttons->addButton(m_logIn, QDialogButtonBox::AcceptRole);
+    m_logIn->setDefault(true);
+    form->addRow(buttons);
+
+    connect(buttons, &QDialogButtonBox::accepted, this, &LoginDialog::logIn);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(&session, &OperatorSession::changed, this, [this] {
+        if (m_session.isLoggedIn())
+            accept();
+    });
+    connect(&session, &OperatorSession::refused, this, [this](const QString& reason) {
+        setBusy(false);
+        m_password->clear();
+        m_password->setFocus();
+        m_message->setText(reason);
+    });
+    if (!hasOperators) {
+        m_name->setEnabled(false);
+        m_password->setEnabled(false);
+        m_logIn->setEnabled(false);
+        m_message->setText(tr("There are no operators yet. Make one in a terminal:\n"
+                              "upsdesk add-operator NAME --level 1"));
+    }
+}
+
+void LoginDialog::logIn()
+{
+    if (m_name->text().isEmpty()) {
+        m_name->setFocus();
+        return;
+    }
+    setBusy(true);
+    m_session.logIn(m_name->text(), SecretText(m_password->text()));
+}
+
+void LoginDialog::setBusy(bool busy)
+{
+    m_logIn->setEnabled(!busy);
+    m_message->setText(busy ? tr("Checking \u2026") : QString());
+}
