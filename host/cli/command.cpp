@@ -17,15 +17,6 @@ namespace {
 // A result may be a test's begin or a tracked command's end; nothing takes longer to be told.
 constexpr int kResultLimitSeconds = 90;
 
-QString sentenceOf(const UpsCommand& command)
-{
-    QString text = commandLabel(command.kind);
-    if (command.kind == CommandKind::Standby)
-        text += QCoreApplication::translate("Command", " for %n minute(s)", nullptr,
-                                            command.standbyMinutes);
-    return text;
-}
-
 // Only a person at a terminal can say yes.
 bool isConfirmed(const QString& question)
 {
@@ -88,7 +79,7 @@ int runCommand(const QStringList& arguments)
     request.command->shutdownDelay = settings->shutdownDelay;
     request.command->restartDuration = settings->restartDuration;
     const QString question = QCoreApplication::translate("Command", "%1: %2?")
-                                 .arg(settings->displayName(), sentenceOf(*request.command));
+                                 .arg(settings->displayName(), commandSentence(*request.command));
     if (!parser.isSet(yes) && !isConfirmed(question))
         return ExitRefused;
 

@@ -10,7 +10,7 @@
 #include <QString>
 
 struct DeviceSettings {
-    QString name; // the operator's name for it; empty: the address
+    QString name; // the operator's name for it; empty: what the address calls it
     DeviceAddress address;
 
     // Account of a NUT server; needed for commands only.
@@ -31,7 +31,8 @@ struct DeviceSettings {
     // Correction of agents that are wrong by a power of ten: quantity name to factor.
     QMap<QString, double> scales;
 
-    QString displayName() const { return name.isEmpty() ? address.text : name; }
+    // For people: the given name, else what the address calls the device.
+    QString displayName() const;
 };
 
 #endif // DEVICESETTINGS_H

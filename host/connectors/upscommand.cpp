@@ -106,6 +106,14 @@ QString commandLabel(CommandKind kind)
     return Tr::tr(rowOf(kind).label);
 }
 
+QString commandSentence(const UpsCommand& command)
+{
+    const QString label = commandLabel(command.kind);
+    return command.kind == CommandKind::Standby
+               ? Tr::tr("%1 for %2 min").arg(label).arg(command.standbyMinutes)
+               : label;
+}
+
 QString outcomeLabel(CommandOutcome outcome)
 {
     switch (outcome) {

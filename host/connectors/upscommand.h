@@ -53,6 +53,8 @@ CommandRequest commandFromName(const QString& name, const QString& value);
 // The name above, and a sentence part for dialogs and logs ("UPS to standby").
 QString commandName(CommandKind kind);
 QString commandLabel(CommandKind kind);
+// The label with its value: "Standby for 15 min".
+QString commandSentence(const UpsCommand& command);
 QString outcomeLabel(CommandOutcome outcome);
 
 #endif // UPSCOMMAND_H

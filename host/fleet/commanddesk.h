@@ -42,6 +42,8 @@ public:
     void post(Device* device, int code, const QMap<QString, QVariant>& command);
 
 signals:
+    // The command is on its way.
+    void sent(const QString& deviceName, const QString& command);
     // The end of a command, also of one that was never sent.
     void finished(const QString& deviceName, const QString& command, const QString& outcome,
                   const QString& message, bool isBad);

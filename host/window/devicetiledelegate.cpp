@@ -17,7 +17,7 @@ constexpr int kCornerRadius = 6;
 // pt
 constexpr double kNameSize = 13;
 constexpr double kStateSize = 14;
-constexpr double kFigureSize = 22;
+constexpr double kFigureSize = 19;
 constexpr double kSmallSize = 9.5;
 
 QFont sized(QFont font, double points, bool bold)
@@ -79,12 +79,14 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     const struct {
         QString value;
         QString caption;
-    } figures[] = {{chargeText(reading), tr("battery")},
-                   {runtimeText(reading), tr("lasts")},
-                   {loadText(reading), tr("load")}};
-    const int columnWidth = line.width() / static_cast<int>(std::size(figures));
-    QRect figure(line.left(), line.top(), columnWidth, 0);
+        int widthPercent; // of the tile; minutes need most
+    } figures[] = {{chargeText(reading), tr("battery"), 34},
+                   {runtimeText(reading), tr("lasts"), 38},
+                   {loadText(reading), tr("load"), 28}};
+    QRect figure(line.topLeft(), QSize());
     for (const auto& f : figures) {
+        const int columnWidth = line.width() * f.widthPercent / 100;
+        figure.setWidth(columnWidth);
         painter->setPen(live ? text : soft);
         painter->setFont(sized(option.font, kFigureSize, live));
         figure.setHeight(painter->fontMetrics().height());

@@ -27,7 +27,7 @@ namespace {
 
 constexpr QSize kFirstSize(1240, 900);
 constexpr int kSideWidth = 290;
-constexpr int kEventListHeight = 150;
+constexpr int kEventListHeight = 120;
 
 } // namespace
 
@@ -99,6 +99,9 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorS
                 const QString head = QStringLiteral("%1: %2: %3").arg(device, command, outcome);
                 tell(message.isEmpty() ? head : head + QStringLiteral(". ") + message, isBad);
             });
+    connect(&desk, &CommandDesk::sent, this, [this](const QString& device, const QString& command) {
+        tell(tr("%1: %2: sent, waiting for the result").arg(device, command), false);
+    });
     connect(&session, &OperatorSession::changed, this, &MainWindow::operatorChanged);
 }
 
@@ -174,9 +177,13 @@ QDockWidget* MainWindow::makeEventDock()
     dock->setObjectName(QStringLiteral("EventDock"));
     dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
     dock->setWidget(view);
-    view->setMinimumHeight(kEventListHeight);
     dock->hide(); // shows itself with the first event
-    connect(&m_log, &EventLog::appended, dock, &QWidget::show);
+    connect(&m_log, &EventLog::appended, dock, [this, dock] {
+        if (dock->isVisible())
+            return;
+        dock->show();
+        resizeDocks({dock}, {kEventListHeight}, Qt::Vertical);
+    });
     return dock;
 }
 

@@ -67,10 +67,10 @@ QString runtimeText(const UpsReading* reading)
     if (!reading || !reading->runtime)
         return unknown();
     const auto minutes = static_cast<qint64>(std::clamp(*reading->runtime, 0.0, 1e9)) / kMinute;
-    constexpr qint64 minutesWorthCounting = 10 * 60;
+    constexpr qint64 minutesWorthCounting = 100;
     if (minutes < minutesWorthCounting)
         return Tr::tr("%1 min").arg(minutes);
-    return Tr::tr("%1 h").arg(minutes / 60);
+    return Tr::tr("%1 h").arg(static_cast<double>(minutes) / 60, 0, 'f', 1);
 }
 
 QString loadText(const UpsReading* reading)
