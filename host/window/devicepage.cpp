@@ -1,6 +1,7 @@
 #include "devicepage.h"
 
 #include "window/deviceheading.h"
+#include "window/linkband.h"
 #include "window/linkcover.h"
 #include "window/valuewords.h"
 
@@ -47,6 +48,7 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     , m_device(device)
     , m_desk(desk)
     , m_heading(new DeviceHeading)
+    , m_band(new LinkBand)
     , m_viewTabs(new QTabBar)
     , m_stack(new QStackedWidget)
     , m_view(new ChildForm)
@@ -67,6 +69,7 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_heading);
+    column->addWidget(m_band);
     column->addWidget(m_viewTabs);
     column->addWidget(m_stack, 1);
 
@@ -160,12 +163,14 @@ void DevicePage::refreshAge()
     m_heading->show(m_device);
     const LinkState link = m_device.link();
     m_cover->setOpaque(!m_device.reading());
-    if (link == LinkState::Live) {
-        m_cover->say({}, {});
+    m_cover->setVisible(link != LinkState::Live);
+    m_cover->raise(); // a view that becomes current is raised, too
+    m_band->setVisible(link != LinkState::Live);
+    if (link == LinkState::Live)
         return;
-    }
     const QString age = linkText(link, m_device.ageMs());
     const QString message = m_device.message();
-    m_cover->say(m_device.condition().text,
-                 message.isEmpty() ? age : message + QLatin1Char('\n') + age);
+    m_band->say(m_device.condition().text,
+                message.isEmpty() ? age : message + QLatin1Char('\n') + age,
+                link == LinkState::Connecting);
 }

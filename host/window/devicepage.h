@@ -11,6 +11,7 @@
 class ChartForm;
 class ChildForm;
 class DeviceHeading;
+class LinkBand;
 class LinkCover;
 class QLabel;
 class QTabBar;
@@ -52,6 +53,7 @@ private:
     Device& m_device;
     CommandDesk& m_desk;
     DeviceHeading* m_heading;
+    LinkBand* m_band;
     QTabBar* m_viewTabs;
     QStackedWidget* m_stack;
     ChildForm* m_view;

@@ -1,11 +1,10 @@
 #ifndef LINKCOVER_H
 #define LINKCOVER_H
 
-// Lies over a view whose data is not live: a veil that keeps the values readable, and a band that
-// says why. Lets the mouse through, so that the view's tabs still turn.
+// A veil over a view whose data is not live: the values stay readable, and nothing passes for live.
+// Lets the mouse through, so that the view's tabs still turn.
 // May touch: Qt Widgets.
 
-#include <QString>
 #include <QWidget>
 
 class LinkCover : public QWidget
@@ -16,18 +15,15 @@ public:
     // Covers `parent` whole and follows its size. Starts hidden.
     explicit LinkCover(QWidget* parent);
 
-    // title: the state in two words; text: cause and age. An empty title takes the cover away.
-    void say(const QString& title, const QString& text);
-    // Nothing beneath is worth reading (no reading yet): an opaque cover.
+    // Opaque when nothing beneath is worth reading (no reading yet).
     void setOpaque(bool opaque);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QString m_title;
-    QString m_text;
     bool m_opaque = false;
 };
 

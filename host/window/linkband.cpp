@@ -1,0 +1,34 @@
+#include "linkband.h"
+
+#include "window/urgencycolors.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+LinkBand::LinkBand(QWidget* parent)
+    : QFrame(parent)
+    , m_title(new QLabel)
+    , m_text(new QLabel)
+{
+    setObjectName(QStringLiteral("LinkBand"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 8, 16, 8);
+    column->setSpacing(2);
+    m_title->setObjectName(QStringLiteral("LinkBandTitle"));
+    for (QLabel* label : {m_title, m_text}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        column->addWidget(label);
+    }
+    hide();
+}
+
+void LinkBand::say(const QString& title, const QString& text, bool isWaiting)
+{
+    m_title->setText(title);
+    m_text->setText(text);
+    setAccessibleName(title + QStringLiteral(": ") + text);
+    const QColor color = urgencyColor(isWaiting ? Urgency::Notice : Urgency::Alarm);
+    setStyleSheet(QStringLiteral("#LinkBand { background: %1; } QLabel { color: white; }")
+                      .arg(color.name()));
+}
