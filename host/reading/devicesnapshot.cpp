@@ -177,6 +177,56 @@ constexpr TextRow kTexts[] = {
     {info_quenta_location, &UpsReading::location},
 };
 
+// Values that the views show as 0 when the device does not give them.
+struct ShownValue {
+    const char* label;
+    bool (*isGiven)(const UpsReading& reading);
+};
+
+constexpr ShownValue kShownValues[] = {
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "battery charge"),
+     [](const UpsReading& r) { return r.charge.has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "remaining time"),
+     [](const UpsReading& r) { return r.runtime.has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "battery voltage"),
+     [](const UpsReading& r) { return r.batteryVoltage.has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "battery current"),
+     [](const UpsReading& r) { return r.batteryCurrent.has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "battery temperature"),
+     [](const UpsReading& r) { return r.batteryTemperature.has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input voltage"),
+     [](const UpsReading& r) { return r.input.voltage[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input current"),
+     [](const UpsReading& r) { return r.input.current[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input frequency"),
+     [](const UpsReading& r) { return r.input.frequency[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input power"),
+     [](const UpsReading& r) { return r.input.power[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output voltage"),
+     [](const UpsReading& r) { return r.output.voltage[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output current"),
+     [](const UpsReading& r) { return r.output.current[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output frequency"),
+     [](const UpsReading& r) { return r.output.frequency[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output power"),
+     [](const UpsReading& r) { return r.output.power[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "load"),
+     [](const UpsReading& r) { return r.output.load[0].has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass"),
+     [](const UpsReading& r) { return r.bypass.voltage[0].has_value(); }},
+};
+
+QString unreportedNote(const UpsReading& reading)
+{
+    QStringList labels;
+    for (const ShownValue& value : kShownValues)
+        if (!value.isGiven(reading))
+            labels << Tr::tr(value.label);
+    return labels.isEmpty() ? QString()
+                            : Tr::tr("Not reported, shown as 0: %1.")
+                                  .arg(labels.join(QStringLiteral(", ")));
+}
+
 // Powers travel in their _Hi word; the _Lo word that follows it is always 0.
 bool isPowerWord(int key)
 {
@@ -324,5 +374,7 @@ QStringList readingNotes(const UpsReading& reading)
             break;
         }
     }
+    if (const QString note = unreportedNote(reading); !note.isEmpty())
+        notes << note;
     return notes;
 }

@@ -41,7 +41,8 @@ int alarmKey(Alarm alarm);
 // 1 or 3, all that the views know: no such input and split phase count as one line.
 int shownLines(const LineReading& group);
 
-// Remarks for the operator: the reading's own, and what the views cannot say.
+// Remarks for the operator: the reading's own, and what the views cannot say: split phase, and
+// which of their zeros stand for values that the device did not give.
 QStringList readingNotes(const UpsReading& reading);
 
 #endif // DEVICESNAPSHOT_H
