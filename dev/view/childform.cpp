@@ -43,11 +43,11 @@ ChildForm::ChildForm(CollectView* parent)
     ui->tabWidget->insertTab(AlarmTab, rtEvent, tr("RT-Alarm"));
     ui->tabWidget->insertTab(DetailTab, rateInfoArea, tr("Detail"));
     ui->tabWidget->insertTab(ControlTab, setInfo, tr("Control"));
-    // Renamed only now: setupUi connects the slot by the designer's name, style sheets use this one.
+    // Renamed only now: setupUi connects the slot by the designer's name, style sheets use this
+    // one.
     ui->tabWidget->setObjectName(QStringLiteral("devStacketTable"));
 
-    connect(setInfo, SIGNAL(postDEvent(int,QMap<QString,QVariant>)),
-            this, SIGNAL(postDEvent(int,QMap<QString,QVariant>)));
+    connect(setInfo, &SetInfoForm::postDEvent, this, &ChildForm::postDEvent);
 }
 
 ChildForm::~ChildForm()

@@ -42,7 +42,7 @@ private slots:
     // A page shows the last snapshot as soon as it is selected, without waiting for the next poll.
     void on_tabWidget_currentChanged(int index);
 
-private:
+protected:
     Ui_ChildForm* ui;
     QTabWidget* m_tabWidget = nullptr; // kept for hosts that derive; never set
     Energyline* rtData;
