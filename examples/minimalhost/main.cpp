@@ -1,5 +1,5 @@
 // The smallest program that shows a device view: one snapshot, and commands printed as they come.
-// Includes every public header, so that building it proves that each stands alone.
+// Includes every public header, so that building it proves that all of them are installed.
 
 #include <chartform.h>
 #include <childform.h>
@@ -17,6 +17,7 @@
 #include <rtthreegraphform.h>
 #include <setinfoform.h>
 #include <threedynamicchart.h>
+#include <trendchart.h>
 
 #include <QApplication>
 #include <QDebug>
