@@ -10,71 +10,48 @@
 
 #include <limits>
 
-namespace
-{
+namespace {
 
 using Snapshot = QMap<int, QVariant>;
 constexpr int kLowest = std::numeric_limits<int>::min();
 constexpr int kHighest = std::numeric_limits<int>::max();
+constexpr QSize kEven(900, 700);
+constexpr QSize kOdd(741, 643); // its centre is rounded down
 
 class Page : public Energyline
 {
 public:
-    using Energyline::ac_ACur, Energyline::ac_AVolt, Energyline::ac_Frenq, Energyline::byp_Volt,
-        Energyline::byp_Frenq, Energyline::ups_Type, Energyline::ups_Name,
-        Energyline::ups_Manufacturer, Energyline::ld_Volt, Energyline::ld_Cur,
-        Energyline::ld_ActPower, Energyline::ld_Percent, Energyline::ld_Freq, Energyline::ld_State,
-        Energyline::bat_Volt, Energyline::bat_Temp, Energyline::bat_Min, Energyline::bat_Cap,
-        Energyline::bat_State;
-    using Energyline::advanceFlow, Energyline::timer, Energyline::m_offset, Energyline::bat_fault;
+    using Energyline::ac_ACur, Energyline::ac_AVolt, Energyline::ld_ActPower, Energyline::ld_Cur,
+        Energyline::ld_Percent, Energyline::ld_State, Energyline::ld_Volt, Energyline::byp_Volt;
+    using Energyline::advanceFlow, Energyline::m_offset, Energyline::timer;
+    using Energyline::bat_Cap, Energyline::bat_fault, Energyline::bat_State, Energyline::bat_Temp;
     using Energyline::drawBase, Energyline::drawBattery, Energyline::drawdate, Energyline::drawflow;
-    using Energyline::input_rec_Flag, Energyline::rec_bat_Flag, Energyline::bat_inv_Flag,
-        Energyline::rec_inv_Flag, Energyline::inv_load_Flag, Energyline::byp_load_Flag;
-    using Energyline::INPUT_view_Flag, Energyline::BYPASS_view_Flag, Energyline::UPS_view_Flag,
-        Energyline::LOAD_view_Flag, Energyline::BATTERY_view_Flag, Energyline::RECINV_view_Flag;
+    using Energyline::ups_Manufacturer, Energyline::ups_Name, Energyline::ups_Type;
     using Layer = void (Page::*)(QPainter*);
 
-    // The flows that are on, in the order of their drawing.
-    QString flows() const
-    {
-        QString on;
-        for (auto [flag, name] :
-             {std::pair(input_rec_Flag, "input-rec "), std::pair(rec_bat_Flag, "rec-bat "),
-              std::pair(bat_inv_Flag, "bat-inv "), std::pair(rec_inv_Flag, "rec-inv "),
-              std::pair(inv_load_Flag, "inv-load "), std::pair(byp_load_Flag, "byp-load ")})
-            on += QLatin1String(flag ? name : "");
-        return on.trimmed();
-    }
-    void setFlows(bool on)
-    {
-        input_rec_Flag = rec_bat_Flag = bat_inv_Flag = on;
-        rec_inv_Flag = inv_load_Flag = byp_load_Flag = on;
-    }
-    QString openPanels() const
-    {
-        QString open;
-        for (auto [flag, name] :
-             {std::pair(BYPASS_view_Flag, "bypass "), std::pair(INPUT_view_Flag, "input "),
-              std::pair(UPS_view_Flag, "ups "), std::pair(LOAD_view_Flag, "load "),
-              std::pair(BATTERY_view_Flag, "battery ")})
-            open += QLatin1String(flag ? name : "");
-        return open.trimmed();
-    }
-    void closePanels()
-    {
-        INPUT_view_Flag = BYPASS_view_Flag = UPS_view_Flag = false;
-        LOAD_view_Flag = BATTERY_view_Flag = false;
-    }
+    struct Flag {
+        const char* name;
+        bool Energyline::*flag;
+    };
+    using Flags = QVector<Flag>;
+    static const Flags kFlows, kPanels; // in the order of their drawing
+
+    explicit Page(const QSize& size = kEven) { resize(size); }
+
+    QString flows() const { return namesOf(kFlows); }
+    void setFlows(const QString& names) { setFlags(kFlows, names); }
+    QString openPanels() const { return namesOf(kPanels); }
+    void setOpenPanels(const QString& names) { setFlags(kPanels, names); }
 
     QPointF middle() const { return QPoint(width() / 2, height() / 2); }
 
-    // The whole page, or one layer of it, as primitives.
-    void recordTo(RecordingDevice& device, Layer layer = nullptr)
+    // One layer of the page as primitives.
+    QVector<PaintStep> steps(Layer layer, int kind = -1, int devicePixelRatio = 1)
     {
-        if (!layer)
-            return render(&device, QPoint(), QRegion(), RenderFlags());
+        RecordingDevice device(size(), devicePixelRatio);
         QPainter painter(&device);
         (this->*layer)(&painter);
+        return kind < 0 ? device.steps() : device.stepsOf(PaintStep::Kind(kind));
     }
 
     int paints = 0;
@@ -85,11 +62,63 @@ protected:
         ++paints;
         Energyline::paintEvent(event);
     }
+
+private:
+    QString namesOf(const Flags& flags) const
+    {
+        QStringList names;
+        for (const Flag& row : flags) {
+            if (this->*row.flag)
+                names << row.name;
+        }
+        return names.join(' ');
+    }
+    void setFlags(const Flags& flags, const QString& names)
+    {
+        for (const Flag& row : flags)
+            this->*row.flag = names.split(' ').contains(row.name);
+    }
 };
 
-QPolygonF translated(std::initializer_list<QPointF> points, QPointF by)
+const Page::Flags Page::kFlows{
+    {"input-rec", &Page::input_rec_Flag}, {"rec-bat", &Page::rec_bat_Flag},
+    {"bat-inv", &Page::bat_inv_Flag},     {"rec-inv", &Page::rec_inv_Flag},
+    {"inv-load", &Page::inv_load_Flag},   {"byp-load", &Page::byp_load_Flag}};
+const Page::Flags Page::kPanels{{"bypass", &Page::BYPASS_view_Flag},
+                                {"input", &Page::INPUT_view_Flag},
+                                {"ups", &Page::UPS_view_Flag},
+                                {"load", &Page::LOAD_view_Flag},
+                                {"battery", &Page::BATTERY_view_Flag}};
+const char kAllFlows[] = "input-rec rec-bat bat-inv rec-inv inv-load byp-load";
+const char kAllPanels[] = "bypass input ups load battery";
+
+// lines: the three phase counts; invalid: none in the snapshot.
+Snapshot sampleSnapshot(const QVariant& lines)
 {
-    return QPolygonF(QVector<QPointF>(points)).translated(by);
+    constexpr int kValues[][2] = {{realdata_InputFre_A, 499},       {realdata_BypFre, 501},
+                                  {realdata_OutputFre, 500},        {realdata_OutputSource, 3},
+                                  {realdata_OutputPower_A_Lo, 777}, {realdata_BatVoltage, 271},
+                                  {realdata_BatTemp, 250},          {realdata_MinutesRemaining, 42},
+                                  {realdata_ChargeRemaining, 95},   {realdata_BatteryStatus, 7}};
+    // Phase A; B is 10 more and C 20.
+    constexpr int kPhaseValues[][2] = {
+        {realdata_InputVoltage_A, 230},  {realdata_InputCurrent_A, 52},
+        {realdata_BypVoltage_A, 231},    {realdata_OutputVoltage_A, 232},
+        {realdata_OutputCurrent_A, 148}, {realdata_OutputPower_A_Hi, 3},
+        {realdata_OutputLoad_A, 45}};
+    Snapshot map{{info_ups_type, "  On-line\n 10 kVA "},
+                 {info_quenta_name, "A <b>&  %s"},
+                 {info_copo_name, "Maker"}};
+    for (auto [key, value] : kValues)
+        map[key] = value;
+    for (auto [key, value] : kPhaseValues) {
+        const int stride = key == realdata_OutputPower_A_Hi ? 2 : 1; // the low words lie between
+        for (int phase = 0; phase < 3; ++phase)
+            map[key + phase * stride] = value + phase * 10;
+    }
+    for (int key : {realdata_InputNumLines, realdata_BypNumLines, realdata_OutputNumLines})
+        map[key] = lines;
+    return map;
 }
 
 QGradientStops stopsOf(const PaintStep& step)
@@ -110,11 +139,21 @@ QLineF extentOf(const PaintStep& text)
     return text.transform.map(QLineF(start, start + QPointF(text.width, 0.0)));
 }
 
-void addSizes()
+QString fontOf(const PaintStep& text)
 {
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("even") << QSize(900, 700);
-    QTest::newRow("odd: the centre is rounded down") << QSize(741, 643);
+    return text.font.family() + QString(" %1").arg(text.font.pointSize()) +
+           (text.font.bold() ? " bold" : "");
+}
+
+// How a text lies in its rectangle.
+bool isPlaced(const PaintStep& text, const QRectF& room, Qt::Alignment alignment)
+{
+    const QLineF extent = extentOf(text);
+    const QRectF within = room.adjusted(-1.0, 0.0, 1.0, 0.0); // rounding of advances
+    const qreal off = alignment == Qt::AlignRight  ? extent.x2() - room.right()
+                      : alignment == Qt::AlignLeft ? extent.x1() - room.left()
+                                                   : extent.center().x() - room.center().x();
+    return within.contains(extent.p1()) && within.contains(extent.p2()) && qAbs(off) <= 1.0;
 }
 
 } // namespace
@@ -126,38 +165,23 @@ class TestEnergyline : public QObject
 private slots:
     void initTestCase();
 
-    void startsOpenAndStill();
-    void textsByPhaseCount_data();
-    void textsByPhaseCount();
-    void deviceTexts();
-    void batteryTemperature_data();
-    void batteryTemperature();
-    void batteryStatus_data();
-    void batteryStatus();
+    void flagsAtStart();
+    void threePhaseTexts();
+    void batteryTexts();
     void flowsBySource_data();
     void flowsBySource();
-    void allOffSparesRectifierToInverter();
 
     void clicks_data();
     void clicks();
     void animation();
 
-    void diagram_data();
     void diagram();
-    void captions();
-    void flowLines_data();
     void flowLines();
-    void batterySymbol_data() { addSizes(); }
     void batterySymbol();
-    void batteryCharge_data();
-    void batteryCharge();
     void panels_data();
     void panels();
-    void chargeAndLoadStayWithoutPanels();
-    void textsStayInTheirRectangles_data();
     void textsStayInTheirRectangles();
     void layersInOrderLeaveThePainterAlone();
-
     void hostImagesWin();
 };
 
@@ -167,224 +191,126 @@ void TestEnergyline::initTestCase()
     Q_CLEANUP_RESOURCE(hostimages);
 }
 
-void TestEnergyline::startsOpenAndStill()
+void TestEnergyline::flagsAtStart()
 {
-    const Page page;
-    QCOMPARE(page.openPanels(), QString("bypass input ups load battery"));
-    QVERIFY(page.RECINV_view_Flag);
+    Page page;
+    QCOMPARE(page.openPanels(), QString(kAllPanels));
     QCOMPARE(page.flows(), QString());
     QCOMPARE(page.bat_fault, (QVector<QString>{"Unknown", "Normal", "Low", "Depleted"}));
-    QCOMPARE(page.bat_Cap, QString());
+
+    page.setFlows(kAllFlows);
+    page.set_all_off_Flow();
+    QCOMPARE(page.flows(), QString("rec-inv")); // which it leaves as it is
 }
 
-void TestEnergyline::textsByPhaseCount_data()
+void TestEnergyline::threePhaseTexts() // single-phase texts: see panels()
 {
-    QTest::addColumn<QVariant>("lines");
-    QTest::addColumn<QStringList>("texts");
-
-    const QStringList one{"230 V", "5.2 A", "231 V", "232 V", "14.8 A", "3 KW", "45 %"};
-    const QStringList three{"230/240/250 V",    "5.2/6.2/7.2 A", "231/241/251 V", "232/242/252 V",
-                            "14.8/15.8/16.8 A", "3/13/23 KW",    "45/55/65 %"};
-    QTest::newRow("1") << QVariant(1) << one;
-    QTest::newRow("3") << QVariant(3) << three;
-    QTest::newRow("2: everything but 1 is three") << QVariant(2) << three;
-    QTest::newRow("missing") << QVariant() << three;
-}
-
-void TestEnergyline::textsByPhaseCount()
-{
-    QFETCH(QVariant, lines);
-    Snapshot map{{realdata_InputFre_A, 499},      {realdata_BypFre, 501},
-                 {realdata_OutputFre, 500},       {realdata_BatVoltage, 2713},
-                 {realdata_MinutesRemaining, 42}, {realdata_ChargeRemaining, 95},
-                 {realdata_OutputPower_A_Lo, 777}};
-    for (int phase = 0; phase < 3; ++phase) {
-        const int step = 10 * phase;
-        map[realdata_InputVoltage_A + phase] = 230 + step;
-        map[realdata_InputCurrent_A + phase] = 52 + step;
-        map[realdata_BypVoltage_A + phase] = 231 + step;
-        map[realdata_OutputVoltage_A + phase] = 232 + step;
-        map[realdata_OutputCurrent_A + phase] = 148 + step;
-        map[realdata_OutputPower_A_Hi + 2 * phase] = 3 + step;
-        map[realdata_OutputLoad_A + phase] = 45 + step;
-    }
-    for (int key : {realdata_InputNumLines, realdata_BypNumLines, realdata_OutputNumLines}) {
-        if (lines.isValid())
-            map[key] = lines;
-    }
-
     Page page;
-    page.flushData(map);
-    QTEST(QStringList({page.ac_AVolt, page.ac_ACur, page.byp_Volt, page.ld_Volt, page.ld_Cur,
-                       page.ld_ActPower, page.ld_Percent}),
-          "texts");
-    QCOMPARE(page.ac_Frenq, QString("49.9"));
-    QCOMPARE(page.byp_Frenq, QString("50.1"));
-    QCOMPARE(page.ld_Freq, QString("50.0 Hz"));
-    QCOMPARE(page.bat_Volt, QString("271.3"));
-    QCOMPARE(page.bat_Min, QString("42"));
-    QCOMPARE(page.bat_Cap, QString("95"));
-
+    for (const QVariant& lines : {QVariant(3), QVariant(2), QVariant(0), QVariant()}) {
+        page.flushData(sampleSnapshot(lines));
+        const QStringList texts{page.ac_AVolt, page.ac_ACur,     page.byp_Volt,  page.ld_Volt,
+                                page.ld_Cur,   page.ld_ActPower, page.ld_Percent};
+        QCOMPARE(texts.join(", "),
+                 QString("230/240/250 V, 5.2/6.2/7.2 A, 231/241/251 V, 232/242/252 V, "
+                         "14.8/15.8/16.8 A, 3/13/23 KW, 45/55/65 %"));
+    }
     page.flushData({{realdata_BypNumLines, 1}}); // each group follows its own count
-    QCOMPARE(page.ac_AVolt, QString("0/0/0 V"));
-    QCOMPARE(page.byp_Volt, QString("0 V"));
-    QCOMPARE(page.ld_Percent, QString("0/0/0 %"));
-}
-
-void TestEnergyline::deviceTexts()
-{
-    Page page;
-    page.flushData({{info_ups_type, "  On-line\n 10 kVA "},
-                    {info_copo_name, "Maker"},
-                    {info_quenta_name, " as  it is "}});
-    QCOMPARE(page.ups_Type, QString("On-line 10 kVA"));
-    QCOMPARE(page.ups_Manufacturer, QString("Maker"));
-    QCOMPARE(page.ups_Name, QString(" as  it is "));
-    page.flushData({});
+    QCOMPARE(page.ac_AVolt + page.byp_Volt + page.ld_Percent, QString("0/0/0 V0 V0/0/0 %"));
     QCOMPARE(page.ups_Type + page.ups_Manufacturer + page.ups_Name, QString());
 }
 
-void TestEnergyline::batteryTemperature_data()
+void TestEnergyline::batteryTexts()
 {
-    QTest::addColumn<int>("tenths");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("hottest shown") << 1000 << "100.0";
-    QTest::newRow("too hot") << 1001 << "--";
-    QTest::newRow("coldest shown") << 0 << "0.0";
-    QTest::newRow("too cold") << -5 << "--";
-    QTest::newRow("lowest") << kLowest << "--";
-}
-
-void TestEnergyline::batteryTemperature()
-{
-    QFETCH(int, tenths);
     Page page;
-    page.flushData({{realdata_BatTemp, tenths}});
-    QTEST(page.bat_Temp, "text");
-}
-
-void TestEnergyline::batteryStatus_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("text");
+    for (auto [tenths, text] :
+         {std::pair(1000, "100.0"), std::pair(1001, "--"), std::pair(0, "0.0"), std::pair(-1, "--"),
+          std::pair(kLowest, "--")}) {
+        page.flushData({{realdata_BatTemp, tenths}});
+        QCOMPARE(page.bat_Temp, QString(text));
+    }
     const QStringList texts{"Normal",   "Unknown", "Normal",   "Low",       "Depleted",
                             "Selftest", "Boost",   "Floating", "Discharge", "Normal"};
-    for (int status = 0; status < texts.size(); ++status)
-        QTest::addRow("%d", status) << status << texts[status];
-    for (int status : {-1, 10, kLowest, kHighest})
-        QTest::addRow("%d is outside", status) << status << QString();
-}
-
-void TestEnergyline::batteryStatus()
-{
-    QFETCH(int, status);
-    Page page;
-    page.flushData({{realdata_BatteryStatus, status}});
-    QTEST(page.bat_State, "text");
+    for (int status : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, -1, kLowest, kHighest}) {
+        page.flushData({{realdata_BatteryStatus, status}});
+        QCOMPARE(page.bat_State, texts.value(status)); // outside: empty
+    }
 }
 
 void TestEnergyline::flowsBySource_data()
 {
-    QTest::addColumn<int>("source");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("flows");         // battery neither in boost nor in float charge
     QTest::addColumn<QString>("chargingFlows"); // in boost or float charge
-    const QString utility = "input-rec rec-inv inv-load";
-    QTest::newRow("3: the battery's line shows while not charging")
-        << 3 << "Utility supply"
-        << "input-rec rec-bat rec-inv inv-load" << utility;
-    QTest::newRow("4") << 4 << "Bypass supply"
-                       << "byp-load"
-                       << "input-rec rec-bat byp-load";
-    QTest::newRow("5") << 5 << "Battery supply"
-                       << "bat-inv inv-load"
-                       << "bat-inv inv-load";
-    for (auto [source, text] :
-         {std::pair(0, "None supply"), std::pair(1, "Other supply"), std::pair(2, "None supply"),
-          std::pair(6, "Booster supply"), std::pair(7, "Reducer supply"), std::pair(8, ""),
-          std::pair(-1, ""), std::pair(kLowest, ""), std::pair(kHighest, "")})
-        QTest::addRow("%d", source) << source << text << ""
-                                    << "";
+    const auto row = [](int source, const char* text, const char* flows, const char* charging) {
+        QTest::addRow("%d", source) << text << flows << charging;
+    };
+    // On utility supply the battery's line shows while not charging.
+    row(3, "Utility supply", "input-rec rec-bat rec-inv inv-load", "input-rec rec-inv inv-load");
+    row(4, "Bypass supply", "byp-load", "input-rec rec-bat byp-load");
+    row(5, "Battery supply", "bat-inv inv-load", "bat-inv inv-load");
+    const std::pair<int, const char*> still[] = {{0, "None supply"},
+                                                 {1, "Other supply"},
+                                                 {2, "None supply"},
+                                                 {6, "Booster supply"},
+                                                 {7, "Reducer supply"},
+                                                 {8, ""},
+                                                 {-1, ""},
+                                                 {kLowest, ""},
+                                                 {kHighest, ""}};
+    for (auto [source, text] : still)
+        row(source, text, "", "");
 }
 
 void TestEnergyline::flowsBySource()
 {
-    QFETCH(int, source);
+    const int source = QByteArray(QTest::currentDataTag()).toInt();
     Page page;
-    for (int status : {0, 2, 5, 8, 99, kLowest}) {
-        page.setFlows(true); // nothing of the last snapshot stays
+    for (int status : {0, 2, 5, 6, 7, 8, 99, kLowest}) {
+        page.setFlows(kAllFlows); // nothing of the last snapshot stays
         page.flushData({{realdata_OutputSource, source}, {realdata_BatteryStatus, status}});
-        QTEST(page.flows(), "flows");
+        QTEST(page.flows(), status == 6 || status == 7 ? "chargingFlows" : "flows");
         QTEST(page.ld_State, "text");
     }
-    for (int status : {6, 7}) {
-        page.flushData({{realdata_OutputSource, source}, {realdata_BatteryStatus, status}});
-        QTEST(page.flows(), "chargingFlows");
-    }
     page.flushData({});
-    QCOMPARE(page.flows(), QString());
-    QCOMPARE(page.ld_State, QString("None supply"));
-}
-
-void TestEnergyline::allOffSparesRectifierToInverter()
-{
-    Page page;
-    page.setFlows(true);
-    page.set_all_off_Flow();
-    QCOMPARE(page.flows(), QString("rec-inv"));
-    page.setFlows(false);
-    page.set_all_off_Flow();
-    QCOMPARE(page.flows(), QString());
+    QCOMPARE(page.flows() + page.ld_State, QString("None supply"));
 }
 
 void TestEnergyline::clicks_data()
 {
     QTest::addColumn<QRect>("inside"); // the whole pixels of the area, relative to the centre
     QTest::addColumn<QString>("left"); // the panels still open after one click
-    const auto area = [](int left, int top, int right, int bottom) {
-        return QRect(QPoint(left, top), QPoint(right, bottom));
+    const auto row = [](const char* name, QPoint topLeft, QPoint bottomRight, const char* left) {
+        QTest::newRow(name) << QRect(topLeft, bottomRight) << left;
     };
-    const QString all = "bypass input ups load battery";
-    QTest::newRow("input") << area(-300, -37, -225, 37) << "bypass ups load battery";
-    QTest::newRow("bypass") << area(-300, -187, -225, -113) << "input ups load battery";
-    QTest::newRow("load") << area(225, -37, 300, 37) << "bypass input ups battery";
-    QTest::newRow("battery, and the device with it")
-        << area(-25, 80, 25, 155) << "bypass input load";
-    QTest::newRow("rectifier: none") << area(-130, -37, -55, 37) << all;
-    QTest::newRow("inverter: none") << area(55, -37, 130, 37) << all;
+    row("input", {-300, -37}, {-225, 37}, "bypass ups load battery");
+    row("bypass", {-300, -187}, {-225, -113}, "input ups load battery");
+    row("load", {225, -37}, {300, 37}, "bypass input ups battery");
+    row("battery, and the device with it", {-25, 80}, {25, 155}, "bypass input load");
+    row("rectifier: none", {-130, -37}, {-55, 37}, kAllPanels);
+    row("inverter: none", {55, -37}, {130, 37}, kAllPanels);
 }
 
 void TestEnergyline::clicks()
 {
     QFETCH(QRect, inside);
     QFETCH(QString, left);
-    Page page;
-    const QString all = page.openPanels();
-    for (const QSize& size : {QSize(900, 700), QSize(741, 643)}) {
-        page.resize(size);
+    for (const QSize& size : {kEven, kOdd}) {
+        Page page(size);
+        const auto click = [&page](int x, int y) {
+            QTest::mouseClick(&page, Qt::LeftButton, {}, QPoint(x, y));
+            return page.openPanels();
+        };
         const QRect area = inside.translated(page.middle().toPoint());
         const QPoint mid = area.center();
-        const QPoint edges[] = {area.topLeft(),         area.bottomRight(),
-                                {area.left(), mid.y()}, {area.right(), mid.y()},
-                                {mid.x(), area.top()},  {mid.x(), area.bottom()}};
-        for (const QPoint& point : edges) {
-            QTest::mouseClick(&page, Qt::LeftButton, {}, point);
-            QCOMPARE(page.openPanels(), left);
-            QTest::mouseClick(&page, Qt::LeftButton, {}, point);
-            QCOMPARE(page.openPanels(), all);
-        }
-        const QPoint outside[] = {{area.left() - 1, mid.y()},
-                                  {area.right() + 1, mid.y()},
-                                  {mid.x(), area.top() - 1},
-                                  {mid.x(), area.bottom() + 1}};
-        for (const QPoint& point : outside) {
-            QTest::mouseClick(&page, Qt::LeftButton, {}, point);
-            QCOMPARE(page.openPanels(), all);
-        }
+        QCOMPARE(click(area.left() - 1, mid.y()), QString(kAllPanels));
+        QCOMPARE(click(area.right() + 1, mid.y()), QString(kAllPanels));
+        QCOMPARE(click(mid.x(), area.top() - 1), QString(kAllPanels));
+        QCOMPARE(click(mid.x(), area.bottom() + 1), QString(kAllPanels));
+        QCOMPARE(click(area.left(), area.top()), left);
+        page.flushData({{realdata_OutputSource, 3}});
+        QCOMPARE(page.openPanels(), left); // a refresh opens nothing
+        QCOMPARE(click(area.right(), area.bottom()), QString(kAllPanels));
     }
-    QTest::mouseClick(&page, Qt::LeftButton, {}, inside.center() + page.middle().toPoint());
-    page.flushData({{realdata_OutputSource, 3}});
-    QCOMPARE(page.openPanels(), left); // a refresh opens nothing
 }
 
 void TestEnergyline::animation()
@@ -407,412 +333,248 @@ void TestEnergyline::animation()
     QCOMPARE(page.m_offset, 0.0F);
 }
 
-void TestEnergyline::diagram_data()
-{
-    addSizes();
-}
-
 void TestEnergyline::diagram()
 {
-    QFETCH(QSize, size);
-    Page page;
-    page.resize(size);
-    const QPointF c = page.middle();
-    RecordingDevice device(size);
-    page.recordTo(device, &Page::drawBase);
-
-    const QVector<PaintStep> lines = device.stepsOf(PaintStep::Polyline);
-    QCOMPARE(lines.size(), 1);
-    QCOMPARE(
-        lines[0].points,
-        translated(
-            {{-225, 0}, {0, 0}, {0, 70}, {0, 0}, {225, 0}, {175, 0}, {175, -150}, {-225, -150}},
-            c));
-    QCOMPARE(lines[0].pen,
-             QPen(QColor(245, 246, 250), 10, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-
-    // Halves of a pixel are cut off.
-    const QPointF boxes[] = {{-300, -38}, {-300, -188}, {225, -38}, {-130, -38}, {55, -38}};
-    const QRectF images[] = {{-279, -5, 30, 10},
-                             {-279, -155, 30, 10},
-                             {227, -28, 70, 55},
-                             {-129, -28, 70, 55},
-                             {57, -28, 70, 55}};
-    const QVector<PaintStep> rects = device.stepsOf(PaintStep::RoundedRect);
-    const QVector<PaintStep> pixmaps = device.stepsOf(PaintStep::Pixmap);
-    QCOMPARE(rects.size(), 5);
-    QCOMPARE(pixmaps.size(), 5);
-    for (int i = 0; i < 5; ++i) {
-        const QRectF box(c + boxes[i], QSizeF(75, 75));
-        QCOMPARE(rects[i].rect, box);
-        QCOMPARE(rects[i].radii, QSizeF(75, 75) * 0.25 / 2);
-        QCOMPARE(gradientLine(rects[i]), QLineF(box.topLeft(), box.bottomLeft()));
-        QCOMPARE(stopsOf(rects[i]),
-                 (QGradientStops{{0, QColor(157, 172, 255)}, {1, QColor(41, 71, 198)}}));
-        QCOMPARE(pixmaps[i].rect, images[i].translated(c));
-        QVERIFY(!pixmaps[i].pixmap.isNull());
-    }
-    QCOMPARE(pixmaps[0].pixmap.toImage(), pixmaps[1].pixmap.toImage());
-    QVERIFY(pixmaps[3].pixmap.toImage() != pixmaps[4].pixmap.toImage());
-}
-
-void TestEnergyline::captions()
-{
-    Page page;
-    page.resize(900, 700);
-    RecordingDevice device(page.size());
-    page.recordTo(device, &Page::drawBase);
-    QCOMPARE(device.texts(), (QStringList{"INPUT", "BYPASS", "LOAD", "REC", "INV", "BATTERY"}));
-    // LOAD leaves the right third of its line to the load percentage.
+    // Halves of a pixel are cut off. LOAD leaves the right third of its line to the percentage.
     const struct {
-        const char* text;
-        bool centred;
-        QRectF room;
-    } rows[] = {{"INPUT", true, {-300, -63, 75, 25}}, {"BYPASS", true, {-300, -213, 75, 25}},
-                {"LOAD", false, {225, -63, 50, 25}},  {"REC", true, {-130, -63, 75, 25}},
-                {"INV", true, {55, -63, 75, 25}},     {"BATTERY", false, {-45, 160, 70, 50}}};
-    for (const auto& row : rows) {
-        const PaintStep step = device.textsOf(row.text).value(0);
-        QCOMPARE(step.pen.color(), QColor(153, 153, 153));
-        QCOMPARE(step.font.family(), QString("Microsoft YaHei"));
-        QCOMPARE(step.font.pointSize(), 13);
-        QVERIFY(step.font.bold());
-        const QRectF room = row.room.translated(page.middle());
-        const QLineF extent = extentOf(step);
-        QVERIFY(room.contains(extent.p1()) && room.contains(extent.p2()));
-        if (row.centred)
-            QVERIFY(qAbs(extent.center().x() - room.center().x()) <= 1.0);
-        else
-            QCOMPARE(extent.x1(), room.left());
-    }
-}
-
-void TestEnergyline::flowLines_data()
-{
-    QTest::addColumn<int>("flag");
-    QTest::addColumn<QPolygonF>("points");
-    const auto row = [](const char* name, int flag, std::initializer_list<QPointF> points) {
-        QTest::newRow(name) << flag << translated(points, {});
+        QPointF box;
+        const char* caption;
+        Qt::Alignment alignment;
+        qreal captionWidth;
+        QRectF image;
+    } rows[] = {
+        {{-300, -38}, "INPUT", Qt::AlignCenter, 75, {-279, -5, 30, 10}},
+        {{-300, -188}, "BYPASS", Qt::AlignCenter, 75, {-279, -155, 30, 10}},
+        {{225, -38}, "LOAD", Qt::AlignLeft, 50, {227, -28, 70, 55}},
+        {{-130, -38}, "REC", Qt::AlignCenter, 75, {-129, -28, 70, 55}},
+        {{55, -38}, "INV", Qt::AlignCenter, 75, {57, -28, 70, 55}},
     };
-    row("input to rectifier", 0, {{-225, 0}, {-130, 0}});
-    row("rectifier to battery", 1, {{-55, 0}, {0, 0}, {0, 75}});
-    row("battery to inverter", 2, {{0, 75}, {0, 0}, {55, 0}});
-    row("rectifier to inverter", 3, {{-55, 0}, {55, 0}});
-    row("inverter to load", 4, {{130, 0}, {225, 0}});
-    row("bypass to load", 5, {{-225, -150}, {175, -150}, {175, 0}, {225, 0}});
-    row("none", -1, {});
+    const QPolygonF wires(
+        {{-225, 0}, {0, 0}, {0, 70}, {0, 0}, {225, 0}, {175, 0}, {175, -150}, {-225, -150}});
+    for (const QSize& size : {kEven, kOdd}) {
+        Page page(size);
+        const QPointF c = page.middle();
+        const PaintStep wiring = page.steps(&Page::drawBase).at(0);
+        QCOMPARE(wiring.points, wires.translated(c));
+        QCOMPARE(wiring.pen,
+                 QPen(QColor(245, 246, 250), 10, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+
+        const auto boxes = page.steps(&Page::drawBase, PaintStep::RoundedRect);
+        const auto texts = page.steps(&Page::drawBase, PaintStep::Text);
+        const auto images = page.steps(&Page::drawBase, PaintStep::Pixmap);
+        QCOMPARE(boxes.size(), 5);
+        QCOMPARE(images.size(), 5);
+        QCOMPARE(texts.size(), 6);
+        for (int i = 0; i < 5; ++i) {
+            const QRectF box(c + rows[i].box, QSizeF(75, 75));
+            QCOMPARE(boxes[i].rect, box);
+            QCOMPARE(boxes[i].radii, QSizeF(75, 75) * 0.25 / 2);
+            QCOMPARE(boxes[i].pen.color(), QColor(153, 153, 153));
+            QCOMPARE(gradientLine(boxes[i]), QLineF(box.topLeft(), box.bottomLeft()));
+            QCOMPARE(stopsOf(boxes[i]),
+                     (QGradientStops{{0, QColor(157, 172, 255)}, {1, QColor(41, 71, 198)}}));
+            QCOMPARE(images[i].rect, rows[i].image.translated(c));
+            const QRectF room(box.x(), box.y() - 25, rows[i].captionWidth, 25);
+            QCOMPARE(texts[i].text, QString(rows[i].caption));
+            QVERIFY(isPlaced(texts[i], room, rows[i].alignment));
+        }
+        QCOMPARE(texts[5].text, QString("BATTERY"));
+        QCOMPARE(texts[5].pen.color(), QColor(153, 153, 153));
+        QCOMPARE(fontOf(texts[5]), QString("Microsoft YaHei 13 bold"));
+        QVERIFY(isPlaced(texts[5], QRectF(-45, 160, 70, 50).translated(c), Qt::AlignLeft));
+        QVERIFY(images[3].pixmap.toImage() != images[4].pixmap.toImage());
+    }
 }
 
 void TestEnergyline::flowLines()
 {
-    QFETCH(int, flag);
-    QFETCH(QPolygonF, points);
-    Page page;
-    bool* const flags[] = {&page.input_rec_Flag, &page.rec_bat_Flag,  &page.bat_inv_Flag,
-                           &page.rec_inv_Flag,   &page.inv_load_Flag, &page.byp_load_Flag};
-    if (flag >= 0)
-        *flags[flag] = true;
+    const QVector<QPointF> lines[] = {
+        {{-225, 0}, {-130, 0}},     {{-55, 0}, {0, 0}, {0, 75}},
+        {{0, 75}, {0, 0}, {55, 0}}, {{-55, 0}, {55, 0}},
+        {{130, 0}, {225, 0}},       {{-225, -150}, {175, -150}, {175, 0}, {225, 0}},
+    };
+    QPen pen(QColor(157, 172, 255), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    pen.setDashPattern({2.0, 1.5, 2.0, 1.5});
+    pen.setDashOffset(-1.2F);
+
+    Page page(kOdd);
+    QVERIFY(page.steps(&Page::drawflow).isEmpty());
     page.m_offset = -1.2F;
-    for (const QSize& size : {QSize(900, 700), QSize(741, 643)}) {
-        page.resize(size);
-        RecordingDevice device(size);
-        page.recordTo(device, &Page::drawflow);
-        QCOMPARE(device.steps().size(), flag >= 0 ? 1 : 0);
-        if (flag < 0)
-            continue;
-        const PaintStep line = device.steps()[0];
-        QCOMPARE(line.kind, PaintStep::Polyline);
-        QCOMPARE(line.points, points.translated(page.middle()));
-        QCOMPARE(line.pen.color(), QColor(157, 172, 255));
-        QCOMPARE(line.pen.widthF(), 5.0);
-        QCOMPARE(line.pen.dashPattern(), (QVector<qreal>{2.0, 1.5, 2.0, 1.5}));
-        QCOMPARE(line.pen.dashOffset(), qreal(-1.2F));
-        QCOMPARE(line.pen.capStyle(), Qt::RoundCap);
-        QCOMPARE(line.pen.joinStyle(), Qt::RoundJoin);
+    for (int i = 0; i < 6; ++i) {
+        page.setFlows(Page::kFlows[i].name);
+        const QVector<PaintStep> drawn = page.steps(&Page::drawflow);
+        QCOMPARE(drawn.size(), 1);
+        QCOMPARE(drawn[0].points, QPolygonF(lines[i]).translated(page.middle()));
+        QCOMPARE(drawn[0].pen, pen);
     }
 }
 
 void TestEnergyline::batterySymbol()
 {
-    QFETCH(QSize, size);
-    Page page;
-    page.resize(size);
-    page.bat_Cap = "50";
-    RecordingDevice device(size);
-    page.recordTo(device, &Page::drawBattery);
-    QCOMPARE(device.steps().size(), 3);
-    const QPointF c = page.middle();
-
-    const PaintStep outline = device.steps()[0];
-    QCOMPARE(outline.rect, QRectF(-25, 80, 50, 75).translated(c));
-    QCOMPARE(outline.radii, QSizeF(8, 8));
-    QCOMPARE(outline.pen, QPen(Qt::darkGray, 5, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    QCOMPARE(outline.brush.style(), Qt::NoBrush);
-
-    const PaintStep fill = device.steps()[1];
-    QCOMPARE(fill.radii, QSizeF(5, 5));
-    QCOMPARE(fill.pen.style(), Qt::NoPen);
-    QCOMPARE(gradientLine(fill), QLineF(0, 0, 0, 50)); // not where the battery is
-    QCOMPARE(fill.brush.gradient()->spread(), QGradient::PadSpread);
-
-    const PaintStep cap = device.steps()[2];
-    const QRectF capRect = QRectF(-25 + 50 / 3.0, 70, 50 / 3.0, 10).translated(c);
-    QCOMPARE(cap.rect, capRect);
-    QCOMPARE(cap.radii, QSizeF(2, 2));
-    QCOMPARE(cap.pen.style(), Qt::NoPen);
-    QCOMPARE(gradientLine(cap), QLineF(capRect.topLeft(), capRect.bottomLeft()));
-    QCOMPARE(stopsOf(cap), (QGradientStops{{0, Qt::darkGray}, {1, Qt::gray}}));
-}
-
-void TestEnergyline::batteryCharge_data()
-{
-    QTest::addColumn<QString>("charge");
-    QTest::addColumn<qreal>("top"); // of the fill, relative to the centre
-    QTest::addColumn<qreal>("bottom");
-    QTest::addColumn<QColor>("start");
-    QTest::addColumn<QColor>("end");
-    const auto row = [](const char* charge, qreal top, qreal bottom, Qt::GlobalColor start,
-                        Qt::GlobalColor end) {
-        QTest::newRow(charge) << charge << top << bottom << QColor(start) << QColor(end);
+    const struct {
+        const char* text;
+        int charge; // the fill's height, from the floor up, in per cent of 71 px
+        Qt::GlobalColor start, end;
+    } rows[] = {
+        {"-5", -5, Qt::darkRed, Qt::red},       {"0", 0, Qt::darkRed, Qt::red},
+        {"no number", 0, Qt::darkRed, Qt::red}, {"20", 20, Qt::darkRed, Qt::red},
+        {"21", 21, Qt::darkYellow, Qt::yellow}, {"60", 60, Qt::darkYellow, Qt::yellow},
+        {"61", 61, Qt::darkGreen, Qt::green},   {"100", 100, Qt::darkGreen, Qt::green},
+        {"120", 120, Qt::darkGreen, Qt::green},
     };
-    constexpr qreal kFloor = 153.0;
-    constexpr qreal kPerCent = 0.71;
-    row("20", kFloor - 20 * kPerCent, kFloor, Qt::darkRed, Qt::red);
-    row("21", kFloor - 21 * kPerCent, kFloor, Qt::darkYellow, Qt::yellow);
-    row("60", kFloor - 60 * kPerCent, kFloor, Qt::darkYellow, Qt::yellow);
-    row("61", kFloor - 61 * kPerCent, kFloor, Qt::darkGreen, Qt::green);
-    row("100", 82.0, kFloor, Qt::darkGreen, Qt::green);
-    row("120", kFloor - 120 * kPerCent, kFloor, Qt::darkGreen, Qt::green);
-    row("-5", kFloor, kFloor + 5 * kPerCent, Qt::darkRed, Qt::red);
-    row("0", kFloor, kFloor, Qt::darkRed, Qt::red);
-    row("no number", kFloor, kFloor, Qt::darkRed, Qt::red);
-}
-
-void TestEnergyline::batteryCharge()
-{
-    QFETCH(QString, charge);
-    QFETCH(qreal, top);
-    QFETCH(qreal, bottom);
-    QFETCH(QColor, start);
-    QFETCH(QColor, end);
-    Page page;
-    page.resize(900, 700);
-    page.bat_Cap = charge;
-    RecordingDevice device(page.size());
-    page.recordTo(device, &Page::drawBattery);
-    const PaintStep fill = device.steps().at(1);
+    Page page(kOdd);
     const QPointF c = page.middle();
-    QCOMPARE(stopsOf(fill), (QGradientStops{{0, start}, {1, end}}));
-    QCOMPARE(fill.rect.left(), c.x() - 23);
-    QCOMPARE(fill.rect.right(), c.x() + 23);
-    QCOMPARE(fill.rect.top(), c.y() + top);
-    QCOMPARE(fill.rect.bottom(), c.y() + bottom);
+    const QPointF floor = c + QPointF(-23, 153);
+    for (const auto& row : rows) {
+        page.bat_Cap = row.text;
+        const PaintStep fill = page.steps(&Page::drawBattery).at(1);
+        QCOMPARE(fill.rect, QRectF(floor, QSizeF(46, row.charge * -0.71)).normalized());
+        QCOMPARE(stopsOf(fill), (QGradientStops{{0, row.start}, {1, row.end}}));
+        QCOMPARE(gradientLine(fill), QLineF(0, 0, 0, 50)); // not where the battery is
+        // As seen: the end colour just above the body's floor, nothing there at 0.
+        const QColor seen = page.grab().toImage().pixelColor((floor + QPointF(23, -3)).toPoint());
+        QCOMPARE(seen == QColor(row.end), row.charge > 0);
+    }
 
-    // The charge as seen: the end colour just above the body's floor, nothing there at 0.
-    const QColor seen = page.grab().toImage().pixelColor(450, 350 + 150);
-    QCOMPARE(seen == end, charge.toInt() > 0);
+    const QRectF cap = QRectF(-25 + 50 / 3.0, 70, 50 / 3.0, 10).translated(c);
+    const QVector<PaintStep> drawn = page.steps(&Page::drawBattery);
+    QCOMPARE(drawn.size(), 3);
+    QCOMPARE(drawn[0].rect, QRectF(-25, 80, 50, 75).translated(c));
+    QCOMPARE(drawn[0].radii, QSizeF(8, 8));
+    QCOMPARE(drawn[0].pen, QPen(Qt::darkGray, 5, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    QCOMPARE(drawn[0].brush.style(), Qt::NoBrush);
+    QCOMPARE(drawn[1].radii, QSizeF(5, 5));
+    QCOMPARE(drawn[1].pen.style(), Qt::NoPen);
+    QCOMPARE(drawn[2].rect, cap);
+    QCOMPARE(drawn[2].radii, QSizeF(2, 2));
+    QCOMPARE(drawn[2].pen.style(), Qt::NoPen);
+    QCOMPARE(gradientLine(drawn[2]), QLineF(cap.topLeft(), cap.bottomLeft()));
+    QCOMPARE(stopsOf(drawn[2]), (QGradientStops{{0, Qt::darkGray}, {1, Qt::gray}}));
 }
 
 void TestEnergyline::panels_data()
 {
-    QTest::addColumn<QString>("open");
     QTest::addColumn<QRectF>("frame");
-    QTest::addColumn<QStringList>("texts"); // title, then labels, then values
-    QTest::newRow("bypass") << "bypass" << QRectF(-375, -320, 250, 79)
-                            << QStringList{"BYPASS", "Voltage:", "Frequency:", "231 V", "50.1 Hz"};
-    QTest::newRow("input") << "input" << QRectF(-375, 45, 250, 104)
-                           << QStringList{"INPUT", "Voltage:", "Current:", "Frequency:",
-                                          "230 V", "5.2 A",    "49.9 Hz"};
-    QTest::newRow("device") << "ups" << QRectF(-110, -320, 250, 104)
-                            << QStringList{"UPS",           "Type:",  "Name:",
-                                           "Manufacturer:", "Type 5", "A <b>&name</b> %s",
-                                           "Maker"};
-    QTest::newRow("load") << "load" << QRectF(130, 45, 250, 179)
-                          << QStringList{"LOAD",          "Voltage:",      "Current:", "Frequency:",
-                                         "Active power:", "Load percent:", "Status:",  "232 V",
-                                         "14.8 A",        "50.0 Hz",       "3 KW",     "45 %",
-                                         "Utility supply"};
-    QTest::newRow("battery") << "battery" << QRectF(-375, 163, 250, 154)
-                             << QStringList{"BATTERY",   "Voltage:", "Temperature:", "Remain time:",
-                                            "Capacity:", "Status:",  "27.1 V",       "25.0 ℃",
-                                            "42 Min",    "95 %",     "Floating"};
+    QTest::addColumn<QString>("texts"); // title, then labels, then values
+    const auto row = [](const char* panel, const QRectF& frame, const char* texts) {
+        QTest::newRow(panel) << frame << QString::fromUtf8(texts);
+    };
+    row("none", {}, "");
+    row("bypass", {-375, -320, 250, 79}, "BYPASS|Voltage:|Frequency:|231 V|50.1 Hz");
+    row("input", {-375, 45, 250, 104}, "INPUT|Voltage:|Current:|Frequency:|230 V|5.2 A|49.9 Hz");
+    row("ups", {-110, -320, 250, 104},
+        "UPS|Type:|Name:|Manufacturer:|On-line 10 kVA|A <b>&  %s|Maker");
+    row("load", {130, 45, 250, 179},
+        "LOAD|Voltage:|Current:|Frequency:|Active power:|Load percent:|Status:|"
+        "232 V|14.8 A|50.0 Hz|3 KW|45 %|Utility supply");
+    row("battery", {-375, 163, 250, 154},
+        "BATTERY|Voltage:|Temperature:|Remain time:|Capacity:|Status:|"
+        "27.1 V|25.0 ℃|42 Min|95 %|Floating");
 }
 
 void TestEnergyline::panels()
 {
-    QFETCH(QString, open);
     QFETCH(QRectF, frame);
-    QFETCH(QStringList, texts);
+    QFETCH(QString, texts);
     Page page;
-    page.flushData({{realdata_InputNumLines, 1},
-                    {realdata_OutputNumLines, 1},
-                    {realdata_BypNumLines, 1},
-                    {realdata_BypVoltage_A, 231},
-                    {realdata_BypFre, 501},
-                    {realdata_InputVoltage_A, 230},
-                    {realdata_InputCurrent_A, 52},
-                    {realdata_InputFre_A, 499},
-                    {realdata_OutputVoltage_A, 232},
-                    {realdata_OutputCurrent_A, 148},
-                    {realdata_OutputFre, 500},
-                    {realdata_OutputPower_A_Hi, 3},
-                    {realdata_OutputLoad_A, 45},
-                    {realdata_OutputSource, 3},
-                    {realdata_BatVoltage, 271},
-                    {realdata_BatTemp, 250},
-                    {realdata_MinutesRemaining, 42},
-                    {realdata_ChargeRemaining, 95},
-                    {realdata_BatteryStatus, 7},
-                    {info_ups_type, "Type 5"},
-                    {info_quenta_name, "A <b>&name</b> %s"},
-                    {info_copo_name, "Maker"}});
-    page.closePanels();
-    page.BYPASS_view_Flag = open == "bypass";
-    page.INPUT_view_Flag = open == "input";
-    page.UPS_view_Flag = open == "ups";
-    page.LOAD_view_Flag = open == "load";
-    page.BATTERY_view_Flag = open == "battery";
-    page.resize(900, 700);
-    RecordingDevice device(page.size());
-    page.recordTo(device, &Page::drawdate);
-
-    const QVector<PaintStep> frames = device.stepsOf(PaintStep::RoundedRect);
-    QCOMPARE(frames.size(), 1);
+    page.flushData(sampleSnapshot(1));
+    page.setOpenPanels(QTest::currentDataTag());
     frame.translate(page.middle());
-    QCOMPARE(frames[0].rect, frame);
-    QCOMPARE(frames[0].radii, frame.size() * 0.05 / 2);
-    QCOMPARE(frames[0].pen.color(), QColor(Qt::white));
-    QCOMPARE(frames[0].brush, QBrush(QColor(245, 246, 250)));
+    const auto frames = page.steps(&Page::drawdate, PaintStep::RoundedRect);
+    QCOMPARE(frames.size(), texts.isEmpty() ? 0 : 1);
+    for (const PaintStep& step : frames) {
+        QCOMPARE(step.rect, frame);
+        QCOMPARE(step.radii, frame.size() * 0.05 / 2);
+        QCOMPARE(step.pen.color(), QColor(Qt::white));
+        QCOMPARE(step.brush, QBrush(QColor(245, 246, 250)));
+    }
+    QVector<PaintStep> drawn = page.steps(&Page::drawdate, PaintStep::Text);
+    QStringList drawnTexts;
+    for (const PaintStep& step : drawn) {
+        drawnTexts << step.text;
+        QCOMPARE(fontOf(step), QString("Microsoft YaHei 11"));
+    }
+    // Charge and load are there whatever is open.
+    QCOMPARE(drawnTexts.mid(0, 2), QStringList({"95 %", "45 %"}));
+    QCOMPARE(drawn[0].pen.color(), QColor(19, 75, 255));
+    QVERIFY(isPlaced(drawn[0], QRectF(25, 160, 50, 50).translated(page.middle()), Qt::AlignLeft));
+    QVERIFY(isPlaced(drawn[1], QRectF(275, -63, 80, 25).translated(page.middle()), Qt::AlignLeft));
 
-    QVector<PaintStep> drawn = device.stepsOf(PaintStep::Text);
-    QCOMPARE(drawn.size(), texts.size() + 2); // after the charge and the load
     drawn.remove(0, 2);
-    const int lines = texts.size() / 2;
-    for (int i = 0; i < texts.size(); ++i) {
-        const PaintStep& step = drawn[i];
+    QCOMPARE(drawnTexts.mid(2).join('|'), texts);
+    const int lines = drawn.size() / 2;
+    for (int i = 0; i < drawn.size(); ++i) {
         const bool isValue = i > lines;
-        const int line = isValue ? i - lines : i;
-        const QLineF extent = extentOf(step);
-        QCOMPARE(step.text, texts[i]);
-        QCOMPARE(step.pen.color(), isValue ? QColor(19, 75, 255) : QColor(102, 102, 102));
-        QCOMPARE(step.font.pointSize(), 11);
-        QVERIFY(!step.font.bold());
-        QVERIFY(extent.y1() > frame.top() + 25 * line &&
-                extent.y1() < frame.top() + 25 * (line + 1));
-        if (i == 0)
-            QVERIFY(qAbs(extent.center().x() - frame.center().x()) <= 1.0);
-        else if (isValue)
-            QVERIFY(qAbs(extent.x2() - (frame.right() - 10)) <= 1.0);
-        else
-            QCOMPARE(extent.x1(), frame.left() + 10);
+        const QRectF room(frame.x() + 10, frame.y() + 25 * (isValue ? i - lines : i), 230, 25);
+        const auto alignment = isValue ? Qt::AlignRight : Qt::AlignLeft;
+        QCOMPARE(drawn[i].pen.color(), isValue ? QColor(19, 75, 255) : QColor(102, 102, 102));
+        QVERIFY(isPlaced(drawn[i], room, i == 0 ? Qt::AlignCenter : alignment));
     }
-}
-
-void TestEnergyline::chargeAndLoadStayWithoutPanels()
-{
-    Page page;
-    page.closePanels();
-    page.resize(900, 700);
-    page.bat_Cap = "95";
-    page.ld_Percent = "45 %";
-    RecordingDevice device(page.size());
-    page.recordTo(device, &Page::drawdate);
-    QCOMPARE(device.texts(), (QStringList{"95 %", "45 %"}));
-    const QRectF rooms[] = {{25, 160, 50, 50}, {275, -63, 80, 25}};
-    for (int i = 0; i < 2; ++i) {
-        const PaintStep& step = device.steps()[i];
-        const QRectF room = rooms[i].translated(page.middle());
-        QCOMPARE(step.pen.color(), QColor(19, 75, 255));
-        QCOMPARE(extentOf(step).x1(), room.left());
-        QVERIFY(room.contains(extentOf(step).p2()));
-    }
-}
-
-void TestEnergyline::textsStayInTheirRectangles_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("a little too long") << "Basement rack 4, row B";
-    QTest::newRow("much too long") << QString("name ").repeated(20);
-    QTest::newRow("a million characters") << QString(1000000, 'W');
-    QTest::newRow("lines") << "one\ntwo\r\nthree" + QString(QChar::LineSeparator) + "four";
-    QTest::newRow("controls") << QString("a\tb\x9c") + QChar(0) + QChar(0x202e) + "cd";
-    QTest::newRow("rich text") << "<h1>big</h1>";
 }
 
 void TestEnergyline::textsStayInTheirRectangles()
 {
-    QFETCH(QString, name);
+    const QString names[] = {"Basement rack 4, row B", QString(1000000, 'W'),
+                             "one\ntwo\r\nthree" + QString(QChar::LineSeparator) + "four"};
     Page page;
-    page.resize(900, 700);
-    page.flushData({{info_quenta_name, name},
-                    {realdata_OutputLoad_A, kLowest},
-                    {realdata_OutputLoad_B, kLowest},
-                    {realdata_ChargeRemaining, kHighest}});
-    page.closePanels();
-    page.UPS_view_Flag = true;
-    RecordingDevice device(page.size());
-    page.recordTo(device, &Page::drawdate);
-
+    page.setOpenPanels("ups");
     const QRectF nameLine = QRectF(-100, -270, 230, 25).translated(page.middle());
-    const qreal labelEnd = extentOf(device.textsOf("Name:").value(0)).x2();
-    int runs = 0;
-    QSet<int> baselines;
-    for (const PaintStep& step : device.stepsOf(PaintStep::Text)) {
-        const QLineF extent = extentOf(step);
-        const bool isName = nameLine.contains(extent.p1()) && step.text != "Name:";
-        runs += isName;
-        baselines << qRound(extent.y1());
-        if (isName)
-            QVERIFY(extent.x1() > labelEnd && extent.x2() <= nameLine.right() + 1.0);
-        // The load beside its caption ends where its room ends.
-        QVERIFY(extent.x2() <= page.middle().x() + 275 + 80 + 1.0);
+    for (const QString& name : names) {
+        page.flushData({{info_quenta_name, name},
+                        {realdata_OutputLoad_A, kLowest},
+                        {realdata_OutputLoad_B, kLowest},
+                        {realdata_ChargeRemaining, kHighest}});
+        qreal labelEnd = nameLine.right();
+        int runs = 0;
+        QSet<int> baselines;
+        for (const PaintStep& step : page.steps(&Page::drawdate, PaintStep::Text)) {
+            const QLineF extent = extentOf(step);
+            baselines << qRound(extent.y1());
+            // The load beside its caption ends where its room ends.
+            QVERIFY(extent.x2() <= page.middle().x() + 275 + 80 + 1.0);
+            if (step.text == "Name:") {
+                labelEnd = extent.x2();
+            } else if (nameLine.contains(extent.p1())) {
+                ++runs;
+                QVERIFY(extent.x1() > labelEnd && extent.x2() <= nameLine.right() + 1.0);
+            }
+        }
+        QVERIFY(runs >= 1);
+        QCOMPARE(baselines.size(), 6); // charge, load, title and three lines, none broken in two
     }
-    QVERIFY(runs >= 1);
-    QCOMPARE(baselines.size(), 6); // charge, load, title and three lines, no line broken in two
-    QVERIFY(!page.grab().isNull());
 }
 
 void TestEnergyline::layersInOrderLeaveThePainterAlone()
 {
     Page page;
-    page.resize(900, 700);
-    page.setFlows(true);
-    RecordingDevice device(page.size());
-    page.recordTo(device);
-    const QVector<PaintStep> all = device.steps();
-    QVERIFY(all[0].hints.testFlag(QPainter::Antialiasing));
-    QVERIFY(all[0].hints.testFlag(QPainter::TextAntialiasing));
-    QVERIFY(all[0].hints.testFlag(QPainter::SmoothPixmapTransform));
+    page.setFlows(kAllFlows);
+    RecordingDevice all(page.size());
+    page.render(&all, QPoint(), QRegion(), QWidget::RenderFlags());
+    for (auto hint :
+         {QPainter::Antialiasing, QPainter::TextAntialiasing, QPainter::SmoothPixmapTransform})
+        QVERIFY(all.steps().at(0).hints.testFlag(hint));
 
-    device.clear();
-    {
-        QPainter painter(&device);
-        const QPen pen = painter.pen();
-        const QBrush brush = painter.brush();
-        const QFont font = painter.font();
-        for (Page::Layer layer : {Page::Layer(&Page::drawBase), Page::Layer(&Page::drawBattery),
-                                  Page::Layer(&Page::drawflow), Page::Layer(&Page::drawdate)}) {
-            (page.*layer)(&painter);
-            QCOMPARE(painter.pen(), pen);
-            QCOMPARE(painter.brush(), brush);
-            QCOMPARE(painter.font(), font);
-            QVERIFY(painter.transform().isIdentity());
-        }
+    RecordingDevice layers(page.size());
+    QPainter painter(&layers);
+    const QFont font = painter.font();
+    for (Page::Layer layer : {Page::Layer(&Page::drawBase), Page::Layer(&Page::drawBattery),
+                              Page::Layer(&Page::drawflow), Page::Layer(&Page::drawdate)}) {
+        (page.*layer)(&painter);
+        QCOMPARE(painter.pen(), QPen());
+        QCOMPARE(painter.brush(), QBrush());
+        QCOMPARE(painter.font(), font);
+        QVERIFY(painter.transform().isIdentity());
     }
-    QCOMPARE(device.steps().size(), all.size());
-    for (int i = 0; i < all.size(); ++i)
-        QCOMPARE(device.steps()[i].kind, all[i].kind);
+    QCOMPARE(layers.steps().size(), all.steps().size());
+    for (int i = 0; i < all.steps().size(); ++i)
+        QCOMPARE(layers.steps()[i].kind, all.steps()[i].kind);
 }
 
 void TestEnergyline::hostImagesWin()
 {
     const auto images = [](int devicePixelRatio) {
-        Page page;
-        page.resize(900, 700);
-        RecordingDevice device(page.size(), devicePixelRatio);
-        page.recordTo(device, &Page::drawBase);
         QVector<QImage> drawn;
-        for (const PaintStep& step : device.stepsOf(PaintStep::Pixmap))
+        for (auto& step : Page().steps(&Page::drawBase, PaintStep::Pixmap, devicePixelRatio))
             drawn << step.pixmap.toImage();
         return drawn;
     };
@@ -820,10 +582,10 @@ void TestEnergyline::hostImagesWin()
     QVERIFY(!QFile::exists("://image/INPUT.png"));
     const QVector<QImage> own = images(1);
     const QVector<QImage> ownDense = images(2);
-    QCOMPARE(own[0].size(), QSize(30, 10));
-    QCOMPARE(own[2].size(), QSize(70, 55));
-    QCOMPARE(ownDense[0].size(), QSize(60, 20));
-    QCOMPARE(ownDense[2].size(), QSize(140, 110));
+    for (int i = 0; i < 5; ++i) {
+        QCOMPARE(own[i].size(), i < 2 ? QSize(30, 10) : QSize(70, 55));
+        QCOMPARE(ownDense[i].size(), own[i].size() * 2);
+    }
 
     Q_INIT_RESOURCE(hostimages);
     const QVector<QImage> withHost = images(1);
@@ -834,7 +596,6 @@ void TestEnergyline::hostImagesWin()
     QCOMPARE(withHostDense[0], withHost[0]); // its one size, before the library's denser one
     QCOMPARE(withHost[2], own[2]);           // what the host lacks stays the library's
     QCOMPARE(withHostDense[2], ownDense[2]);
-    QCOMPARE(images(1), own);
 }
 
 QTEST_MAIN(TestEnergyline)
