@@ -89,6 +89,7 @@ int runWindow(const WindowOptions& options)
     ActivityWatch watch(session);
 
     Fleet fleet(makeConnector);
+    fleet.setThresholds(config.settings().thresholds);
     EventLog log;
     CommandDesk desk(fleet, log, [&session] {
         return CommandDesk::Operator{session.name(), session.level()};

@@ -11,8 +11,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 class TestClock : public FleetClock
 {
@@ -72,6 +71,8 @@ private slots:
     void unansweredPollEnds();
     void urgency_data();
     void urgency();
+    void thresholds_data();
+    void thresholds();
     void commandsAreChecked_data();
     void commandsAreChecked();
     void commandIsFollowedToItsResult();
@@ -222,6 +223,38 @@ void TestFleet::urgency()
     QCOMPARE(int(condition.urgency), urgency);
     QCOMPARE(condition.text.contains("mains"),
              link == int(LinkState::Live) && source == int(OutputSource::Utility));
+}
+
+void TestFleet::thresholds_data()
+{
+    QTest::addColumn<int>("source");
+    QTest::addColumn<double>("charge");
+    QTest::addColumn<double>("minutes");
+    QTest::addColumn<double>("load");
+    QTest::addColumn<int>("urgency");
+    const int mains = int(OutputSource::Utility);
+    const int battery = int(OutputSource::Battery);
+    QTest::newRow("nothing conspicuous") << mains << 51.0 << 1.0 << 79.0 << int(Urgency::Normal);
+    QTest::newRow("charge low") << mains << 50.0 << 60.0 << 10.0 << int(Urgency::Warning);
+    QTest::newRow("charge critical") << mains << 20.0 << 60.0 << 10.0 << int(Urgency::Critical);
+    QTest::newRow("load high") << mains << 90.0 << 60.0 << 80.0 << int(Urgency::Warning);
+    QTest::newRow("time left on battery") << battery << 90.0 << 6.0 << 10.0 << int(Urgency::Alarm);
+    QTest::newRow("little time left") << battery << 90.0 << 5.0 << 10.0 << int(Urgency::Critical);
+}
+
+void TestFleet::thresholds()
+{
+    QFETCH(int, source);
+    QFETCH(double, charge);
+    QFETCH(double, minutes);
+    QFETCH(double, load);
+    QFETCH(int, urgency);
+    UpsReading reading;
+    reading.outputSource = static_cast<OutputSource>(source);
+    reading.charge = charge;
+    reading.runtime = minutes * 60;
+    reading.output.load[2] = load;
+    QCOMPARE(int(conditionOf(LinkState::Live, &reading).urgency), urgency);
 }
 
 void TestFleet::commandsAreChecked_data()

@@ -5,7 +5,7 @@
 // May touch: Qt Core, the file system, addresses, names of readings.
 //
 //  [poll]        interval        1..3600 s, default 5; for devices without their own
-//  [thresholds]  see Thresholds
+//  [thresholds]  charge-low, charge-critical, runtime-low, load-high, temperature-high: see Thresholds
 //  [session]     idle-logout     1..1440 min, default 10
 //  [secrets]     store           keychain (default) or file
 //  [operator "NAME"]  level      0..9
@@ -27,18 +27,10 @@
 
 #include "configdocument.h"
 #include "connectors/devicesettings.h"
+#include "fleet/thresholds.h"
 #include "operatoraccount.h"
 
 #include <functional>
-
-// When a value counts as conspicuous in the overview.
-struct Thresholds {
-    int chargeLow = 50;       // %, 1..100; charge-low
-    int chargeCritical = 20;  // %, 0..100, at most chargeLow; charge-critical
-    int runtimeLow = 5;       // min, 0..1440; runtime-low
-    int loadHigh = 80;        // %, 1..200; load-high
-    int temperatureHigh = 40; // degrees Celsius, 1..150; temperature-high
-};
 
 enum class SecretsChoice { Keychain, File };
 

@@ -23,8 +23,8 @@ void CommandDesk::post(Device* device, int code, const QMap<QString, QVariant>& 
 {
     const QString value = command.value(QStringLiteral("controlValue")).toString();
     CommandRequest request = commandFromEvent(code, value);
-    const QString label = request.command ? commandSentence(*request.command)
-                                          : tr("Command %1").arg(code);
+    const QString label =
+        request.command ? commandSentence(*request.command) : tr("Command %1").arg(code);
 
     DeskEvent event;
     event.time = QDateTime::currentDateTime();

@@ -43,7 +43,8 @@ public:
     qint64 readingNumber() const { return m_readingNumber; }
     // ms since the last good reading; -1 before the first.
     qint64 ageMs() const;
-    Condition condition() const { return conditionOf(link(), reading()); }
+    Condition condition() const { return conditionOf(link(), reading(), m_thresholds); }
+    void setThresholds(const Thresholds& thresholds) { m_thresholds = thresholds; }
     // Since when the desk has seen the device in that condition.
     QDateTime conditionSince() const { return m_conditionSince; }
 
@@ -74,6 +75,7 @@ private:
     std::unique_ptr<Connector> m_connector;
     const FleetClock& m_clock;
     PollPlan m_plan;
+    Thresholds m_thresholds;
     LinkState m_link = LinkState::Connecting;
     QString m_message;
     std::optional<UpsReading> m_reading;

@@ -47,6 +47,7 @@ int Fleet::indexOf(const Device* device) const
 std::unique_ptr<Device> Fleet::makeDevice(const DeviceSettings& settings, qint64 firstDueMs)
 {
     auto device = std::make_unique<Device>(settings, m_maker(settings), m_clock, firstDueMs);
+    device->setThresholds(m_thresholds);
     Device* raw = device.get();
     connect(raw, &Device::polled, this, [this, raw] {
         emit devicePolled(raw);
@@ -99,6 +100,13 @@ void Fleet::pollNow(Device* device)
 {
     device->hurry();
     schedule();
+}
+
+void Fleet::setThresholds(const Thresholds& thresholds)
+{
+    m_thresholds = thresholds;
+    for (const auto& device : m_devices)
+        device->setThresholds(thresholds);
 }
 
 void Fleet::pollDueDevices()

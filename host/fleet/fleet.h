@@ -39,6 +39,9 @@ public:
 
     void pollNow(Device* device);
 
+    // For all devices, those that are there and those to come.
+    void setThresholds(const Thresholds& thresholds);
+
 signals:
     void deviceAdded(int index);
     void deviceAboutToBeRemoved(int index);
@@ -56,6 +59,7 @@ private:
     void tick();
 
     ConnectorMaker m_maker;
+    Thresholds m_thresholds;
     const FleetClock& m_clock;
     std::vector<std::unique_ptr<Device>> m_devices;
     QTimer m_pollTimer;

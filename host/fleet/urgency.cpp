@@ -68,25 +68,51 @@ Condition supplyCondition(OutputSource source)
     return {Urgency::Alarm, Tr::tr("Source unknown")};
 }
 
-Condition liveCondition(const UpsReading& reading)
+// The worst finding beside the supply: an alarm, or a value beyond its threshold.
+std::optional<Condition> worstFinding(const UpsReading& reading, const Thresholds& limits)
+{
+    constexpr double secondsPerMinute = 60;
+    std::optional<Condition> worst;
+    const auto find = [&worst](Urgency urgency, const QString& text) {
+        if (!worst || urgency > worst->urgency)
+            worst = Condition{urgency, text};
+    };
+    if (const auto alarm = worstAlarm(reading.alarms))
+        find(urgencyOf(*alarm), alarmText(*alarm));
+    if (reading.charge && *reading.charge <= limits.chargeLow)
+        find(*reading.charge <= limits.chargeCritical ? Urgency::Critical : Urgency::Warning,
+             Tr::tr("battery at %1 %").arg(*reading.charge, 0, 'f', 0));
+    if (reading.outputSource == OutputSource::Battery && reading.runtime &&
+        *reading.runtime <= limits.runtimeLow * secondsPerMinute)
+        find(Urgency::Critical, Tr::tr("little time left"));
+    for (const Value& load : reading.output.load)
+        if (load && *load >= limits.loadHigh)
+            find(Urgency::Warning, Tr::tr("load %1 %").arg(*load, 0, 'f', 0));
+    if (reading.batteryTemperature && *reading.batteryTemperature >= limits.temperatureHigh)
+        find(Urgency::Warning,
+             Tr::tr("battery at %1 \u00b0C").arg(*reading.batteryTemperature, 0, 'f', 0));
+    return worst;
+}
+
+Condition liveCondition(const UpsReading& reading, const Thresholds& thresholds)
 {
     Condition condition = supplyCondition(reading.outputSource);
-    if (reading.batteryState == BatteryState::SelfTest &&
-        reading.outputSource == OutputSource::Battery)
+    const bool test = reading.batteryState == BatteryState::SelfTest &&
+                      reading.outputSource == OutputSource::Battery;
+    if (test)
         condition = {Urgency::Notice, Tr::tr("Battery test")};
-    const auto worst = worstAlarm(reading.alarms);
-    if (worst && urgencyOf(*worst) > condition.urgency) {
-        condition.urgency = urgencyOf(*worst);
-        condition.text += QStringLiteral(", ") + alarmText(*worst);
-    } else if (worst && condition.urgency == Urgency::Normal) {
-        condition.text += QStringLiteral(", ") + alarmText(*worst);
-    }
+    const auto finding = worstFinding(reading, thresholds);
+    if (!finding)
+        return condition;
+    // What the supply says already is not said twice.
+    if (finding->urgency > condition.urgency)
+        condition = {finding->urgency, condition.text + QStringLiteral(", ") + finding->text};
     return condition;
 }
 
 } // namespace
 
-Condition conditionOf(LinkState link, const UpsReading* reading)
+Condition conditionOf(LinkState link, const UpsReading* reading, const Thresholds& thresholds)
 {
     switch (link) {
     case LinkState::Connecting:
@@ -100,7 +126,8 @@ Condition conditionOf(LinkState link, const UpsReading* reading)
     case LinkState::Live:
         break;
     }
-    return reading ? liveCondition(*reading) : Condition{Urgency::Notice, Tr::tr("Connecting")};
+    return reading ? liveCondition(*reading, thresholds)
+                   : Condition{Urgency::Notice, Tr::tr("Connecting")};
 }
 
 QString linkStateName(LinkState link)

@@ -5,6 +5,7 @@
 // May touch: readings and link states.
 
 #include "connectors/connector.h"
+#include "fleet/thresholds.h"
 #include "reading/upsreading.h"
 
 #include <QString>
@@ -19,7 +20,7 @@ struct Condition {
 
 // reading: the last good one, null when there has been none. Silence is at least an alarm, and
 // only a live reading that says so is "On mains".
-Condition conditionOf(LinkState link, const UpsReading* reading);
+Condition conditionOf(LinkState link, const UpsReading* reading, const Thresholds& thresholds = {});
 
 // "live", "stale", "lost", "refused", "connecting": the words of scripts.
 QString linkStateName(LinkState link);

@@ -83,7 +83,7 @@ void DeviceHeading::show(const Device& device)
     m_name->setFullText(device.name());
     m_condition->setFullText(condition.text);
     m_condition->setStyleSheet(
-        QStringLiteral("color: %1;").arg(urgencyColor(condition.urgency).name()));
+        QStringLiteral("color: %1;").arg(urgencyTextColor(condition.urgency, palette()).name()));
     m_since->setFullText(sinceText(device.conditionSince()));
     m_age->setFullText(linkText(device.link(), device.ageMs()) + QStringLiteral("  \u00b7  ") +
                        device.address());

@@ -7,6 +7,7 @@
 
 #include "chartform.h"
 #include "childform.h"
+#include "energyline.h"
 #include "rtdataform.h"
 
 #include <QScrollArea>
@@ -20,6 +21,8 @@ namespace {
 // The energy-flow diagram with all panels open, and the tabs above it; px.
 constexpr QSize kWholeDiagram(775, 690);
 constexpr QSize kWholeCharts(720, 520);
+
+constexpr char kDiagramGround[] = "#e6e9f2";
 
 enum ChartPage { SinglePhasePage, ThreePhasePage };
 
@@ -73,9 +76,12 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     column->addWidget(m_viewTabs);
     column->addWidget(m_stack, 1);
 
-    // The view brings a light ground of its own; the theme's takes its place.
+    // The theme's ground takes the place of the view's own, except under the diagram: its colours
+    // are made for a light one, and its idle wiring would vanish on white.
     m_view->setStyleSheet(
-        QStringLiteral("background-color: %1;").arg(palette().color(QPalette::Window).name()));
+        QStringLiteral("* { background-color: %1; } Energyline { background: %2; }")
+            .arg(palette().color(QPalette::Window).name(), kDiagramGround));
+    m_view->findChild<Energyline*>()->setAttribute(Qt::WA_StyledBackground);
     const QString name = device.name();
     m_view->setName(name);
     m_charts->setCurrentName(name);

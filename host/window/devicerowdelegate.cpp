@@ -57,8 +57,9 @@ void DeviceRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     painter->setFont(bold);
     writeLine(device->name(), {}, strong);
     painter->setFont(option.font);
-    const QColor stateColor =
-        selected || condition.urgency <= Urgency::Notice ? strong : urgencyColor(condition.urgency);
+    const QColor stateColor = selected || condition.urgency <= Urgency::Notice
+                                  ? strong
+                                  : urgencyTextColor(condition.urgency, option.palette);
     writeLine(condition.text, ageText(device->ageMs()), stateColor);
     writeLine(device->address(), {}, soft);
     painter->restore();

@@ -109,7 +109,7 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
                linkText(device->link(), device->ageMs()));
     const auto worst = reading ? worstAlarm(reading->alarms) : std::nullopt;
     if (worst) {
-        painter->setPen(urgencyColor(urgencyOf(*worst)));
+        painter->setPen(urgencyTextColor(urgencyOf(*worst), option.palette));
         drawElided(painter, foot.translated(0, -smallHeight), Qt::AlignLeft | Qt::AlignVCenter,
                    alarmText(*worst));
     }

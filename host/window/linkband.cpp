@@ -29,6 +29,6 @@ void LinkBand::say(const QString& title, const QString& text, bool isWaiting)
     m_text->setText(text);
     setAccessibleName(title + QStringLiteral(": ") + text);
     const QColor color = urgencyColor(isWaiting ? Urgency::Notice : Urgency::Alarm);
-    setStyleSheet(QStringLiteral("#LinkBand { background: %1; } QLabel { color: white; }")
-                      .arg(color.name()));
+    setStyleSheet(
+        QStringLiteral("#LinkBand { background: %1; } QLabel { color: white; }").arg(color.name()));
 }

@@ -16,3 +16,11 @@ QColor urgencyColor(Urgency urgency)
     }
     return {0xb7, 0x1c, 0x1c};
 }
+
+QColor urgencyTextColor(Urgency urgency, const QPalette& palette)
+{
+    constexpr int halfLight = 128;
+    constexpr int percent = 175;
+    const QColor color = urgencyColor(urgency);
+    return palette.color(QPalette::Window).lightness() < halfLight ? color.lighter(percent) : color;
+}

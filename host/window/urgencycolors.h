@@ -7,8 +7,12 @@
 #include "fleet/urgency.h"
 
 #include <QColor>
+#include <QPalette>
 
 // Fill of a marker; white text on it is readable.
 QColor urgencyColor(Urgency urgency);
+
+// The same for text on the palette's ground, light or dark.
+QColor urgencyTextColor(Urgency urgency, const QPalette& palette);
 
 #endif // URGENCYCOLORS_H
