@@ -38,6 +38,12 @@ void setScale(DataChart* gauge, const GaugeScale& scale)
     gauge->setRadioValue(scale.colours, scale.limits);
 }
 
+void setValue(DataChart* gauge, double value)
+{
+    gauge->setValue(value);
+    gauge->update();
+}
+
 void setCaption(DataChart* gauge, QLabel* label, const QString& caption)
 {
     label->setText(caption);

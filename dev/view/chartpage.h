@@ -30,6 +30,8 @@ GaugeScale outputLoad();
 GaugeScale batteryTemperature();
 
 void setScale(DataChart* gauge, const GaugeScale& scale);
+// Paints as well: the gauge itself does not where "0" becomes "--".
+void setValue(DataChart* gauge, double value);
 // The caption is the gauge's name for assistive technology, too.
 void setCaption(DataChart* gauge, QLabel* label, const QString& caption);
 void setPageColour(QWidget* page);

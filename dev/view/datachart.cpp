@@ -57,21 +57,15 @@ DataChart::DataChart(QWidget* parent)
 
 void DataChart::setValue(qreal v)
 {
-    const bool wasInvalid = m_invalidValue;
     m_invalidValue = !isOnScale(v);
     if (m_invalidValue)
         v = 0;
-    if (v == m_value) {
-        if (m_invalidValue != wasInvalid) { // "0" and "--" share a value, not a picture
-            tellValue();
-            update();
-        }
-        return;
+    if (v != m_value) { // between "0" and "--" it is the same; the next paint shows which
+        m_bReverse = v < m_value;
+        m_value = m_currentValue = v;
+        update();
     }
-    m_bReverse = v < m_value;
-    m_value = m_currentValue = v;
     tellValue();
-    update();
 }
 
 bool DataChart::isOnScale(double v) const
@@ -103,8 +97,9 @@ void DataChart::setRadioValue(QList<int> ratio, QList<int> values)
 
 void DataChart::tellValue()
 {
-    setAccessibleDescription(m_invalidValue ? valueText()
-                                            : valueText() + QLatin1Char(' ') + m_unitText);
+    const QString told = m_invalidValue ? valueText() : valueText() + QLatin1Char(' ') + m_unitText;
+    if (told != accessibleDescription())
+        setAccessibleDescription(told);
 }
 
 QString DataChart::valueText() const

@@ -26,7 +26,8 @@ public:
     explicit DataChart(QWidget* parent = nullptr);
 
     // Shows v in the unit of the scale. Outside minimum..maximum (both included), not finite, or
-    // on a scale without width: "--" and the arc of 0. Repaints when the picture changes.
+    // on a scale without width: "--", and 0 as the value. Repaints when the value changes; where
+    // "0" becomes "--" or back it does not, and the caller has to update().
     void setValue(qreal v);
     // These four only store; the next paint shows them.
     void setUnitText(QString unit); // spoken by assistive technology, not painted

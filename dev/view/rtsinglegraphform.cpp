@@ -111,7 +111,7 @@ void RTSingleGraphForm::InitRTChartFormInfo(bool flag)
 void RTSingleGraphForm::InitRtSingleChart()
 {
     for (const Gauge& row : gauges())
-        (ui->*row.gauge)->setValue(0);
+        chartpage::setValue(ui->*row.gauge, 0);
     for (const Trend& row : kTrends)
         (ui->*row.value)->setText(QStringLiteral("(0)"));
     ui->widget_single->initValue();
@@ -126,9 +126,9 @@ void RTSingleGraphForm::Show_RtChart_View(QMap<int, QVariant> snapshot)
 {
     const RealTimeBlock values(snapshot);
     for (const Gauge& row : gauges())
-        (ui->*row.gauge)
-            ->setValue(row.key == kNoKey ? kNoTemperature
-                                         : chartpage::reading(values, row.key, row.tenths));
+        chartpage::setValue(ui->*row.gauge, row.key == kNoKey
+                                                ? kNoTemperature
+                                                : chartpage::reading(values, row.key, row.tenths));
     int series = 0;
     for (const Trend& row : kTrends) {
         ui->widget_single->addData(series++, chartpage::reading(values, row.key, row.tenths));

@@ -143,7 +143,7 @@ void RTThreeGraphForm::InitRTChartFormInfo(bool flag)
 void RTThreeGraphForm::InitRtChart()
 {
     for (const Gauge& row : kGauges)
-        (ui->*row.gauge)->setValue(0);
+        chartpage::setValue(ui->*row.gauge, 0);
     for (const Trend& row : kTrends) {
         (ui->*row.value)->setText(QLatin1String(row.initial));
         (ui->*row.chart)->initValue();
@@ -155,7 +155,7 @@ void RTThreeGraphForm::RefreshRtChartInfo(QMap<int, QVariant> snapshot)
     const RealTimeBlock values(snapshot);
     configureGauges(chartpage::reading(values, realdata_BatVoltage, true));
     for (const Gauge& row : kGauges)
-        (ui->*row.gauge)->setValue(chartpage::reading(values, row.key, row.tenths));
+        chartpage::setValue(ui->*row.gauge, chartpage::reading(values, row.key, row.tenths));
     for (const Trend& row : kTrends) {
         (ui->*row.chart)->addData(row.series, chartpage::reading(values, row.curveKey, row.tenths));
         (ui->*row.value)
