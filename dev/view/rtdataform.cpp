@@ -173,7 +173,6 @@ RTDataForm::RTDataForm(QWidget* parent)
     table->verticalHeader()->hide();
     table->setTextElideMode(Qt::ElideMiddle);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table->horizontalHeader()->setStretchLastSection(true);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setAccessibleName(ui->label_10->text());
