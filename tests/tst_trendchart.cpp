@@ -95,26 +95,19 @@ class TestTrendChart : public QObject
 
 private slots:
     void firstSampleIsDoubled();
-    void beforeTheFirstPaintOneSampleStays();
     void keepsOneSamplePerFivePixels_data();
     void keepsOneSamplePerFivePixels();
     void shrinkingTrimsOneSampleAtATime();
-    void unknownSeriesOnlyRefreshes_data();
     void unknownSeriesOnlyRefreshes();
-    void boxAndGrid_data();
     void boxAndGrid();
-    void gridSwitch();
-    void scales_data();
     void scales();
     void timeAxis_data();
     void timeAxis();
     void curvesRunFromRightToLeft();
-    void eachScaleReachesTheTop_data();
     void eachScaleReachesTheTop();
     void oddSamples_data();
     void oddSamples();
     void backgroundIsShown();
-    void antialiasingSwitch();
     void speaksItsLatestValues();
 };
 
@@ -122,24 +115,19 @@ void TestTrendChart::firstSampleIsDoubled()
 {
     SingleProbe chart;
     chart.addData(1, 230);
-    QCOMPARE(chart.m_dataVec1, QVector<double>({230, 230}));
     chart.addData(1, 231);
     QCOMPARE(chart.m_dataVec1, QVector<double>({231, 230, 230}));
     QCOMPARE(chart.curveMap.value(1), chart.m_dataVec1);
-    QVERIFY(chart.m_dataVec0.isEmpty());
-}
 
-// Meant so: without a box there is no room, and every call removes the sample that it just added.
-void TestTrendChart::beforeTheFirstPaintOneSampleStays()
-{
+    // Meant so: before the first paint there is no room, and each call removes what it added.
     class Unpainted : public DynamicChart
     {
     public:
         using DynamicChart::m_dataVec0;
-    } chart;
+    } unpainted;
     for (double value : {1.0, 2.0, 3.0})
-        chart.addData(0, value);
-    QCOMPARE(chart.m_dataVec0, QVector<double>({1.0}));
+        unpainted.addData(0, value);
+    QCOMPARE(unpainted.m_dataVec0, QVector<double>({1.0}));
 }
 
 void TestTrendChart::keepsOneSamplePerFivePixels_data()
@@ -178,9 +166,6 @@ void TestTrendChart::shrinkingTrimsOneSampleAtATime()
     QCOMPARE(chart.m_dataVec0.at(43), 56.0);
     QCOMPARE(chart.m_dataVec0.at(44), 54.0); // the first one beyond the room went
 
-    chart.addData(3, 1);
-    QCOMPARE(chart.m_dataVec3.size(), 88); // one came, one went
-
     ThreeProbe three({520, 390});
     three.fill(100);
     three.resize(260, 390);
@@ -189,50 +174,30 @@ void TestTrendChart::shrinkingTrimsOneSampleAtATime()
     QCOMPARE(three.counts(), QVector<int>({87, 87, 87, 88}));
 }
 
-void TestTrendChart::unknownSeriesOnlyRefreshes_data()
-{
-    QTest::addColumn<int>("id");
-    QTest::addColumn<bool>("knownToThree");
-    QTest::newRow("below") << -1 << false;
-    QTest::newRow("one above") << 4 << true;
-    QTest::newRow("one above six") << 6 << false;
-    QTest::newRow("far above") << std::numeric_limits<int>::max() << false;
-    QTest::newRow("far below") << std::numeric_limits<int>::min() << false;
-}
-
 void TestTrendChart::unknownSeriesOnlyRefreshes()
 {
-    QFETCH(int, id);
-    QFETCH(bool, knownToThree);
-    SingleProbe chart;
-    chart.fill(3);
-    chart.initValue();
-    QCOMPARE(chart.curveMap.value(0).size(), 4); // the picture keeps its last curves
-    chart.addData(id, 7);
-    QCOMPARE(chart.counts(), QVector<int>({0, 0, 0, 0}));
-    QCOMPARE(chart.curveMap.size(), 4);
-    QVERIFY(chart.curveMap.value(0).isEmpty());
-
+    for (int id : {-1, 4, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+        SingleProbe chart;
+        chart.fill(3);
+        chart.initValue();
+        QCOMPARE(chart.curveMap.value(0).size(), 4); // the picture keeps its last curves
+        chart.addData(id, 7);
+        QCOMPARE(chart.counts(), QVector<int>({0, 0, 0, 0}));
+        QCOMPARE(chart.curveMap.size(), 4);
+        QVERIFY(chart.curveMap.value(0).isEmpty());
+    }
     ThreeProbe three;
-    three.addData(id, 7);
+    three.addData(4, 7);
+    three.addData(6, 7);
     QCOMPARE(three.curveMap.size(), 6);
-    QCOMPARE(three.curveMap.value(id).size(), knownToThree ? 2 : 0);
-}
-
-void TestTrendChart::boxAndGrid_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("smallest hint") << QSize(280, 280);
-    QTest::newRow("wide") << QSize(1300, 390);
+    QCOMPARE(three.curveMap.value(4).size(), 2);
 }
 
 void TestTrendChart::boxAndGrid()
 {
-    QFETCH(QSize, size);
-    SingleProbe chart(size);
+    SingleProbe chart({1300, 390});
     chart.setHorizontalLineColor(Qt::red);
-    const QRectF box(size.width() / 13.0, size.height() / 13.0, size.width() * 11 / 13.0,
-                     size.height() * 11 / 13.0);
+    const QRectF box(100, 30, 1100, 330);
     QCOMPARE(chart.m_boxRect, box);
 
     const QVector<PaintStep> grid = dotted(chart.picture());
@@ -243,11 +208,7 @@ void TestTrendChart::boxAndGrid()
         QCOMPARE(line.points.last(), QPointF(box.right(), line.points.first().y()));
         QCOMPARE(line.pen.color(), QColor(Qt::black)); // the line colour does not show; meant so
     }
-}
 
-void TestTrendChart::gridSwitch()
-{
-    SingleProbe chart;
     chart.m_bShowHLine = false;
     QCOMPARE(dotted(chart.picture()).size(), 0);
     ThreeProbe three;
@@ -255,17 +216,9 @@ void TestTrendChart::gridSwitch()
     QCOMPARE(dotted(three.picture()).size(), 9); // this chart always shows it; meant so
 }
 
-void TestTrendChart::scales_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("small") << QSize(390, 390);
-    QTest::newRow("large") << QSize(1300, 780);
-}
-
 void TestTrendChart::scales()
 {
-    QFETCH(QSize, size);
-    ThreeProbe chart(size);
+    ThreeProbe chart;
     const QFontMetrics metrics = chart.fontMetrics();
     const QVector<PaintStep> texts = chart.picture(PaintStep::Text);
     for (int k = 0; k <= 10; ++k) {
@@ -284,7 +237,7 @@ void TestTrendChart::scales()
                          baseline));
     }
 
-    SingleProbe single(size);
+    SingleProbe single;
     single.picture();
     QCOMPARE(single.texts.size(), 22); // one scale and the times
 }
@@ -301,9 +254,6 @@ void TestTrendChart::timeAxis_data()
     QTest::newRow("before midnight") << QTime(23, 59, 30) << "23:58:50"
                                      << "23:59:30"
                                      << "00:00:30";
-    QTest::newRow("after midnight") << QTime(0, 0, 5, 999) << "23:59:25"
-                                    << "00:00:05"
-                                    << "00:01:05";
 }
 
 void TestTrendChart::timeAxis()
@@ -348,25 +298,15 @@ void TestTrendChart::curvesRunFromRightToLeft()
     QVERIFY(chart.linesOf(0).isEmpty());
 }
 
-void TestTrendChart::eachScaleReachesTheTop_data()
-{
-    QTest::addColumn<int>("series");
-    QTest::addColumn<double>("value");
-    QTest::newRow("left, first") << 0 << 400.0;
-    QTest::newRow("left, last") << 2 << 400.0;
-    QTest::newRow("right, first") << 3 << 100.0;
-    QTest::newRow("right, last") << 5 << 100.0;
-}
-
 void TestTrendChart::eachScaleReachesTheTop()
 {
-    QFETCH(int, series);
-    QFETCH(double, value);
-    ThreeProbe chart;
-    chart.addData(series, value);
-    const QVector<PaintStep> lines = chart.linesOf(series);
-    QCOMPARE(lines.size(), 1);
-    QCOMPARE(lines.first().points.first().y(), chart.m_boxRect.top());
+    for (int series = 0; series < 6; ++series) {
+        ThreeProbe chart;
+        chart.addData(series, series < 3 ? 400 : 100);
+        const QVector<PaintStep> lines = chart.linesOf(series);
+        QCOMPARE(lines.size(), 1);
+        QCOMPARE(lines.first().points.first().y(), chart.m_boxRect.top());
+    }
 }
 
 void TestTrendChart::oddSamples_data()
@@ -375,9 +315,6 @@ void TestTrendChart::oddSamples_data()
     QTest::addColumn<int>("segments");
     QTest::newRow("not a number leaves a gap") << kNaN << 2;
     QTest::newRow("infinite") << kInfinity << 4;
-    QTest::newRow("minus infinite") << -kInfinity << 4;
-    QTest::newRow("largest double") << std::numeric_limits<double>::max() << 4;
-    QTest::newRow("negative reading taken unsigned") << 4294967291.0 << 4;
 }
 
 void TestTrendChart::oddSamples()
@@ -404,15 +341,6 @@ void TestTrendChart::backgroundIsShown()
     ThreeDynamicChart three(&page);
     QCOMPARE(single.grab().toImage().pixelColor(2, 2), QColor(250, 250, 250));
     QCOMPARE(three.grab().toImage().pixelColor(2, 2), QColor(222, 237, 253));
-}
-
-void TestTrendChart::antialiasingSwitch()
-{
-    ThreeProbe chart;
-    QVERIFY(chart.getUseAntialiasing());
-    QVERIFY(chart.picture().first().hints & QPainter::Antialiasing);
-    chart.setUseAntialiasing(false);
-    QVERIFY(!(chart.picture().first().hints & QPainter::Antialiasing));
 }
 
 void TestTrendChart::speaksItsLatestValues()
