@@ -73,7 +73,6 @@ private slots:
     void threeLegendsAndCurves();
     void batteryVoltageScale_data();
     void batteryVoltageScale();
-    void batteryBandGoesOn();
     void negativeReadings();
     void initialisation();
     void legendsHaveTheColoursOfTheCurves();
@@ -209,22 +208,6 @@ void TestChartPages::batteryVoltageScale()
     page.RefreshRtChartInfo({{realdata_BatVoltage, tenths}});
     QTEST(child<DataChart>(page, "widget_batt_volt")->getMaxValue(), "top");
     QTEST(told(page, "widget_batt_volt"), "value");
-}
-
-// These two gauges list one band only; above its limit they stay green.
-void TestChartPages::batteryBandGoesOn()
-{
-    RTThreeGraphForm page;
-    page.RefreshRtChartInfo({{realdata_BatVoltage, 5000}, {realdata_BatCurrent, 2000}});
-    for (const char* name : {"widget_batt_volt", "widget_batt_curr"}) {
-        const QImage gauge = child<DataChart>(page, name)->grab().toImage();
-        const double pieRadius = 0.7 * qMin(gauge.height(), gauge.width() / 2);
-        const QPointF centre(gauge.width() / 2, gauge.height() - 10);
-        // Within the arc at 116 degrees, between two sector lines.
-        const QColor seen =
-            gauge.pixelColor((centre - 0.6 * pieRadius * QPointF(0.438, 0.899)).toPoint());
-        QVERIFY2(seen.green() > seen.red() + 50, qPrintable(seen.name()));
-    }
 }
 
 void TestChartPages::negativeReadings()

@@ -33,43 +33,33 @@ class TestMsgBox : public QObject
     Q_OBJECT
 
 private slots:
-    void buttonsOfStyle_data();
     void buttonsOfStyle();
     void answer_data();
     void answer();
-    void drag_data();
-    void drag();
+    void leftButtonDrags();
     void texts_data();
     void texts();
 };
 
-void TestMsgBox::buttonsOfStyle_data()
-{
-    QTest::addColumn<int>("style");
-    QTest::addColumn<bool>("choice");
-    QTest::newRow("prompt") << int(MSGBOX_STYLE_PROMPT) << false;
-    QTest::newRow("choice") << int(MSGBOX_STYLE_CHOISE) << true;
-    QTest::newRow("unknown style") << 5 << false;
-}
-
 void TestMsgBox::buttonsOfStyle()
 {
-    QFETCH(int, style);
-    QFETCH(bool, choice);
-    Box box(style, QStringLiteral("Restart the UPS?"));
-    box.adjustSize();
-    box.grab(); // lays out
-    QCOMPARE(box.cancelbtn->isVisibleTo(&box), choice);
-    QVERIFY(box.okbtn->isVisibleTo(&box));
-    QVERIFY(box.width() >= 300 && box.height() >= 150);
-    QRect buttons = box.okbtn->geometry();
-    if (choice) {
-        QCOMPARE(box.cancelbtn->x() - (box.okbtn->x() + box.okbtn->width()), 20);
-        buttons |= box.cancelbtn->geometry();
+    for (int style : {0, 1, 5}) {
+        const bool choice = style == MSGBOX_STYLE_CHOISE;
+        Box box(style, QStringLiteral("Restart the UPS?"));
+        box.adjustSize();
+        box.grab(); // lays out
+        QCOMPARE(box.cancelbtn->isVisibleTo(&box), choice);
+        QVERIFY(box.okbtn->isVisibleTo(&box));
+        QVERIFY(box.width() >= 300 && box.height() >= 150);
+        QRect buttons = box.okbtn->geometry();
+        if (choice) {
+            QCOMPARE(box.cancelbtn->x() - (box.okbtn->x() + box.okbtn->width()), 20);
+            buttons |= box.cancelbtn->geometry();
+        }
+        QVERIFY(qAbs(buttons.center().x() - box.rect().center().x()) <= 1);
+        QVERIFY(box.windowFlags() & Qt::FramelessWindowHint);
+        QVERIFY(!(box.windowFlags() & Qt::WindowStaysOnTopHint));
     }
-    QVERIFY(qAbs(buttons.center().x() - box.rect().center().x()) <= 1);
-    QVERIFY(box.windowFlags() & Qt::FramelessWindowHint);
-    QVERIFY(!(box.windowFlags() & Qt::WindowStaysOnTopHint));
 }
 
 void TestMsgBox::answer_data()
@@ -106,31 +96,23 @@ void TestMsgBox::answer()
     QCOMPARE(box.exec(), result);
 }
 
-void TestMsgBox::drag_data()
+void TestMsgBox::leftButtonDrags()
 {
-    QTest::addColumn<int>("button");
-    QTest::addColumn<QPoint>("moved");
-    QTest::newRow("left") << int(Qt::LeftButton) << QPoint(50, 30);
-    QTest::newRow("right") << int(Qt::RightButton) << QPoint();
-}
-
-void TestMsgBox::drag()
-{
-    QFETCH(int, button);
-    const auto pressed = static_cast<Qt::MouseButton>(button);
-    QFETCH(QPoint, moved);
-    Box box(MSGBOX_STYLE_CHOISE, QStringLiteral("UPS shutdown?"));
-    box.move(100, 100);
-    const QPoint start = box.pos();
-    const QPoint grip(10, 12);
-    sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton);
-    QCOMPARE(box.pos(), start);
-    sendMouse(&box, QEvent::MouseButtonPress, grip, pressed);
-    sendMouse(&box, QEvent::MouseMove, grip + QPoint(50, 30), pressed);
-    QCOMPARE(box.pos(), start + moved);
-    sendMouse(&box, QEvent::MouseButtonRelease, grip, pressed);
-    sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton);
-    QCOMPARE(box.pos(), start + moved);
+    for (Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        Box box(MSGBOX_STYLE_CHOISE, QStringLiteral("UPS shutdown?"));
+        box.move(100, 100);
+        const QPoint start = box.pos();
+        const QPoint end = button == Qt::LeftButton ? start + QPoint(50, 30) : start;
+        const QPoint grip(10, 12);
+        sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton);
+        QCOMPARE(box.pos(), start);
+        sendMouse(&box, QEvent::MouseButtonPress, grip, button);
+        sendMouse(&box, QEvent::MouseMove, grip + QPoint(50, 30), button);
+        QCOMPARE(box.pos(), end);
+        sendMouse(&box, QEvent::MouseButtonRelease, grip, button);
+        sendMouse(&box, QEvent::MouseMove, {200, 90}, Qt::NoButton);
+        QCOMPARE(box.pos(), end);
+    }
 }
 
 void TestMsgBox::texts_data()

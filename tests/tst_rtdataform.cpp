@@ -57,9 +57,7 @@ private slots:
     void everyValue_data();
     void everyValue();
     void labelsFollowThePhases();
-    void blocksDecideAlone_data();
     void blocksDecideAlone();
-    void codes_data();
     void codes();
     void numbers_data();
     void numbers();
@@ -111,59 +109,39 @@ void TestRTDataForm::labelsFollowThePhases()
     QCOMPARE(form.column(1), initial);
 }
 
-void TestRTDataForm::blocksDecideAlone_data()
-{
-    QTest::addColumn<int>("input");
-    QTest::addColumn<int>("output");
-    QTest::addColumn<int>("bypass");
-    QTest::newRow("three in, one out") << 3 << 1 << 3;
-    QTest::newRow("one in, three out") << 1 << 3 << 1;
-    QTest::newRow("only exactly three counts") << 2 << 4 << 0;
-}
-
 void TestRTDataForm::blocksDecideAlone()
 {
-    QFETCH(int, input);
-    QFETCH(int, output);
-    QFETCH(int, bypass);
-    Snapshot snapshot = distinctValues(0);
-    snapshot[realdata_InputNumLines] = input;
-    snapshot[realdata_OutputNumLines] = output;
-    snapshot[realdata_BypNumLines] = bypass;
-    Probe form;
-    form.RefreshRTDataInfo(snapshot);
-    QCOMPARE(form.isSinglePhase, input != 3);
-    QCOMPARE(form.text(9, 2).contains(QLatin1Char('/')), input == 3);
-    QCOMPARE(form.text(15, 2).contains(QLatin1Char('/')), output == 3);
-    QCOMPARE(form.text(20, 2).contains(QLatin1Char('/')), bypass == 3);
-    QCOMPARE(form.table()->columnCount(), 3); // marking columns 3 and 4 adds none
-}
-
-void TestRTDataForm::codes_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("battery");
-    QTest::addColumn<QString>("supply");
-    const auto row = [](int code, const char* battery, const char* supply) {
-        QTest::addRow("%d", code) << code << battery << supply;
-    };
-    row(-1, "Normal", "None supply");
-    row(0, "Normal", "None supply");
-    row(1, "Unknown", "Other supply");
-    row(3, "Low", "Utility supply");
-    row(4, "Depleted", "Bypass supply");
-    row(5, "Normal", "Battery supply");
-    row(7, "Normal", "Reducer supply");
-    row(8, "Normal", "None supply");
+    const int lines[][3] = {{3, 1, 3}, {1, 3, 1}, {2, 4, 0}}; // only exactly three counts
+    for (const auto& [input, output, bypass] : lines) {
+        Snapshot snapshot = distinctValues(0);
+        snapshot[realdata_InputNumLines] = input;
+        snapshot[realdata_OutputNumLines] = output;
+        snapshot[realdata_BypNumLines] = bypass;
+        Probe form;
+        form.RefreshRTDataInfo(snapshot);
+        QCOMPARE(form.isSinglePhase, input != 3);
+        QCOMPARE(form.text(9, 2).contains(QLatin1Char('/')), input == 3);
+        QCOMPARE(form.text(15, 2).contains(QLatin1Char('/')), output == 3);
+        QCOMPARE(form.text(20, 2).contains(QLatin1Char('/')), bypass == 3);
+        QCOMPARE(form.table()->columnCount(), 3); // marking columns 3 and 4 adds none
+    }
 }
 
 void TestRTDataForm::codes()
 {
-    QFETCH(int, code);
+    const struct {
+        int code;
+        const char* texts; // battery state and output mode
+    } rows[] = {{-1, "Normal, None supply"},    {0, "Normal, None supply"},
+                {1, "Unknown, Other supply"},   {3, "Low, Utility supply"},
+                {4, "Depleted, Bypass supply"}, {5, "Normal, Battery supply"},
+                {7, "Normal, Reducer supply"},  {8, "Normal, None supply"}};
     Probe form;
-    form.RefreshRTDataInfo({{realdata_BatteryStatus, code}, {realdata_OutputSource, code}});
-    QTEST(form.text(1, 2), "battery");
-    QTEST(form.text(13, 2), "supply");
+    for (const auto& row : rows) {
+        form.RefreshRTDataInfo(
+            {{realdata_BatteryStatus, row.code}, {realdata_OutputSource, row.code}});
+        QCOMPARE(form.text(1, 2) + ", " + form.text(13, 2), QString(row.texts));
+    }
 }
 
 void TestRTDataForm::numbers_data()

@@ -51,7 +51,6 @@ class TestSetInfoForm : public QObject
 private slots:
     void confirmedPosts_data();
     void confirmedPosts();
-    void unconfirmedPostsNothing_data();
     void unconfirmedPostsNothing();
     void pageRemovedWhilePrompting();
     void returnInMinutesPostsNothing();
@@ -111,31 +110,23 @@ void TestSetInfoForm::confirmedPosts()
              (Command{{"name", "<b>%1</b>"}, {"controlId", code}, {"controlValue", value}}));
 }
 
-void TestSetInfoForm::unconfirmedPostsNothing_data()
-{
-    QTest::addColumn<bool>("testGroup");
-    QTest::addColumn<bool>("byKey");
-    QTest::newRow("test, Cancel") << true << false;
-    QTest::newRow("shutdown, Escape") << false << true;
-}
-
 void TestSetInfoForm::unconfirmedPostsNothing()
 {
-    QFETCH(bool, testGroup);
-    QFETCH(bool, byKey);
-    SetInfoForm page;
-    QSignalSpy spy(&page, &SetInfoForm::postDEvent);
-    bool asked = false;
-    onPrompt([&](MsgBox* prompt) {
-        asked = true;
-        if (byKey)
-            QTest::keyClick(prompt, Qt::Key_Escape);
-        else
-            QTest::mouseClick(prompt->findChild<QPushButton*>("btnWhite"), Qt::LeftButton);
-    });
-    okButton(page, testGroup)->click();
-    QVERIFY(asked);
-    QVERIFY(spy.isEmpty());
+    for (bool byKey : {false, true}) {
+        SetInfoForm page;
+        QSignalSpy spy(&page, &SetInfoForm::postDEvent);
+        bool asked = false;
+        onPrompt([&](MsgBox* prompt) {
+            asked = true;
+            if (byKey)
+                QTest::keyClick(prompt, Qt::Key_Escape);
+            else
+                QTest::mouseClick(prompt->findChild<QPushButton*>("btnWhite"), Qt::LeftButton);
+        });
+        okButton(page, byKey)->click();
+        QVERIFY(asked);
+        QVERIFY(spy.isEmpty());
+    }
 }
 
 void TestSetInfoForm::pageRemovedWhilePrompting()
