@@ -20,7 +20,6 @@ namespace {
 
 // The energy-flow diagram with all panels open, and the tabs above it; px.
 constexpr QSize kWholeDiagram(775, 690);
-constexpr QSize kWholeCharts(720, 520);
 
 constexpr char kDiagramGround[] = "#e6e9f2";
 
@@ -32,14 +31,15 @@ bool isThreePhase(const UpsReading& reading)
     return shownLines(reading.input) == threeLines || shownLines(reading.output) == threeLines;
 }
 
-// A view keeps its size and scrolls where the window is smaller.
+// A view keeps its least size, its own or a larger one, and scrolls where the window is smaller.
 QScrollArea* scrolled(QWidget* view, QSize leastSize)
 {
     auto* area = new QScrollArea;
     area->setObjectName(QStringLiteral("ViewArea"));
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
-    view->setMinimumSize(leastSize);
+    if (!leastSize.isEmpty())
+        view->setMinimumSize(leastSize);
     area->setWidget(view);
     return area;
 }
@@ -62,7 +62,7 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     m_viewTabs->setExpanding(false);
     m_viewTabs->setDrawBase(false);
     m_stack->addWidget(scrolled(m_view, kWholeDiagram));
-    m_stack->addWidget(scrolled(m_charts, kWholeCharts));
+    m_stack->addWidget(scrolled(m_charts, {}));
     m_stack->addWidget(m_table);
     for (const QString& text : {tr("Device"), tr("Charts"), tr("Table")})
         m_viewTabs->addTab(text);
