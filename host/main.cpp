@@ -127,14 +127,18 @@ int runWindow(const WindowOptions& options)
 
 int main(int argc, char** argv)
 {
+    QCoreApplication::setApplicationName(QStringLiteral("upsdesk"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(UPSDESK_VERSION));
+    const QString mode = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    if (isSubcommand(mode) && !needsWidgets(mode)) {
+        QCoreApplication app(argc, argv);
+        return runSubcommand(QCoreApplication::arguments());
+    }
+
     fallBackToOffscreen();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("upsdesk"));
-    QApplication::setApplicationVersion(QStringLiteral(UPSDESK_VERSION));
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.size() > 1 && isSubcommand(arguments.at(1)))
-        return runSubcommand(arguments);
-    return runWindow(readOptions(app));
+    return isSubcommand(mode) ? runSubcommand(QApplication::arguments())
+                              : runWindow(readOptions(app));
 }

@@ -14,11 +14,12 @@ namespace {
 struct Subcommand {
     const char* name;
     int (*run)(const QStringList& arguments);
+    bool needsWidgets = false;
 };
 
 constexpr Subcommand kSubcommands[] = {
     {"probe", runProbe},
-    {"picture", runPicture},
+    {"picture", runPicture, true},
     {"command", runCommand},
     {"add-operator", runAddOperator},
     {"check-config", runCheckConfig},
@@ -37,6 +38,12 @@ const Subcommand* find(const QString& name)
 bool isSubcommand(const QString& argument)
 {
     return find(argument) != nullptr;
+}
+
+bool needsWidgets(const QString& subcommand)
+{
+    const Subcommand* found = find(subcommand);
+    return found && found->needsWidgets;
 }
 
 int runSubcommand(const QStringList& arguments)

@@ -12,8 +12,11 @@ enum ExitCode { ExitOk = 0, ExitUsage = 2, ExitNotReachable = 3, ExitRefused = 4
 // The first argument names the mode; anything else (addresses, options) is the window.
 bool isSubcommand(const QString& argument);
 
-// Runs the subcommand. arguments: all of the program's, the program's name first. QApplication or
-// QCoreApplication must exist (QApplication for "picture").
+// True for a subcommand that paints; all others run without the window system.
+bool needsWidgets(const QString& subcommand);
+
+// Runs the subcommand. arguments: all of the program's, the program's name first. The application
+// object must exist, and be a QApplication where needsWidgets() says so.
 int runSubcommand(const QStringList& arguments);
 
 #endif // COMMANDLINE_H
