@@ -8,6 +8,7 @@
 #include "window/devicesortmodel.h"
 #include "window/linkband.h"
 #include "window/linkcover.h"
+#include "window/logindialog.h"
 #include "window/mainwindow.h"
 #include "window/valuewords.h"
 
@@ -20,16 +21,17 @@
 #include "support/recordingdevice.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTableWidget>
 #include <QtTest>
 
 #include <climits>
 #include <cmath>
 
-namespace
-{
+namespace {
 
 UpsReading onMains()
 {
@@ -114,6 +116,8 @@ private slots:
     void hostileReadingIsShownAsText();
     void listFiltersAndSorts();
     void removedDeviceLeavesNoPage();
+    void wallDisplayCommandsNothing();
+    void loginNeedsTheRightPassword();
     void words_data();
     void words();
 };
@@ -282,6 +286,46 @@ void TestDevicePage::removedDeviceLeavesNoPage()
     QVERIFY(window.findChildren<DevicePage*>().size() <= 1);
     for (DevicePage* page : window.findChildren<DevicePage*>())
         QCOMPARE(page->device().name(), QStringLiteral("two"));
+}
+
+void TestDevicePage::wallDisplayCommandsNothing()
+{
+    Desk desk;
+    desk.who = {"anna", 5};
+    Device& device = desk.add("sim:");
+    OperatorSession session;
+    MainWindow window(desk.fleet, desk.commands, desk.log, session, MainWindow::Mode::Kiosk);
+    window.openDevice(&device);
+    QVERIFY(!window.currentPage()->findChild<SetInfoForm*>()->isEnabled());
+    desk.commands.post(&device, 1003, {});
+    QVERIFY(desk.connectors[0]->sent.isEmpty());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QVERIFY(!window.currentPage()); // back to all devices
+}
+
+void TestDevicePage::loginNeedsTheRightPassword()
+{
+    OperatorSession session;
+    const HashLimits quick = HashLimits::minimal();
+    OperatorAccount anna;
+    anna.name = "anna";
+    anna.level = 1;
+    anna.hash = hashPassword(SecretText(QString("correct horse")), quick);
+    session.setOperators(Operators({anna}, quick));
+    LoginDialog dialog(session, session.hasOperators());
+    const auto logIn = [&](const QString& password) {
+        dialog.findChild<QLineEdit*>("LoginName")->setText("anna");
+        dialog.findChild<QLineEdit*>("LoginPassword")->setText(password);
+        dialog.findChild<QPushButton*>("LoginAccept")->click();
+    };
+    QSignalSpy refused(&session, &OperatorSession::refused);
+    logIn("wrong horse");
+    QTRY_COMPARE(refused.size(), 1);
+    QVERIFY(!session.isLoggedIn());
+    QVERIFY(dialog.findChild<QLineEdit*>("LoginPassword")->text().isEmpty());
+    logIn("correct horse");
+    QTRY_COMPARE(session.level(), 1);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void TestDevicePage::words_data()

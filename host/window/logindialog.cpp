@@ -38,6 +38,7 @@ LoginDialog::LoginDialog(OperatorSession& session, bool hasOperators, QWidget* p
     form->addRow(m_message);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     buttons->addButton(m_logIn, QDialogButtonBox::AcceptRole);
+    m_logIn->setObjectName(QStringLiteral("LoginAccept"));
     m_logIn->setDefault(true);
     form->addRow(buttons);
 
