@@ -2,8 +2,9 @@
 
 #include <QPointer>
 
-namespace
-{
+#include <algorithm>
+
+namespace {
 
 using Scheme = DeviceAddress::Scheme;
 
@@ -75,6 +76,24 @@ QVector<SecretPurpose> neededSecrets(const DeviceSettings& device)
     if (address.securityLevel == QLatin1String("authNoPriv"))
         return {SecretPurpose::SnmpAuthentication};
     return {};
+}
+
+QString deviceSecret(const DeviceSettings& device, SecretPurpose purpose)
+{
+    return device.*row(purpose).field;
+}
+
+void setDeviceSecret(DeviceSettings& device, SecretPurpose purpose, const QString& secret)
+{
+    device.*row(purpose).field = secret;
+}
+
+bool lacksSecrets(const DeviceSettings& device)
+{
+    const auto needed = neededSecrets(device);
+    return std::any_of(needed.begin(), needed.end(), [&device](SecretPurpose purpose) {
+        return deviceSecret(device, purpose).isEmpty();
+    });
 }
 
 QString secretKey(const QString& deviceName, SecretPurpose purpose)

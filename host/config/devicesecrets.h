@@ -13,6 +13,11 @@ enum class SecretPurpose { NutPassword, SnmpAuthentication, SnmpPrivacy };
 // keys of SNMPv3 as far as its security level uses them.
 QVector<SecretPurpose> neededSecrets(const DeviceSettings& device);
 
+QString deviceSecret(const DeviceSettings& device, SecretPurpose purpose);
+void setDeviceSecret(DeviceSettings& device, SecretPurpose purpose, const QString& secret);
+// Whether one that it needs is empty.
+bool lacksSecrets(const DeviceSettings& device);
+
 // Key of the store. A device that is renamed keeps its secrets only if they are moved.
 QString secretKey(const QString& deviceName, SecretPurpose purpose);
 

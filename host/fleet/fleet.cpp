@@ -58,11 +58,11 @@ std::unique_ptr<Device> Fleet::makeDevice(const DeviceSettings& settings, qint64
     return device;
 }
 
-Device* Fleet::add(const DeviceSettings& settings)
+Device* Fleet::add(const DeviceSettings& settings, qint64 holdMs)
 {
     const auto offset =
         static_cast<qint64>(placeInInterval(m_added++) * settings.pollInterval * 1000);
-    m_devices.push_back(makeDevice(settings, m_clock.monotonicMs() + offset));
+    m_devices.push_back(makeDevice(settings, m_clock.monotonicMs() + holdMs + offset));
     emit deviceAdded(count() - 1);
     schedule();
     return m_devices.back().get();
@@ -92,6 +92,7 @@ Device* Fleet::replace(int index, const DeviceSettings& settings)
     emit deviceRemoved(index);
     m_devices.insert(m_devices.begin() + index, makeDevice(settings, m_clock.monotonicMs()));
     emit deviceAdded(index);
+    emit deviceReplaced(index);
     schedule();
     return at(index);
 }

@@ -30,8 +30,8 @@ public:
     int indexOf(const Device* device) const; // -1: not (or no longer) one of ours
 
     // The first polls of devices added together are spread over the interval; the very first
-    // device is polled at once.
-    Device* add(const DeviceSettings& settings);
+    // device is polled at once. holdMs: leaves the first poll until so much later.
+    Device* add(const DeviceSettings& settings, qint64 holdMs = 0);
     void remove(int index);
     void move(int from, int to);
     // New settings, new connector; the device keeps its place, its last reading is forgotten.
@@ -47,6 +47,8 @@ signals:
     void deviceAboutToBeRemoved(int index);
     void deviceRemoved(int index);
     void deviceMoved(int from, int to);
+    // After the three above: who showed the old device may show the new one in its place.
+    void deviceReplaced(int index);
     void devicePolled(Device* device);
     void commandFinished(Device* device, const CommandResult& result);
     // Once a second, after limits have been checked: ages have grown.

@@ -1,0 +1,77 @@
+#ifndef WATCHLIST_H
+#define WATCHLIST_H
+
+// The watched devices as the configuration file, the secret store and the fleet agree on them.
+// May touch: the configuration, the secret store, the fleet; no widget.
+
+#include "config/deskconfig.h"
+#include "config/secretstore.h"
+#include "fleet/fleet.h"
+
+#include <QSet>
+
+// Every change is written to the file first; where the file refuses, nothing else changes. The
+// fleet may hold devices beside those of the file (from the command line): they stay where they
+// are, and become devices of the file when they are changed.
+class WatchList : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Edit = std::function<QString(DeskConfig&)>;
+
+    // The fleet must outlive the list.
+    WatchList(Fleet& fleet, const DeskConfig& config, std::unique_ptr<SecretStore> secrets,
+              QObject* parent = nullptr);
+    ~WatchList() override;
+
+    const DeskConfig& config() const { return m_config; }
+
+    // Adds the devices of the file to the fleet, at once. Secrets follow when the store answers;
+    // until then, for at most kSecretsPatienceMs, an SNMPv3 agent is not asked without them.
+    void load();
+    static constexpr qint64 kSecretsPatienceMs = 10 * 1000;
+
+    // The fleet's device for this name in the file, or null.
+    Device* find(const QString& name) const;
+    bool isConfigured(const Device* device) const { return m_configured.contains(device); }
+
+    // Each returns why it was refused; empty: done and saved. A file that was changed by another
+    // program meanwhile is read again, the fleet follows it, and the reason says so.
+    QString add(const DeviceSettings& device);
+    // Replaces the device in the fleet, so that the pointer ends here; may rename it.
+    QString change(Device* device, const DeviceSettings& settings);
+    QString remove(Device* device);
+    QString move(Device* device, int to); // index in the fleet
+    // Any other edit of the configuration, on the same terms.
+    QString edit(const Edit& edit);
+
+signals:
+    // The list or the configuration is another one; after the fleet's own signals.
+    void changed();
+    // Secrets could not be read or kept; plain text for the operator. Devices are watched without.
+    void secretsFailed(const QString& message);
+
+private:
+    QString save(const Edit& edit);
+    QString readAgain(const QString& reason);
+    void followFile();
+    void orderAsInFile();
+    void append(const DeviceSettings& settings);
+    void replace(Device* device, const DeviceSettings& settings);
+    DeviceSettings settingsOf(const QString& name, const DeviceSettings& secretsFrom) const;
+    int configuredBefore(int index, const Device* except) const;
+
+    void fetchSecrets();
+    void takeSecrets(const QVector<DeviceSettings>& devices, const QString& message);
+    void keepSecrets(const DeviceSettings& before, const DeviceSettings& now);
+    void moveSecret(const QString& from, const QString& to);
+    void report(const SecretResult& result);
+
+    Fleet& m_fleet;
+    DeskConfig m_config;
+    const std::unique_ptr<SecretStore> m_secrets;
+    QSet<const Device*> m_configured;
+};
+
+#endif // WATCHLIST_H
