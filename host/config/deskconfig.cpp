@@ -10,8 +10,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(DeskConfig)
@@ -130,8 +129,7 @@ public:
     explicit Reader(DeskConfig& config)
         : m_config(config)
         , m_document(config.m_document)
-    {
-    }
+    {}
 
     void read()
     {
@@ -388,6 +386,14 @@ QString DeskConfig::defaultPath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/upsdesk/upsdesk.conf");
+}
+
+DeskConfig::Range DeskConfig::deviceRange(const QString& key)
+{
+    for (const auto& row : kDeviceNumbers)
+        if (key == QLatin1String(row.key))
+            return {row.minimum, row.maximum, QString::fromUtf8(row.unit)};
+    return {};
 }
 
 DeskConfig DeskConfig::load(const QString& path)

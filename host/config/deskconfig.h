@@ -58,6 +58,14 @@ public:
     const OperatorAccounts& operators() const { return m_operators; }
     const ConfigDocument& document() const { return m_document; }
 
+    // Limits of a device's number by its key above, "interval" for one.
+    struct Range {
+        int minimum = 0;
+        int maximum = 0;
+        QString unit;
+    };
+    static Range deviceRange(const QString& key);
+
     // Longest name of a device or operator.
     static constexpr int kMaxName = 100;
 

@@ -5,8 +5,7 @@
 #include <QUrl>
 #include <QUrlQuery>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(DeviceAddress)
@@ -70,12 +69,10 @@ ParsedAddress parseSnmp(const QUrl& url, DeviceAddress address)
     QString version = QStringLiteral("2c");
     QString error;
     if (!readChoice(query, "version", {"1", "2", "2c", "3"}, version, error) ||
-        !readChoice(query, "level", {"noAuthNoPriv", "authNoPriv", "authPriv"},
-                    address.securityLevel, error) ||
-        !readChoice(query, "auth", {"MD5", "SHA", "SHA-224", "SHA-256", "SHA-384", "SHA-512"},
-                    address.authProtocol, error) ||
-        !readChoice(query, "priv", {"DES", "AES", "AES-192", "AES-256"}, address.privProtocol,
-                    error))
+        !readChoice(query, "level", DeviceAddress::securityLevels(), address.securityLevel,
+                    error) ||
+        !readChoice(query, "auth", DeviceAddress::authProtocols(), address.authProtocol, error) ||
+        !readChoice(query, "priv", DeviceAddress::privProtocols(), address.privProtocol, error))
         return failure(error);
     address.snmpVersion = version.left(1).toInt();
     address.context = query.queryItemValue(QStringLiteral("context"), QUrl::FullyDecoded);
@@ -97,7 +94,60 @@ ParsedAddress parseSnmp(const QUrl& url, DeviceAddress address)
     return {address, {}};
 }
 
+// The query of an SNMP address, with its question mark; empty for version 2c.
+QString snmpQuery(const DeviceAddress& address)
+{
+    if (address.snmpVersion == 1)
+        return QStringLiteral("?version=1");
+    if (address.snmpVersion < 3)
+        return {};
+    QString query = QStringLiteral("?version=3&level=") + address.securityLevel;
+    if (address.securityLevel != DeviceAddress::securityLevels().first())
+        query += QStringLiteral("&auth=") + address.authProtocol;
+    if (address.securityLevel == DeviceAddress::securityLevels().last())
+        query += QStringLiteral("&priv=") + address.privProtocol;
+    if (!address.context.isEmpty())
+        query += QStringLiteral("&context=") +
+                 QString::fromLatin1(QUrl::toPercentEncoding(address.context));
+    return query;
+}
+
 } // namespace
+
+QStringList DeviceAddress::securityLevels()
+{
+    return {"noAuthNoPriv", "authNoPriv", "authPriv"};
+}
+
+QStringList DeviceAddress::authProtocols()
+{
+    return {"MD5", "SHA", "SHA-224", "SHA-256", "SHA-384", "SHA-512"};
+}
+
+QStringList DeviceAddress::privProtocols()
+{
+    return {"DES", "AES", "AES-192", "AES-256"};
+}
+
+QString deviceAddressText(const DeviceAddress& address)
+{
+    if (address.scheme == DeviceAddress::Scheme::Simulator)
+        return kSimulatorPrefix + address.scenario;
+    const bool nut = address.scheme == DeviceAddress::Scheme::Nut;
+    QUrl url;
+    url.setScheme(nut ? QStringLiteral("nut") : QStringLiteral("snmp"));
+    url.setHost(address.host);
+    if (address.port != (nut ? DeviceAddress::kNutPort : DeviceAddress::kSnmpPort))
+        url.setPort(address.port);
+    if (nut) {
+        url.setPath(QLatin1Char('/') + address.ups, QUrl::DecodedMode);
+        return url.toString(QUrl::FullyEncoded);
+    }
+    const QString user = address.snmpVersion < 3 ? address.community : address.user;
+    if (!user.isEmpty() && (address.snmpVersion >= 3 || user != QLatin1String("public")))
+        url.setUserName(user, QUrl::DecodedMode);
+    return url.toString(QUrl::FullyEncoded) + snmpQuery(address);
+}
 
 ParsedAddress parseDeviceAddress(const QString& text)
 {

@@ -6,6 +6,7 @@
 
 #include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -25,13 +26,16 @@ struct DeviceAddress {
     QString community;     // snmp versions 1 and 2c; empty: "public"
     QString user;          // snmp version 3
     int snmpVersion = 2;   // 1, 2 (2c) or 3
-    QString securityLevel; // noAuthNoPriv, authNoPriv, authPriv
-    QString authProtocol;  // MD5, SHA, SHA-224, SHA-256, SHA-384, SHA-512
-    QString privProtocol;  // DES, AES, AES-192, AES-256
+    QString securityLevel; // one of securityLevels()
+    QString authProtocol;  // one of authProtocols()
+    QString privProtocol;  // one of privProtocols()
     QString context;
 
     static constexpr quint16 kNutPort = 3493;
     static constexpr quint16 kSnmpPort = 161;
+    static QStringList securityLevels(); // noAuthNoPriv, authNoPriv, authPriv
+    static QStringList authProtocols();  // MD5, SHA, SHA-224, SHA-256, SHA-384, SHA-512
+    static QStringList privProtocols();  // DES, AES, AES-192, AES-256
 };
 
 struct ParsedAddress {
@@ -43,5 +47,9 @@ struct ParsedAddress {
 //  snmp://USER@HOST[:PORT]?version=3&level=authPriv&auth=SHA&priv=AES[&context=NAME]
 // A secret in the address is an error: secrets come from the configuration.
 ParsedAddress parseDeviceAddress(const QString& text);
+
+// The address in its shortest usual form; `text` does not count. Parsing it gives the same address,
+// or the reason why there is none.
+QString deviceAddressText(const DeviceAddress& address);
 
 #endif // DEVICEADDRESS_H

@@ -87,10 +87,11 @@ void Fleet::move(int from, int to)
 
 Device* Fleet::replace(int index, const DeviceSettings& settings)
 {
+    auto device = makeDevice(settings, m_clock.monotonicMs()); // settings may be the old one's
     emit deviceAboutToBeRemoved(index);
     m_devices.erase(m_devices.begin() + index);
     emit deviceRemoved(index);
-    m_devices.insert(m_devices.begin() + index, makeDevice(settings, m_clock.monotonicMs()));
+    m_devices.insert(m_devices.begin() + index, std::move(device));
     emit deviceAdded(index);
     emit deviceReplaced(index);
     schedule();

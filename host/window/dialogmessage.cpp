@@ -1,0 +1,43 @@
+#include "dialogmessage.h"
+
+#include <QLayout>
+#include <QStyle>
+#include <QVariant>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kRoomForLines = 2; // kept free, so that most texts move nothing
+constexpr int kFrame = 12;       // px, padding and border of the style sheet, both sides
+
+const char* toneName(DialogMessage::Tone tone)
+{
+    constexpr const char* names[] = {"hint", "good", "bad"};
+    return names[static_cast<int>(tone)];
+}
+
+} // namespace
+
+DialogMessage::DialogMessage(QWidget* parent)
+    : QLabel(parent)
+{
+    setObjectName(QStringLiteral("DialogMessage"));
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+    setMinimumHeight(kRoomForLines * fontMetrics().lineSpacing() + kFrame);
+}
+
+void DialogMessage::say(const QString& text, Tone tone)
+{
+    setText(text);
+    setAccessibleName(text);
+    setProperty("tone", QLatin1String(toneName(tone)));
+    style()->unpolish(this); // the style sheet looks at the property
+    style()->polish(this);
+    const QLayout* layout = window()->layout();
+    if (layout && window()->isVisible())
+        window()->resize(window()->width(),
+                         std::max(window()->height(), layout->heightForWidth(window()->width())));
+}

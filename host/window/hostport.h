@@ -1,0 +1,34 @@
+#ifndef HOSTPORT_H
+#define HOSTPORT_H
+
+// Host and port on one row.
+// May touch: Qt Widgets, addresses.
+
+#include "connectors/deviceaddress.h"
+
+#include <QWidget>
+
+class QLineEdit;
+class QSpinBox;
+
+class HostPort : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit HostPort(int standardPort, QWidget* parent = nullptr);
+
+    void showAddress(const DeviceAddress& address);
+    void readAddress(DeviceAddress& address) const;
+    QString host() const;
+    QString error() const; // empty: a host that an address can carry
+
+signals:
+    void edited();
+
+private:
+    QLineEdit* m_host;
+    QSpinBox* m_port;
+};
+
+#endif // HOSTPORT_H

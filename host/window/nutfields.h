@@ -1,0 +1,45 @@
+#ifndef NUTFIELDS_H
+#define NUTFIELDS_H
+
+// One device of a NUT server: host, port, name and account; asks the server which names it has.
+// May touch: Qt Widgets, the list of a server's devices.
+
+#include "window/addressfields.h"
+
+class HostPort;
+class NutServerList;
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+class SecretEdit;
+struct NutDevice;
+
+class NutFields : public AddressFields
+{
+    Q_OBJECT
+
+public:
+    explicit NutFields(QWidget* parent = nullptr);
+
+    DeviceAddress::Scheme scheme() const override { return DeviceAddress::Scheme::Nut; }
+    void showAddress(const DeviceAddress& address) override;
+    void showAccount(const DeviceSettings& settings) override;
+    DeviceAddress address() const override;
+    void readAccount(DeviceSettings& settings) const override;
+    QString error() const override;
+    QString proposedName() const override;
+
+private:
+    void ask();
+    void takeList(const QVector<NutDevice>& devices, const QString& error);
+    void forgetList();
+
+    HostPort* m_host;
+    QComboBox* m_ups;
+    QPushButton* m_ask;
+    QLineEdit* m_user;
+    SecretEdit* m_password;
+    NutServerList* m_list = nullptr; // while the server is asked
+};
+
+#endif // NUTFIELDS_H

@@ -1,0 +1,52 @@
+#ifndef SNMPFIELDS_H
+#define SNMPFIELDS_H
+
+// An SNMP agent: host, port, version, and the community or the user with security and secrets.
+// May touch: Qt Widgets.
+
+#include "window/addressfields.h"
+
+class HostPort;
+class QComboBox;
+class QFormLayout;
+class QLineEdit;
+class SecretEdit;
+
+class SnmpFields : public AddressFields
+{
+    Q_OBJECT
+
+public:
+    explicit SnmpFields(QWidget* parent = nullptr);
+
+    DeviceAddress::Scheme scheme() const override { return DeviceAddress::Scheme::Snmp; }
+    void showAddress(const DeviceAddress& address) override;
+    void showAccount(const DeviceSettings& settings) override;
+    DeviceAddress address() const override;
+    void readAccount(DeviceSettings& settings) const override;
+    QString error() const override;
+    QString proposedName() const override;
+
+    static constexpr int kShortestSecret = 8; // octets; RFC 3414 asks for them
+
+private:
+    int version() const;
+    bool authenticates() const;
+    bool encrypts() const;
+    // Only the rows that the version and the level use.
+    void showRows();
+
+    QFormLayout* m_form;
+    HostPort* m_host;
+    QComboBox* m_version;
+    QLineEdit* m_community;
+    QLineEdit* m_user;
+    QComboBox* m_level;
+    QComboBox* m_authProtocol;
+    SecretEdit* m_authSecret;
+    QComboBox* m_privProtocol;
+    SecretEdit* m_privSecret;
+    QLineEdit* m_context;
+};
+
+#endif // SNMPFIELDS_H
