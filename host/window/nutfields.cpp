@@ -138,7 +138,7 @@ void NutFields::takeList(const QVector<NutDevice>& devices, const QString& error
                            Qt::ToolTipRole);
     }
     m_ups->setEditText(typed.isEmpty() ? devices.first().name : typed);
-    emit said(tr("The server has %n UPS(es).", nullptr, devices.size()), false);
+    emit said(tr("The server's UPSes: %1.").arg(devices.size()), false);
     if (devices.size() > 1 && isVisible())
         m_ups->showPopup();
     m_ups->setFocus();
