@@ -4,10 +4,11 @@
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
 #include "config/deskconfig.h"
-#include "config/devicesecrets.h"
 #include "config/operatorsession.h"
 #include "connectors/connectorfactory.h"
+#include "fleet/watchlist.h"
 #include "window/activitywatch.h"
+#include "window/deviceactions.h"
 #include "window/mainwindow.h"
 #include "window/theme.h"
 
@@ -82,7 +83,7 @@ int runWindow(const WindowOptions& options)
     }
 
     applyTheme(options.theme);
-    DeskConfig config = DeskConfig::load();
+    const DeskConfig config = DeskConfig::load();
     OperatorSession session;
     session.setOperators(Operators(config.operators()));
     session.setIdleTime(config.settings().idleLogout * kMsPerMinute);
@@ -99,21 +100,20 @@ int runWindow(const WindowOptions& options)
     if (const QString faults = faultText(config); !faults.isEmpty())
         window.tell(faults, true);
 
-    const auto store = SecretStore::make(config.settings().secrets);
-    if (!devices.isEmpty()) {
-        for (const DeviceSettings& settings : qAsConst(devices))
-            fleet.add(settings);
-    } else if (!config.devices().isEmpty()) {
-        readDeviceSecrets(*store, config.devices(), &window,
-                          [&](const QVector<DeviceSettings>& complete, const QString& message) {
-                              for (const DeviceSettings& settings : complete)
-                                  fleet.add(settings);
-                              if (!message.isEmpty())
-                                  window.tell(message, true);
-                          });
-    } else {
+    WatchList list(fleet, config, SecretStore::make(config.settings().secrets));
+    QObject::connect(&list, &WatchList::secretsFailed, &window,
+                     [&window](const QString& text) { window.tell(text, true); });
+    QObject::connect(&list, &WatchList::changed, &session, [&list, &session] {
+        session.setOperators(Operators(list.config().operators()));
+    });
+    if (!options.kiosk)
+        window.setActions(new DeviceActions(fleet, list, makeConnector, &window));
+    for (const DeviceSettings& settings : qAsConst(devices))
+        fleet.add(settings);
+    if (devices.isEmpty())
+        list.load();
+    if (fleet.count() == 0)
         fleet.add(*settingsForAddress(QStringLiteral("sim:")));
-    }
     if (fleet.count() == 1 && !options.kiosk)
         window.openDevice(fleet.at(0));
     if (options.kiosk)

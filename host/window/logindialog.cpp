@@ -39,8 +39,8 @@ LoginDialog::LoginDialog(OperatorSession& session, bool hasOperators, QWidget* p
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     buttons->addButton(m_logIn, QDialogButtonBox::AcceptRole);
     m_logIn->setObjectName(QStringLiteral("LoginAccept"));
-    m_logIn->setDefault(true);
     form->addRow(buttons);
+    m_logIn->setDefault(true); // within the dialog only: before, Cancel would keep it
 
     connect(buttons, &QDialogButtonBox::accepted, this, &LoginDialog::logIn);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "window/deviceactions.h"
 #include "window/devicelistmodel.h"
 #include "window/devicepage.h"
 #include "window/devicerowdelegate.h"
@@ -93,6 +94,10 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorS
     });
     connect(&fleet, &Fleet::deviceAboutToBeRemoved, this,
             [this](int index) { forget(m_fleet.at(index)); });
+    connect(&fleet, &Fleet::deviceReplaced, this, [this](int index) {
+        if (m_reopenReplaced)
+            openDevice(m_fleet.at(index));
+    });
     connect(&desk, &CommandDesk::finished, this,
             [this](const QString& device, const QString& command, const QString& outcome,
                    const QString& message, bool isBad) {
@@ -128,8 +133,11 @@ QWidget* MainWindow::makeSidePanel()
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) {
-                if (index.isValid())
-                    openDevice(DeviceListModel::deviceAt(index));
+                Device* device = index.isValid() ? DeviceListModel::deviceAt(index) : nullptr;
+                if (m_actions)
+                    m_actions->setCurrent(device);
+                if (device)
+                    openDevice(device);
             });
 
     m_counts->setObjectName(QStringLiteral("CountsLabel"));
@@ -142,6 +150,7 @@ QWidget* MainWindow::makeSidePanel()
     connect(who, &OperatorBar::loginWanted, this, &MainWindow::askWhoIsThere);
 
     auto* column = new QVBoxLayout(panel);
+    m_sideColumn = column;
     column->setContentsMargins(0, 8, 0, 8);
     auto* head = new QVBoxLayout;
     head->setContentsMargins(8, 0, 8, 0);
@@ -156,6 +165,18 @@ QWidget* MainWindow::makeSidePanel()
     foot->addWidget(who);
     column->addLayout(foot);
     return panel;
+}
+
+void MainWindow::setActions(DeviceActions* actions)
+{
+    m_actions = actions;
+    constexpr int belowTheList = 2;
+    m_sideColumn->insertWidget(belowTheList, actions->makeButtons());
+    m_list->addActions(actions->actions());
+    m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(actions, &DeviceActions::chosen, this, &MainWindow::openDevice);
+    connect(actions, &DeviceActions::refused, this,
+            [this](const QString& text) { tell(text, true); });
 }
 
 QDockWidget* MainWindow::makeEventDock()
@@ -251,6 +272,7 @@ void MainWindow::operatorChanged()
 
 void MainWindow::forget(const Device* device)
 {
+    m_reopenReplaced = currentPage() && &currentPage()->device() == device;
     delete m_pageOf.take(device);
     if (!currentPage())
         openOverview();

@@ -11,6 +11,7 @@
 #include <QHash>
 #include <QMainWindow>
 
+class DeviceActions;
 class DeviceListModel;
 class DevicePage;
 class DeviceSortModel;
@@ -21,6 +22,7 @@ class QListView;
 class QModelIndex;
 class QStackedWidget;
 class QPushButton;
+class QVBoxLayout;
 class ResultBanner;
 
 class MainWindow : public QMainWindow
@@ -36,6 +38,8 @@ public:
 
     // Opens the device's page; its page is made when it is opened for the first time.
     void openDevice(Device* device);
+    // What an operator can do to the list of devices: buttons below it, and its context menu.
+    void setActions(DeviceActions* actions);
     // All devices as tiles.
     void openOverview();
     // The page on show, null before a device is chosen and on the overview.
@@ -61,12 +65,15 @@ private:
     DeviceListModel* m_model;
     DeviceSortModel* m_sorted;
     QListView* m_list;
+    DeviceActions* m_actions = nullptr;
+    QVBoxLayout* m_sideColumn = nullptr;
     QLabel* m_counts;
     QStackedWidget* m_pages;
     OverviewPage* m_overview;
     QPushButton* m_overviewButton;
     ResultBanner* m_banner;
     QHash<const Device*, DevicePage*> m_pageOf;
+    bool m_reopenReplaced = false; // the device that went last was the one on show
 };
 
 #endif // MAINWINDOW_H
