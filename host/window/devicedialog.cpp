@@ -59,7 +59,7 @@ DeviceDialog::DeviceDialog(const DeviceSettings& device, const QStringList& take
     , m_testButton(new QPushButton)
 {
     setObjectName(QStringLiteral("DeviceDialog"));
-    setWindowTitle(device.displayName().isEmpty() ? tr("Add a device")
+    setWindowTitle(device.address.text.isEmpty() ? tr("Add a device")
                                                   : tr("Settings of %1").arg(device.displayName()));
     setMinimumWidth(kWidth);
     m_name->setObjectName(QStringLiteral("NameEdit"));

@@ -224,6 +224,8 @@ void MainWindow::openOverview()
 
 void MainWindow::openDevice(Device* device)
 {
+    if (!device->reading())
+        m_fleet.pollNow(device); // nobody opens a device to wait for its turn
     DevicePage*& page = m_pageOf[device];
     if (!page) {
         page = new DevicePage(*device, m_desk);
