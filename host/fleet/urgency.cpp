@@ -82,7 +82,8 @@ std::optional<Condition> worstFinding(const UpsReading& reading, const Threshold
     if (reading.charge && *reading.charge <= limits.chargeLow)
         find(*reading.charge <= limits.chargeCritical ? Urgency::Critical : Urgency::Warning,
              Tr::tr("battery at %1 %").arg(*reading.charge, 0, 'f', 0));
-    if (reading.outputSource == OutputSource::Battery && reading.runtime &&
+    const bool isTest = reading.alarms.contains(Alarm::TestInProgress); // the mains are there
+    if (reading.outputSource == OutputSource::Battery && !isTest && reading.runtime &&
         *reading.runtime <= limits.runtimeLow * secondsPerMinute)
         find(Urgency::Critical, Tr::tr("little time left"));
     for (const Value& load : reading.output.load)

@@ -8,24 +8,16 @@
 
 namespace {
 
-// px
+// px at scale 1
 constexpr int kGap = 6; // half the space between two tiles
 constexpr int kMargin = 12;
 constexpr int kBandHeight = 34;
-constexpr int kTileHeight = 186;
 constexpr int kCornerRadius = 6;
-// pt
+// pt at scale 1
 constexpr double kNameSize = 13;
 constexpr double kStateSize = 14;
-constexpr double kFigureSize = 19;
+constexpr double kFigureSize = 18;
 constexpr double kSmallSize = 9.5;
-
-QFont sized(QFont font, double points, bool bold)
-{
-    font.setPointSizeF(points);
-    font.setBold(bold);
-    return font;
-}
 
 void drawElided(QPainter* painter, const QRect& rect, int flags, const QString& text)
 {
@@ -34,6 +26,19 @@ void drawElided(QPainter* painter, const QRect& rect, int flags, const QString& 
 }
 
 } // namespace
+
+void DeviceTileDelegate::setTile(int width, double scale)
+{
+    m_tileWidth = width;
+    m_scale = scale;
+}
+
+QFont DeviceTileDelegate::sized(QFont font, double points, bool bold) const
+{
+    font.setPointSizeF(points * m_scale);
+    font.setBold(bold);
+    return font;
+}
 
 void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const
@@ -44,7 +49,7 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     const Condition condition = device->condition();
     const bool live = device->link() == LinkState::Live;
     const QColor color = urgencyColor(condition.urgency);
-    const QRect tile = option.rect.adjusted(kGap, kGap, -kGap, -kGap);
+    const QRect tile = option.rect.adjusted(px(kGap), px(kGap), -px(kGap), -px(kGap));
     const QColor text = option.palette.color(QPalette::Text);
     QColor soft = text;
     soft.setAlphaF(0.65);
@@ -54,25 +59,25 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     const bool hovered = option.state & QStyle::State_MouseOver;
     painter->setPen(QPen(hovered ? option.palette.color(QPalette::Highlight) : color, 2));
     painter->setBrush(option.palette.base());
-    painter->drawRoundedRect(tile, kCornerRadius, kCornerRadius);
+    painter->drawRoundedRect(tile, px(kCornerRadius), px(kCornerRadius));
 
     // The state fills the head of the tile: its colour is what the room sees first.
-    const QRect band(tile.left(), tile.top(), tile.width(), kBandHeight);
+    const QRect band(tile.left(), tile.top(), tile.width(), px(kBandHeight));
     painter->setPen(Qt::NoPen);
     painter->setBrush(color);
-    painter->drawRoundedRect(band, kCornerRadius, kCornerRadius);
-    painter->drawRect(band.adjusted(0, kCornerRadius, 0, 0));
+    painter->drawRoundedRect(band, px(kCornerRadius), px(kCornerRadius));
+    painter->drawRect(band.adjusted(0, px(kCornerRadius), 0, 0));
     painter->setPen(Qt::white);
     painter->setFont(sized(option.font, kStateSize, true));
-    drawElided(painter, band.adjusted(kMargin, 0, -kMargin, 0), Qt::AlignLeft | Qt::AlignVCenter,
-               condition.text);
+    drawElided(painter, band.adjusted(px(kMargin), 0, -px(kMargin), 0),
+               Qt::AlignLeft | Qt::AlignVCenter, condition.text);
 
-    QRect line = tile.adjusted(kMargin, kBandHeight + kMargin / 2, -kMargin, 0);
+    QRect line = tile.adjusted(px(kMargin), px(kBandHeight) + px(kMargin) / 2, -px(kMargin), 0);
     painter->setPen(text);
     painter->setFont(sized(option.font, kNameSize, true));
     line.setHeight(painter->fontMetrics().height());
     drawElided(painter, line, Qt::AlignLeft | Qt::AlignVCenter, device->name());
-    line.translate(0, line.height() + kMargin / 2);
+    line.translate(0, line.height() + px(kMargin) / 2);
 
     // Values that are not live are still told, but faintly.
     const UpsReading* reading = device->reading();
@@ -80,9 +85,9 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         QString value;
         QString caption;
         int widthPercent; // of the tile; minutes need most
-    } figures[] = {{chargeText(reading), tr("battery"), 34},
-                   {runtimeText(reading), tr("lasts"), 38},
-                   {loadText(reading), tr("load"), 28}};
+    } figures[] = {{chargeText(reading), tr("battery"), 33},
+                   {runtimeText(reading), tr("lasts"), 36},
+                   {loadText(reading), tr("load"), 31}};
     QRect figure(line.topLeft(), QSize());
     for (const auto& f : figures) {
         const int columnWidth = line.width() * f.widthPercent / 100;
@@ -102,8 +107,8 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
     painter->setFont(sized(option.font, kSmallSize, false));
     const int smallHeight = painter->fontMetrics().height();
-    const QRect foot(tile.left() + kMargin, tile.bottom() - smallHeight - kMargin / 2,
-                     tile.width() - 2 * kMargin, smallHeight);
+    const QRect foot(tile.left() + px(kMargin), tile.bottom() - smallHeight - px(kMargin) / 2,
+                     tile.width() - 2 * px(kMargin), smallHeight);
     painter->setPen(live ? soft : color);
     drawElided(painter, foot, Qt::AlignLeft | Qt::AlignVCenter,
                linkText(device->link(), device->ageMs()));
@@ -118,5 +123,5 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
 QSize DeviceTileDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
 {
-    return {m_tileWidth, kTileHeight};
+    return {m_tileWidth, px(kHeight)};
 }

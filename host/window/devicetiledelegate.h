@@ -13,15 +13,23 @@ class DeviceTileDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    // Tiles of this width fill the view evenly; set by the page when it is resized.
-    void setTileWidth(int width) { m_tileWidth = width; }
+    // px at scale 1.
+    static constexpr int kLeastWidth = 290;
+    static constexpr int kHeight = 186;
+
+    // width: tiles of this width fill the view evenly; px. scale: of height and texts.
+    void setTile(int width, double scale);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
-    int m_tileWidth = 300;
+    int px(int atScaleOne) const { return static_cast<int>(atScaleOne * m_scale); }
+    QFont sized(QFont font, double points, bool bold) const;
+
+    int m_tileWidth = kLeastWidth;
+    double m_scale = 1;
 };
 
 #endif // DEVICETILEDELEGATE_H

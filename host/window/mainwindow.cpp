@@ -67,6 +67,12 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorS
     column->addWidget(m_banner);
 
     if (mode == Mode::Kiosk) {
+        constexpr double acrossTheRoom = 2.5;
+        m_overview->setLargestScale(acrossTheRoom);
+        // The way back, needed only on a device's page.
+        connect(m_pages, &QStackedWidget::currentChanged, m_overviewButton,
+                [this] { m_overviewButton->setVisible(currentPage()); });
+        m_overviewButton->hide();
         desk.lock();
         setCentralWidget(right);
     } else {

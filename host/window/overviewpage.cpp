@@ -12,12 +12,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr int kLeastTileWidth = 290; // px
-
-} // namespace
-
 OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
@@ -54,6 +48,7 @@ OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     column->addWidget(m_counts);
     column->addWidget(m_tiles, 1);
     connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::showCounts);
+    connect(m_sorted, &QAbstractItemModel::modelReset, this, &OverviewPage::fitTiles);
     showCounts();
 }
 
@@ -74,11 +69,32 @@ void OverviewPage::resizeEvent(QResizeEvent* event)
     fitTiles();
 }
 
-// As many tiles in a row as find room, and all of them equally wide.
+void OverviewPage::setLargestScale(double scale)
+{
+    m_largestScale = scale;
+    fitTiles();
+}
+
+// Tiles of one row are equally wide. They are as large as still shows all of them, and never
+// smaller than can be read at a desk: then the page scrolls.
 void OverviewPage::fitTiles()
 {
+    using Tile = DeviceTileDelegate;
     const int room = m_tiles->width() - m_tiles->verticalScrollBar()->sizeHint().width() - 2;
-    const int columns = std::max(room / kLeastTileWidth, 1);
-    m_delegate->setTileWidth(room / columns);
+    const int most = std::max(room / Tile::kLeastWidth, 1);
+    const int count = std::max(m_sorted->rowCount(), 1);
+    const auto scaleOf = [&](int columns) {
+        const double fits = static_cast<double>(room) / columns / Tile::kLeastWidth;
+        return std::clamp(fits, 1.0, m_largestScale);
+    };
+    int columns = 1;
+    while (columns < most) {
+        const int rows = (count + columns - 1) / columns;
+        const bool tooWide = room / columns > Tile::kLeastWidth * m_largestScale * 1.5;
+        if (!tooWide && rows * Tile::kHeight * scaleOf(columns) <= m_tiles->height())
+            break;
+        ++columns;
+    }
+    m_delegate->setTile(room / columns, scaleOf(columns));
     m_tiles->doItemsLayout();
 }

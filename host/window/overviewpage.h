@@ -20,6 +20,8 @@ class OverviewPage : public QWidget
 public:
     explicit OverviewPage(DeviceListModel& model, QWidget* parent = nullptr);
 
+    // How much larger than at a desk the tiles may grow while all of them find room; at least 1.
+    void setLargestScale(double scale);
     // Time has passed: ages have grown.
     void refreshAge();
 
@@ -38,6 +40,7 @@ private:
     DeviceTileDelegate* m_delegate;
     QListView* m_tiles;
     QLabel* m_counts;
+    double m_largestScale = 1.25;
 };
 
 #endif // OVERVIEWPAGE_H
