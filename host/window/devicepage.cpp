@@ -19,7 +19,7 @@
 namespace {
 
 // The energy-flow diagram with all panels open, and the tabs above it; px.
-constexpr QSize kWholeDiagram(775, 690);
+constexpr QSize kWholeDiagram(760, 685);
 
 constexpr char kDiagramGround[] = "#e6e9f2";
 

@@ -27,7 +27,7 @@
 namespace {
 
 constexpr QSize kFirstSize(1240, 900);
-constexpr int kSideWidth = 290;
+constexpr int kSideWidth = 245;
 constexpr int kEventListHeight = 120;
 
 } // namespace
