@@ -11,20 +11,17 @@
 
 #include <limits>
 
-namespace
-{
+namespace {
 
 using Snapshot = QMap<int, QVariant>;
 
 constexpr int kIntMax = std::numeric_limits<int>::max();
-constexpr int kIntMin = std::numeric_limits<int>::min();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 class Page : public RateInfoForm
 {
 public:
-    using RateInfoForm::data_rate;
-    using RateInfoForm::realData;
+    using RateInfoForm::data_rate, RateInfoForm::realData;
 
     // The label beside the name; none: null.
     QLabel* valueLabel(const QString& name) const
@@ -67,13 +64,9 @@ private slots:
     void format_data();
     void format();
     void firstOfTwoTexts();
-    void panels_data();
     void panels();
-    void boundsAndCodes_data();
     void boundsAndCodes();
-    void phases_data();
     void phases();
-    void refreshReplacesEverything();
     void deviceText_data();
     void deviceText();
 };
@@ -90,7 +83,6 @@ void TestRateInfoForm::format_data()
     const Format tenths{StrFormat_Int, 0.1f};
     const Format whole{StrFormat_Int};
     const Format float1{StrFormat_Float1, 0.1f};
-    const Format ranged{StrFormat_Int4, 1.0f, 1, 100, 0, 100};
     const Format chars4{StrFormat_Str, 1.0f, 1, 100, 0, 0, 4};
     const Format text{StrFormat_Str2};
     const auto withUnit = [](Format format, const char* unit) {
@@ -99,32 +91,22 @@ void TestRateInfoForm::format_data()
     };
 
     row("Int: missing key", withUnit(tenths, "V"), {}, "0 V");
-    row("Int: truncated", tenths, {2305}, "230");
     row("Int: truncated toward zero", tenths, {-15}, "-1");
     row("Int: INT_MAX stays", whole, {kIntMax}, "2147483647");
     row("Int: saturates above", {StrFormat_Int, 2.0f}, {kIntMax}, "2147483647");
     row("Int: saturates below", {StrFormat_Int, 1e30f}, {-1}, "-2147483648");
-    row("Int: infinite factor times 0", {StrFormat_Int, std::numeric_limits<float>::infinity()},
-        {0}, "0");
     row("Int: NaN factor", {StrFormat_Int, std::numeric_limits<float>::quiet_NaN()}, {5}, "0");
     row("Int2: one line", {StrFormat_Int2}, {1, 2, 3}, "1");
     row("Int2: three lines", {StrFormat_Int2, 1.0f, 3}, {1, 2, 3}, "1/2/3");
     row("Int3: three lines, stride two", {StrFormat_Int3, 1.0f, 3}, {1, 2, 3, 4, 5}, "1/3/5");
     row("Int3: last key of all", {StrFormat_Int3, 1.0f, 3, kIntMax}, {}, "0/0/0");
-    row("Int4: upper bound", ranged, {100}, "100");
-    row("Int4: lower bound", ranged, {0}, "0");
-    row("Int4: above", withUnit(ranged, "%"), {101}, "-- %");
     row("Float1", float1, {2305}, "230.5");
-    row("Float1: INT_MAX", float1, {kIntMax}, "214748368.0");
     row("Float1: NaN", float1, {kNaN}, "nan");
     row("Float2: three lines", {StrFormat_Float2, 0.1f, 3}, {1, 2, 3}, "0.1/0.2/0.3");
     row("Float3: unit alone", withUnit({StrFormat_Float3}, "V"), {1}, " V");
-    row("Time: unit alone", withUnit({StrFormat_Time}, "s"), {1}, " s");
     row("unknown format: unit alone", withUnit({99}, "W"), {1}, " W");
     row("Str: ends at zero", chars4, {65, 66, 0, 67}, "AB");
     row("Str: low byte", chars4, {0x141, -191}, "AA");
-    row("Str: UTF-8", chars4, {0xe2, 0x84, 0x83}, "\u2103");
-    row("Str: negative length", {StrFormat_Str, 1.0f, 1, 100, 0, 0, -1}, {65}, "");
     row("Str: endless length", {StrFormat_Str, 1.0f, 1, 100, 0, 0, kIntMax}, {65, 66}, "AB");
     row("Str: length past the last key", {StrFormat_Str, 1.0f, 1, kIntMax, 0, 0, 9}, {}, "");
     row("Str2: simplified", text, {"  a \n\t b  "}, "a b");
@@ -161,155 +143,117 @@ void TestRateInfoForm::firstOfTwoTexts()
     QCOMPARE(page.getPvalue(&p), QStringLiteral("a u"));
 }
 
-// Every key has a value of its own, so that a mixed-up key shows.
-void TestRateInfoForm::panels_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("DEVICE")
-        << 0 << 0
-        << "UPS model|0, Manufacturer name|1, System name|2, UPS ident attached devices|3, "
-           "UPS software version|4, Agent software version|5, Agent location|6";
-    QTest::newRow("INPUT")
-        << 1 << 0
-        << "input voltage:|109.0 V, input current:|11.2 A, input frequency:|11.5 Hz, "
-           "input PF:|118 W, Number of mains failure|107";
-    QTest::newRow("BATTERY")
-        << 2 << 0
-        << "battery voltage:|10.4 V, battery current:|10.5 A, battery temperature:|10 ℃, "
-           "remain discharge time:|102 Min, Time on battery:|101 s, "
-           "battery capacity:|103 %, battery state:|";
-    QTest::newRow("OUTPUT")
-        << 0 << 1
-        << "output voltage:|127.0 V, output current:|13.0 A, output frequency:|12.5 Hz, "
-           "output power:|133 W, output load percentage:|139 %, Output Mode:|";
-    QTest::newRow("BYPASS") << 1 << 1
-                            << "bypass voltage:|144.0 V, bypass current:|14.7 A, bypass PF:|150 W, "
-                               "bypass frequency:|14.2 Hz";
-    QTest::newRow("RATE") << 2 << 1
-                          << "Rated input voltage|156.0 V, Rated input frequency|15.7 Hz, "
-                             "Rated output voltage|158.0 V, Rated output frequency|15.9 Hz, "
-                             "Rated active power|162 W, Rated apparent power|320 VA";
-}
-
 void TestRateInfoForm::panels()
 {
-    QFETCH(int, row);
-    QFETCH(int, column);
+    const struct {
+        int row, column;
+        const char* shown; // the title first
+    } panels[] = {
+        {0, 0,
+         "DEVICE, UPS model|0, Manufacturer name|1, System name|2, UPS ident attached devices|3, "
+         "UPS software version|4, Agent software version|5, Agent location|6"},
+        {1, 0,
+         "INPUT, input voltage:|109.0 V, input current:|11.2 A, input frequency:|11.5 Hz, "
+         "input PF:|118 W, Number of mains failure|107"},
+        {2, 0,
+         "BATTERY, battery voltage:|10.4 V, battery current:|10.5 A, battery temperature:|10 ℃, "
+         "remain discharge time:|102 Min, Time on battery:|101 s, "
+         "battery capacity:|103 %, battery state:|"},
+        {0, 1,
+         "OUTPUT, output voltage:|127.0 V, output current:|13.0 A, output frequency:|12.5 Hz, "
+         "output power:|133 W, output load percentage:|139 %, Output Mode:|"},
+        {1, 1,
+         "BYPASS, bypass voltage:|144.0 V, bypass current:|14.7 A, bypass PF:|150 W, "
+         "bypass frequency:|14.2 Hz"},
+        {2, 1,
+         "RATE, Rated input voltage|156.0 V, Rated input frequency|15.7 Hz, "
+         "Rated output voltage|158.0 V, Rated output frequency|15.9 Hz, "
+         "Rated active power|162 W, Rated apparent power|320 VA"},
+    };
     Page page;
-    QWidget* panel =
-        static_cast<QGridLayout*>(page.layout())->itemAtPosition(row, column)->widget();
     QCOMPARE(page.value("battery voltage:"), QStringLiteral("- V"));
     QCOMPARE(page.value("Time on battery:"), QStringLiteral(" s"));
     QCOMPARE(page.value("Number of mains failure"), QString());
-    QCOMPARE(panel->findChild<QLabel*>("PanelTitle")->text(), QString(QTest::currentDataTag()));
-    Snapshot snapshot;
+    Snapshot snapshot; // every key has a value of its own, so that a mixed-up key shows
     for (int key = realdata_BatteryStatus; key <= realdata_Reserve5; ++key)
         snapshot[key] = 100 + key;
     for (int key = info_ups_type; key <= info_quenta_location; ++key)
         snapshot[key] = QString::number(key - info_ups_type);
     page.RefreshRateInfo(snapshot);
-    QStringList shown;
-    for (const QLabel* name : panel->findChildren<QLabel*>("PanalBodyKeyName"))
-        shown << name->text() + '|' + page.value(name->text());
-    QTEST(shown.join(QStringLiteral(", ")), "shown");
-}
-
-void TestRateInfoForm::boundsAndCodes_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QVariant>("raw");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* label, int key, const QVariant& raw, const char* text) {
-        QTest::addRow("%s %s", label, qPrintable(raw.toString()))
-            << key << raw << QString(label) << QString::fromUtf8(text);
-    };
-    row("battery temperature:", realdata_BatTemp, 1005, "100 ℃");
-    row("battery temperature:", realdata_BatTemp, 1010, "-- ℃");
-    row("battery temperature:", realdata_BatTemp, -9, "0 ℃");
-    row("battery temperature:", realdata_BatTemp, -10, "-- ℃");
-    row("battery state:", realdata_BatteryStatus, 0, "");
-    row("battery state:", realdata_BatteryStatus, 2, "");
-    row("battery state:", realdata_BatteryStatus, 3, "Low");
-    row("battery state:", realdata_BatteryStatus, 9, "Normal");
-    row("Output Mode:", realdata_OutputSource, 0, "None");
-    row("Output Mode:", realdata_OutputSource, 3, "Utility Supply");
-    row("Output Mode:", realdata_OutputSource, 8, "");
-    row("Rated active power", realdata_ConfigOPW_Hi, 0, "-- W");
-    row("Rated active power", realdata_ConfigOPW_Hi, 1, "1 W");
-    row("Rated active power", realdata_ConfigOPW_Hi, 9999999, "9999999 W");
-    row("Rated active power", realdata_ConfigOPW_Hi, 10000000, "-- W");
-    row("Rated apparent power", realdata_ConfigOPVA_Hi, 1500, "3000 VA");
-    row("Rated apparent power", realdata_ConfigOPVA_Hi, kIntMin, "-2147483648 VA");
+    for (const auto& [row, column, shown] : panels) {
+        QWidget* panel =
+            static_cast<QGridLayout*>(page.layout())->itemAtPosition(row, column)->widget();
+        QStringList found(panel->findChild<QLabel*>("PanelTitle")->text());
+        for (const QLabel* name : panel->findChildren<QLabel*>("PanalBodyKeyName"))
+            found << name->text() + '|' + page.value(name->text());
+        QCOMPARE(found.join(", "), QString::fromUtf8(shown));
+    }
+    page.RefreshRateInfo({}); // replaces everything
+    QCOMPARE(page.value("UPS model"), QString());
+    QCOMPARE(page.value("battery voltage:"), QStringLiteral("0.0 V"));
 }
 
 void TestRateInfoForm::boundsAndCodes()
 {
-    QFETCH(int, key);
-    QFETCH(QVariant, raw);
-    QFETCH(QString, label);
-    QFETCH(QString, text);
-    Page page;
-    page.RefreshRateInfo({{key, raw}});
-    QCOMPARE(page.value(label), text);
-}
-
-void TestRateInfoForm::phases_data()
-{
-    QTest::addColumn<int>("linesKey");
-    QTest::addColumn<QVariant>("lines");
-    QTest::addColumn<int>("keyA");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* label, int linesKey, const QVariant& lines, int keyA,
-                        const char* text) {
-        QTest::newRow(label) << linesKey << lines << keyA << text;
+    const struct {
+        const char* label;
+        int key, raw;
+        const char* text;
+    } rows[] = {
+        {"battery temperature:", realdata_BatTemp, 1005, "100 ℃"},
+        {"battery temperature:", realdata_BatTemp, 1010, "-- ℃"},
+        {"battery temperature:", realdata_BatTemp, -9, "0 ℃"},
+        {"battery temperature:", realdata_BatTemp, -10, "-- ℃"},
+        {"battery state:", realdata_BatteryStatus, 0, ""}, // of three codes for it, the last counts
+        {"battery state:", realdata_BatteryStatus, 3, "Low"},
+        {"battery state:", realdata_BatteryStatus, 9, "Normal"},
+        {"Output Mode:", realdata_OutputSource, 0, "None"},
+        {"Output Mode:", realdata_OutputSource, 8, ""},
+        {"Rated active power", realdata_ConfigOPW_Hi, 0, "-- W"},
+        {"Rated active power", realdata_ConfigOPW_Hi, 1, "1 W"},
+        {"Rated active power", realdata_ConfigOPW_Hi, 10000000, "-- W"},
     };
-    const char* volts = "231.0/232.0/233.0 V";
-    const char* amperes = "23.1/23.2/23.3 A";
-    row("input voltage:", realdata_InputNumLines, 3, realdata_InputVoltage_A, volts);
-    row("input current:", realdata_InputNumLines, 3, realdata_InputCurrent_A, amperes);
-    row("input frequency:", realdata_InputNumLines, "3", realdata_InputFre_A, "23.1/23.2/23.3 Hz");
-    row("input PF:", realdata_InputNumLines, 3, realdata_InputPower_A_Hi, "231 W");
-    row("output voltage:", realdata_OutputNumLines, 3, realdata_OutputVoltage_A, volts);
-    row("output current:", realdata_OutputNumLines, 3, realdata_OutputCurrent_A, amperes);
-    row("bypass voltage:", realdata_BypNumLines, 3, realdata_BypVoltage_A, volts);
-    row("bypass current:", realdata_BypNumLines, 2, realdata_BypCurrent_A, "23.1 A");
-    // Its lines follow the bypass, without a visible effect.
-    row("Rated input voltage", realdata_BypNumLines, 3, realdata_ConfigIPVol, "231.0 V");
+    Page page;
+    for (const auto& [label, key, raw, text] : rows) {
+        page.RefreshRateInfo({{key, raw}});
+        QCOMPARE(page.value(label), QString::fromUtf8(text));
+    }
 }
 
 void TestRateInfoForm::phases()
 {
-    QFETCH(int, linesKey);
-    QFETCH(QVariant, lines);
-    QFETCH(int, keyA);
+    const struct {
+        const char* label;
+        int linesKey;
+        QVariant lines;
+        int keyA;
+        const char* text;
+    } rows[] = {
+        {"input voltage:", realdata_InputNumLines, 3, realdata_InputVoltage_A,
+         "231.0/232.0/233.0 V"},
+        {"input frequency:", realdata_InputNumLines, "3", realdata_InputFre_A, "23.1/23.2/23.3 Hz"},
+        {"input PF:", realdata_InputNumLines, 3, realdata_InputPower_A_Hi, "231 W"},
+        {"output current:", realdata_OutputNumLines, 3, realdata_OutputCurrent_A,
+         "23.1/23.2/23.3 A"},
+        {"bypass voltage:", realdata_BypNumLines, 3, realdata_BypVoltage_A, "231.0/232.0/233.0 V"},
+        {"bypass current:", realdata_BypNumLines, 2, realdata_BypCurrent_A, "23.1 A"},
+    };
     Page page;
-    page.RefreshRateInfo({{linesKey, lines}, {keyA, 231}, {keyA + 1, 232}, {keyA + 2, 233}});
-    QTEST(page.value(QTest::currentDataTag()), "text");
-    QCOMPARE(page.data_rate.first()->lines, page.realData.value(realdata_BypNumLines).toInt());
-}
-
-void TestRateInfoForm::refreshReplacesEverything()
-{
-    Page page;
-    page.RefreshRateInfo({{info_ups_type, "old"}, {realdata_BatVoltage, 1}});
-    page.RefreshRateInfo({});
-    QCOMPARE(page.value("UPS model"), QString());
-    QCOMPARE(page.value("battery voltage:"), QStringLiteral("0.0 V"));
-    QCOMPARE(page.value("Output Mode:"), QStringLiteral("None"));
+    for (const auto& [label, linesKey, lines, keyA, text] : rows) {
+        page.RefreshRateInfo({{linesKey, lines}, {keyA, 231}, {keyA + 1, 232}, {keyA + 2, 233}});
+        QCOMPARE(page.value(label), QString(text));
+        // The rated values' lines follow the bypass, without a visible effect.
+        QCOMPARE(page.data_rate.first()->lines, page.realData.value(realdata_BypNumLines).toInt());
+    }
 }
 
 void TestRateInfoForm::deviceText_data()
 {
     QTest::addColumn<QVariant>("raw");
     QTest::addColumn<QString>("text");
-    const QString words = QStringLiteral("word ").repeated(20000);
     QTest::newRow("rich text") << QVariant("<h1>x</h1>&amp;") << "<h1>x</h1>&amp;";
     QTest::newRow("several lines") << QVariant("a\nb\r\nc") << "a b c";
     QTest::newRow("100,000 characters") << QVariant(QString(100000, 'W')) << QString(100000, 'W');
-    QTest::newRow("20,000 words") << QVariant(words) << words.trimmed();
     QTest::newRow("list") << QVariant(QVariantList{1, 2}) << QString();
     QTest::newRow("no UTF-8") << QVariant(QByteArray("\xff\xfe")) << "\ufffd\ufffd";
 }

@@ -7,8 +7,7 @@
 #include <QTableWidget>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 using Snapshot = QMap<int, QVariant>;
 
@@ -56,12 +55,10 @@ class TestRTDataForm : public QObject
 private slots:
     void everyValue_data();
     void everyValue();
-    void labelsFollowThePhases();
     void blocksDecideAlone();
     void codes();
-    void numbers_data();
     void numbers();
-    void groupsAndColumns();
+    void narrowTableScrolls();
     void shortTableStaysShort();
 };
 
@@ -96,35 +93,29 @@ void TestRTDataForm::everyValue()
     QTEST(form.column(2), "values");
 }
 
-void TestRTDataForm::labelsFollowThePhases()
+void TestRTDataForm::blocksDecideAlone()
 {
     Probe form;
     const QString initial = form.column(1);
-    form.RefreshRTDataInfo(distinctValues(3));
-    const QStringList three = form.column(1).split(QStringLiteral(", "));
-    QCOMPARE(three.filter(QStringLiteral("R/S/T")).size(), 11);
-    QCOMPARE(three.at(8), QStringLiteral("Input voltage R/S/T(V)"));
-    QCOMPARE(three.at(21), QStringLiteral("Bypass power R/S/T(W)"));
-    form.RefreshRTDataInfo(distinctValues(1));
-    QCOMPARE(form.column(1), initial);
-}
-
-void TestRTDataForm::blocksDecideAlone()
-{
-    const int lines[][3] = {{3, 1, 3}, {1, 3, 1}, {2, 4, 0}}; // only exactly three counts
+    // Only exactly three counts.
+    const int lines[][3] = {{3, 3, 3}, {3, 1, 3}, {1, 3, 1}, {2, 4, 0}};
     for (const auto& [input, output, bypass] : lines) {
         Snapshot snapshot = distinctValues(0);
         snapshot[realdata_InputNumLines] = input;
         snapshot[realdata_OutputNumLines] = output;
         snapshot[realdata_BypNumLines] = bypass;
-        Probe form;
         form.RefreshRTDataInfo(snapshot);
         QCOMPARE(form.isSinglePhase, input != 3);
-        QCOMPARE(form.text(9, 2).contains(QLatin1Char('/')), input == 3);
-        QCOMPARE(form.text(15, 2).contains(QLatin1Char('/')), output == 3);
-        QCOMPARE(form.text(20, 2).contains(QLatin1Char('/')), bypass == 3);
+        for (auto [first, last, count] :
+             {std::tuple(9, 12, input), std::tuple(15, 18, output), std::tuple(20, 22, bypass)}) {
+            for (int row = first; row <= last; ++row) {
+                QCOMPARE(form.text(row, 1).contains("R/S/T"), count == 3);
+                QCOMPARE(form.text(row, 2).contains('/'), count == 3);
+            }
+        }
         QCOMPARE(form.table()->columnCount(), 3); // marking columns 3 and 4 adds none
     }
+    QCOMPARE(form.column(1), initial);
 }
 
 void TestRTDataForm::codes()
@@ -144,50 +135,33 @@ void TestRTDataForm::codes()
     }
 }
 
-void TestRTDataForm::numbers_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("whole");
-    QTest::addColumn<QString>("tenths");
-    QTest::addColumn<QString>("degrees");
-    const auto row = [](const char* name, const QVariant& value, const char* whole,
-                        const char* tenths, const char* degrees) {
-        QTest::newRow(name) << value << whole << tenths << degrees;
-    };
-    row("below all temperatures", -1, "-1", "-0.1", "--");
-    row("highest temperature", 100, "100", "10.0", "100");
-    row("above all temperatures", 101, "101", "10.1", "--");
-    row("single precision", 16777217, "16777217", "1677721.8", "--");
-    row("text that is no number", "<b>12</b>", "0", "0.0", "0");
-}
-
 void TestRTDataForm::numbers()
 {
-    QFETCH(QVariant, value);
+    const struct {
+        QVariant value;
+        const char* texts; // as whole number, tenths and degrees
+    } rows[] = {{-1, "-1 -0.1 --"},
+                {100, "100 10.0 100"},
+                {101, "101 10.1 --"},
+                {16777217, "16777217 1677721.8 --"}, // single precision
+                {"<b>12</b>", "0 0.0 0"}};
     Probe form;
-    form.RefreshRTDataInfo(
-        {{realdata_SecondsOnBat, value}, {realdata_BatVoltage, value}, {realdata_BatTemp, value}});
-    QTEST(form.text(2, 2), "whole");
-    QTEST(form.text(5, 2), "tenths");
-    QTEST(form.text(7, 2), "degrees");
+    for (const auto& [value, texts] : rows) {
+        form.RefreshRTDataInfo({{realdata_SecondsOnBat, value},
+                                {realdata_BatVoltage, value},
+                                {realdata_BatTemp, value}});
+        QCOMPARE(form.text(2, 2) + ' ' + form.text(5, 2) + ' ' + form.text(7, 2), QString(texts));
+    }
 }
 
-void TestRTDataForm::groupsAndColumns()
+void TestRTDataForm::narrowTableScrolls() // and no value is cut
 {
     Probe form;
-    QTableWidget* table = form.table();
-    QStringList groups;
-    for (int row = 1; row < table->rowCount(); row += table->rowSpan(row, 0))
-        groups << QStringLiteral("%1 %2").arg(row).arg(form.text(row, 0));
-    QCOMPARE(groups,
-             QStringList({"1 Battery Info", "8 Input Info", "13 Output Info", "19 Bypass Info"}));
-
-    // In a narrow window the table scrolls, and no value is cut.
     form.resize(200, 434);
     form.RefreshRTDataInfo(distinctValues(3));
     form.grab(); // lays out
-    const int needed = table->fontMetrics().horizontalAdvance(form.text(11, 2));
-    QVERIFY(table->columnWidth(2) > needed);
+    const int needed = form.table()->fontMetrics().horizontalAdvance(form.text(11, 2));
+    QVERIFY(form.table()->columnWidth(2) > needed);
 }
 
 void TestRTDataForm::shortTableStaysShort()
