@@ -1,5 +1,5 @@
 // Both chart pages and their container: which key reaches which gauge, curve and legend entry, and
-// that the forms hold their texts. Reads gauges and charts by what they tell assistive technology.
+// what their legends say. Reads gauges and charts by what they tell assistive technology.
 
 #include "chartform.h"
 #include "datachart.h"
@@ -10,7 +10,6 @@
 #include "threedynamicchart.h"
 
 #include <QLabel>
-#include <QTabWidget>
 #include <QtTest>
 
 namespace {
@@ -72,7 +71,6 @@ private slots:
     void batteryVoltageScale();
     void oddReadings();
     void legendsHaveTheColoursOfTheCurves();
-    void nothingIsCutOff();
     void containerRoutesToTheVisiblePage();
 };
 
@@ -225,47 +223,6 @@ void TestChartPages::legendsHaveTheColoursOfTheCurves()
             QVERIFY(part->styleSheet().remove(' ').contains(
                 rule.arg(colour.red()).arg(colour.green()).arg(colour.blue())));
         }
-    }
-}
-
-template <typename Page>
-void checkNothingIsCutOff(const QSize& size, void (Page::*refresh)(Snapshot))
-{
-    QWidget window; // a page that is no window cannot ask for more room than it gets
-    Page page(&window);
-    if (size.isValid())
-        page.resize(size);
-    window.resize(page.size());
-    window.show();
-    Snapshot snapshot;
-    for (int key = realdata_BatteryStatus; key <= realdata_Reserve5; ++key)
-        snapshot[key] = 498; // wide texts: 498 V and 49.8 Hz
-    (page.*refresh)(snapshot);
-
-    auto* tabs = child<QTabWidget>(page, "tabWidget");
-    for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
-        if (tabs)
-            tabs->setCurrentIndex(tab);
-        QCoreApplication::processEvents();
-        QCOMPARE(page.minimumSizeHint().boundedTo(page.size()), page.minimumSizeHint());
-        for (const QLabel* label : page.template findChildren<QLabel*>()) {
-            const QSize room = label->contentsRect().size();
-            const QSize needed =
-                label->fontMetrics()
-                    .boundingRect(QRect(QPoint(), room),
-                                  label->wordWrap() ? int(Qt::TextWordWrap) : 0, label->text())
-                    .size();
-            QVERIFY2(!label->isVisible() || needed.boundedTo(room) == needed,
-                     qPrintable(label->objectName()));
-        }
-    }
-}
-
-void TestChartPages::nothingIsCutOff()
-{
-    for (const QSize& size : {QSize(), QSize(1024, 768)}) {
-        checkNothingIsCutOff(size, &RTSingleGraphForm::RefreshRtSingleChartInfo);
-        checkNothingIsCutOff(size, &RTThreeGraphForm::RefreshRtChartInfo);
     }
 }
 

@@ -56,6 +56,15 @@ public:
         (this->*layer)(&painter);
         return kind < 0 ? device.steps() : device.stepsOf(PaintStep::Kind(kind));
     }
+
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        ++paints;
+        Energyline::paintEvent(event);
+    }
 };
 
 const Page::Flags Page::kFlows{
@@ -246,7 +255,10 @@ void TestEnergyline::animation()
 {
     Page page;
     QCOMPARE(page.timer->interval(), 100);
-    QTRY_VERIFY(page.m_offset < 0.0F); // it runs by itself
+    page.show();
+    const int before = page.paints;
+    QTRY_VERIFY(page.paints > before + 1); // the timer repaints without any new data
+    QVERIFY(page.m_offset < 0.0F);
 
     page.timer->stop();
     page.m_offset = 0.0F;
@@ -310,6 +322,9 @@ void TestEnergyline::flowLines()
     };
     Page page(kOdd);
     QVERIFY(page.steps(&Page::drawflow).isEmpty());
+    page.set(Page::kFlows, kAllFlows);
+    page.set_all_off_Flow();
+    QCOMPARE(page.on(Page::kFlows), QString("rec-inv")); // which it leaves as it is
     page.m_offset = -1.2F;
     for (int i = 0; i < 6; ++i) {
         page.set(Page::kFlows, Page::kFlows[i].first);
@@ -383,10 +398,8 @@ void TestEnergyline::panels()
     frame.translate(page.middle());
     const auto frames = page.steps(&Page::drawdate, PaintStep::RoundedRect);
     QCOMPARE(frames.size(), texts.isEmpty() ? 0 : 1);
-    for (const PaintStep& step : frames) {
+    for (const PaintStep& step : frames)
         QCOMPARE(step.rect, frame);
-        QCOMPARE(step.radii, frame.size() * 0.05 / 2);
-    }
     QVector<PaintStep> drawn = page.steps(&Page::drawdate, PaintStep::Text);
     QStringList drawnTexts;
     for (const PaintStep& step : drawn)

@@ -58,7 +58,6 @@ private slots:
     void blocksDecideAlone();
     void codes();
     void numbers();
-    void narrowTableScrolls();
     void shortTableStaysShort();
 };
 
@@ -152,16 +151,6 @@ void TestRTDataForm::numbers()
                                 {realdata_BatTemp, value}});
         QCOMPARE(form.text(2, 2) + ' ' + form.text(5, 2) + ' ' + form.text(7, 2), QString(texts));
     }
-}
-
-void TestRTDataForm::narrowTableScrolls() // and no value is cut
-{
-    Probe form;
-    form.resize(200, 434);
-    form.RefreshRTDataInfo(distinctValues(3));
-    form.grab(); // lays out
-    const int needed = form.table()->fontMetrics().horizontalAdvance(form.text(11, 2));
-    QVERIFY(form.table()->columnWidth(2) > needed);
 }
 
 void TestRTDataForm::shortTableStaysShort()

@@ -8,7 +8,7 @@
 #include <QTableWidget>
 #include <QtTest>
 
-#include <limits>
+#include <cmath>
 
 namespace {
 
@@ -122,14 +122,9 @@ void TestRTEventForm::onsetOverTime()
 void TestRTEventForm::hostileStates()
 {
     Page page;
-    for (const QVariant& state :
-         {QVariant("<b>1</b>"), QVariant(QString(100000, '1')), QVariant(QVariantList{1}),
-          QVariant(std::numeric_limits<double>::quiet_NaN()),
-          QVariant(std::numeric_limits<int>::max()), QVariant(std::numeric_limits<int>::min())}) {
-        QMap<int, QVariant> snapshot;
-        for (int key = 1990; key <= alarm_cloud_connect_falil; ++key)
-            snapshot.insert(key, state);
-        page.RefreshRTEventInfo(snapshot);
+    for (const QVariant& state : {QVariant("<b>1</b>"), QVariant(QString(100000, '1')),
+                                  QVariant(QVariantList{1}), QVariant(std::nan(""))}) {
+        page.RefreshRTEventInfo({{alarm_LowBattery, state}});
         QCOMPARE(page.table_alarm_record->rowCount(), 0);
         QVERIFY(page.alarmTable.isEmpty());
     }

@@ -42,13 +42,9 @@ public:
         }
         return lines;
     }
-    QString counts() const
+    QVector<int> counts() const
     {
-        return QString("%1 %2 %3 %4")
-            .arg(m_dataVec0.size())
-            .arg(m_dataVec1.size())
-            .arg(m_dataVec2.size())
-            .arg(m_dataVec3.size());
+        return {m_dataVec0.size(), m_dataVec1.size(), m_dataVec2.size(), m_dataVec3.size()};
     }
     void fill(int samples)
     {
@@ -90,6 +86,7 @@ private slots:
     void timeAxis();
     void curvesRunFromRightToLeft();
     void oddSamples();
+    void backgroundIsShown();
     void speaksItsLatestValues();
 };
 
@@ -128,14 +125,14 @@ void checkShrinking()
 {
     Chart chart({520, 390}); // 88 samples
     chart.fill(100);
-    QCOMPARE(chart.counts(), QString("88 88 88 88"));
+    QCOMPARE(chart.counts(), QVector<int>({88, 88, 88, 88}));
     chart.resize(260, 390); // 44 samples
     chart.picture();
-    QCOMPARE(chart.counts(), QString("88 88 88 88")); // the box was still the old one
+    QCOMPARE(chart.counts(), QVector<int>({88, 88, 88, 88})); // the box was still the old one
 
     QResizeEvent event(chart.size(), chart.size());
     QCoreApplication::sendEvent(&chart, &event);
-    QCOMPARE(chart.counts(), QString("87 87 87 88")); // series 3 waits, as intended
+    QCOMPARE(chart.counts(), QVector<int>({87, 87, 87, 88})); // series 3 waits, as intended
     QCOMPARE(chart.m_dataVec0.at(43), 56.0);
     QCOMPARE(chart.m_dataVec0.at(44), 54.0); // the first one beyond the room went
 }
@@ -154,7 +151,7 @@ void TestTrendChart::unknownSeriesOnlyRefreshes()
         chart.initValue();
         QCOMPARE(chart.curveMap.value(0).size(), 4); // the picture keeps its last curves
         chart.addData(id, 7);
-        QCOMPARE(chart.counts(), QString("0 0 0 0"));
+        QCOMPARE(chart.counts(), QVector<int>({0, 0, 0, 0}));
         QCOMPARE(chart.curveMap.size(), 4);
         QVERIFY(chart.curveMap.value(0).isEmpty());
     }
@@ -208,11 +205,11 @@ void TestTrendChart::timeAxis()
 {
     SingleProbe chart;
     chart.now = QTime(23, 59, 30); // the last labels are of tomorrow
-    QVector<PaintStep> ticks;
+    QVector<QPolygonF> ticks;
     const int bottom = static_cast<int>(chart.m_boxRect.bottom());
     for (const PaintStep& line : chart.picture()) {
         if (line.points.first().x() == line.points.last().x())
-            ticks.append(line);
+            ticks << line.points;
     }
     QCOMPARE(chart.texts.size(), 22);
     QCOMPARE(chart.texts.at(11), QStringLiteral("23:58:50"));
@@ -222,7 +219,7 @@ void TestTrendChart::timeAxis()
     QCOMPARE(ticks.size(), 11); // box 40 to 480 px
     for (int k = 0; k <= 10; ++k) {
         const int x = 40 + 44 * k + (k == 10 ? 0 : 1);
-        QCOMPARE(ticks.at(k).points, QPolygonF() << QPointF(x, bottom) << QPointF(x, bottom + 5));
+        QCOMPARE(ticks.at(k), QPolygonF() << QPointF(x, bottom) << QPointF(x, bottom + 5));
     }
 }
 
@@ -263,6 +260,14 @@ void TestTrendChart::oddSamples()
             QVERIFY(qAbs(line.points.first().y()) < 32767 && qAbs(line.points.last().y()) < 32767);
         QVERIFY(!chart.grab().isNull());
     }
+}
+
+void TestTrendChart::backgroundIsShown()
+{
+    QWidget page;
+    page.setStyleSheet(QStringLiteral("background-color: rgb(1, 2, 3);"));
+    DynamicChart chart(&page);
+    QCOMPARE(chart.grab().toImage().pixelColor(2, 2), QColor(250, 250, 250));
 }
 
 void TestTrendChart::speaksItsLatestValues()
