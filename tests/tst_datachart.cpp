@@ -183,7 +183,10 @@ void TestDataChart::geometry()
                      QPointF(size.width() / 2, size.height() - 10));
             const double from = line.points.first().y();
             const double length = line.points.last().y() - from;
-            sectors += qFuzzyCompare(from, pie) && qFuzzyCompare(length, -0.25 * pie);
+            if (qFuzzyCompare(from, pie) && qFuzzyCompare(length, -0.25 * pie)) {
+                const double degrees = line.transform.map(QLineF(0, 0, 0, 1)).angle();
+                QCOMPARE(qRound(degrees), 170 - 32 * sectors++); // from left to right
+            }
             major += qFuzzyCompare(from, start) && qFuzzyCompare(length, outer / 20);
             minor += qFuzzyCompare(from, start) && qFuzzyCompare(length, 0.7 * outer / 20);
         }
