@@ -4,6 +4,7 @@
 #include "connectors/snmp/snmppoll.h"
 #include "connectors/snmp/snmpreading.h"
 #include "connectors/snmp/upsmib.h"
+#include "support/readingtext.h"
 #include "support/snmptable.h"
 
 #include <QTest>
@@ -15,61 +16,9 @@ Q_DECLARE_METATYPE(Prepare)
 Q_DECLARE_METATYPE(CommandOutcome)
 Q_DECLARE_METATYPE(LinkState)
 
-namespace
-{
+namespace {
 
 constexpr char kThreePhase[] = TEST_DATA "/snmp/three-phase.txt";
-
-QString text(const Value& value)
-{
-    return value ? QString::number(*value, 'g', 10) : QStringLiteral("-");
-}
-
-QString text(const PhaseValues& values)
-{
-    return text(values[0]) + '/' + text(values[1]) + '/' + text(values[2]);
-}
-
-QString text(const LineReading& lines)
-{
-    return QStringLiteral("%1: %2 V %3 A %4 Hz %5 W %6 %")
-        .arg(lines.lines ? QString::number(*lines.lines) : QStringLiteral("-"), text(lines.voltage),
-             text(lines.current), text(lines.frequency), text(lines.power), text(lines.load));
-}
-
-// Everything of a reading that rows look at, by name.
-QMap<QString, QString> describe(const UpsReading& r)
-{
-    QStringList alarms;
-    for (const Alarm alarm : r.alarms)
-        alarms << QString::number(static_cast<int>(alarm));
-    alarms.sort();
-    return {
-        {"battery", QString::number(static_cast<int>(r.batteryState))},
-        {"source", QString::number(static_cast<int>(r.outputSource))},
-        {"seconds", text(r.secondsOnBattery)},
-        {"runtime", text(r.runtime)},
-        {"charge", text(r.charge)},
-        {"batteryVoltage", text(r.batteryVoltage)},
-        {"batteryCurrent", text(r.batteryCurrent)},
-        {"temperature", text(r.batteryTemperature)},
-        {"lineBads", text(r.inputLineBads)},
-        {"input", text(r.input)},
-        {"output", text(r.output)},
-        {"bypass", text(r.bypass)},
-        {"ratings",
-         QStringList{text(r.ratedInputVoltage), text(r.ratedInputFrequency),
-                     text(r.ratedOutputVoltage), text(r.ratedOutputFrequency),
-                     text(r.ratedApparentPower), text(r.ratedPower), text(r.lowBatteryTime),
-                     text(r.lowTransferVoltage), text(r.highTransferVoltage)}
-             .join(' ')},
-        {"beeper", r.beeper ? QString::number(static_cast<int>(*r.beeper)) : QStringLiteral("-")},
-        {"alarms", alarms.join(',') + ' ' + r.alarmTexts.join(',')},
-        {"names", QStringList{r.manufacturer, r.model, r.name, r.softwareVersion, r.agentVersion,
-                              r.attachedDevices, r.location}
-                      .join('|')},
-    };
-}
 
 SnmpTable threePhase()
 {
@@ -95,288 +44,6 @@ PollResult pollOnce(SnmpTable& table, SnmpMemory& memory, int version = 2)
     return poll.result();
 }
 
-} // namespace
-
-class tst_SnmpReading : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void readsEverything();
-    void reads_data();
-    void reads();
-    void survivesAnyMap();
-    void polls_data();
-    void polls();
-    void remembersWhatIsMissing();
-    void noticesARestart();
-    void tellsWhyThereIsNoReading_data();
-    void tellsWhyThereIsNoReading();
-    void commands_data();
-    void commands();
-    void retriesTheTestLock();
-};
-
-void tst_SnmpReading::readsEverything()
-{
-    const QMap<QString, QString> r = describe(readingFromSnmp(threePhase().objects));
-    const QMap<QString, QString> expected{
-        {"battery", "9"},
-        {"source", "3"},
-        {"seconds", "0"},
-        {"runtime", "2520"},
-        {"charge", "97"},
-        {"batteryVoltage", "272.8"},
-        {"batteryCurrent", "-1.5"},
-        {"temperature", "24"},
-        {"lineBads", "7"},
-        {"input", "3: 229/230/231 V 6.5/6.6/6.7 A 49.9/50/50.1 Hz 1310/1320/1330 W -/-/- %"},
-        {"output", "3: 219/220/221 V 7.2/5.4/8.3 A 50/50/50 Hz 1316/1004/1728 W 24/18/28 %"},
-        {"bypass", "3: 232/233/234 V 0.1/0.2/0.3 A 49.8/49.8/49.8 Hz 10/20/30 W -/-/- %"},
-        {"ratings", "230 50 220 50 60000 54000 300 184 265"},
-        {"beeper", "2"},
-        {"alarms", "16 1.3.6.1.4.1.99999.1.5"},
-        {"names", "Example Power|Tower 60|UPS West|4.2|1.0.7|racks 1-4|Hall 2"},
-    };
-    for (auto it = expected.begin(); it != expected.end(); ++it)
-        QCOMPARE(it.key() + ' ' + r[it.key()], it.key() + ' ' + it.value());
-}
-
-void tst_SnmpReading::reads_data()
-{
-    QTest::addColumn<QByteArray>("remove"); // subtree of the three-phase UPS
-    QTest::addColumn<QByteArray>("add");    // lines put in its place
-    QTest::addColumn<QString>("what");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const char* remove, const char* add, const char* what,
-                        const char* expected) {
-        QTest::newRow(name) << QByteArray(remove) << QByteArray(add) << QString(what)
-                            << QString(expected);
-    };
-    row("unknown: -1", "2.3.0", "2.3.0 i -1", "runtime", "-");
-    row("unknown: 65535", "2.6.0", "2.6.0 i 65535", "batteryCurrent", "-");
-    row("unknown: 655350", "2.5.0", "2.5.0 i 655350", "batteryVoltage", "-");
-    row("unknown: 4294967295", "2.4.0", "2.4.0 i 4294967295", "charge", "-");
-    row("null is absent", "2.7.0", "2.7.0 n", "temperature", "-");
-    row("digits in a text are a number", "2.3.0", "2.3.0 t  042 ", "runtime", "2520");
-    row("words are no number", "2.3.0", "2.3.0 t many", "runtime", "-");
-    row("an identifier is no number", "2.4.0", "2.4.0 o 1.3.6", "charge", "-");
-    row("a number is no text", "1.2.0", "1.2.0 i 5", "names",
-        "Example Power||UPS West|4.2|1.0.7|racks 1-4|Hall 2");
-    row("empty name: that of the system", "1.5.0", "1.5.0 t ", "names",
-        "Example Power|Tower 60|card-1|4.2|1.0.7|racks 1-4|Hall 2");
-    row("control characters go", "1.1.0", "1.1.0 t A\x1b[1mB", "names",
-        "A[1mB|Tower 60|UPS West|4.2|1.0.7|racks 1-4|Hall 2");
-
-    row("source 8", "4.1.0", "4.1.0 i 8", "source", "1");
-    row("source 0", "4.1.0", "4.1.0 i 0", "source", "1");
-    row("no source", "4.1.0", "", "source", "1");
-    row("source is null", "4.1.0", "4.1.0 n", "source", "1");
-    row("source 7", "4.1.0", "4.1.0 i 7", "source", "7");
-
-    row("battery low", "2.1.0", "2.1.0 i 3", "battery", "3");
-    row("battery depleted", "2.1.0", "2.1.0 i 4", "battery", "4");
-    row("low comes before a test", "2.1.0", "2.1.0 i 3\n7.3.0 i 5", "battery", "3");
-    row("test in progress", "7.3.0", "7.3.0 i 5", "battery", "5");
-    row("a test comes before discharge", "7.3.0", "7.3.0 i 5\n4.1.0 i 5", "battery", "5");
-    row("discharge", "4.1.0", "4.1.0 i 5", "battery", "8");
-    row("battery status 1", "2.1.0", "2.1.0 i 1", "battery", "1");
-    row("no battery status", "2.1.0", "", "battery", "1");
-
-    row("on battery: seconds count", "4.1.0", "4.1.0 i 5\n2.2.0 i 12", "seconds", "12");
-    row("on mains: the last outage does not", "2.2.0", "2.2.0 i 12", "seconds", "0");
-    row("on battery without the object", "2.2.0", "4.1.0 i 5", "seconds", "-");
-
-    row("one line, phantom rows", "3.2.0", "3.2.0 i 1", "input",
-        "1: 229/-/- V 6.5/-/- A 49.9/-/- Hz 1310/-/- W -/-/- %");
-    row("two lines", "4.3.0", "4.3.0 i 2", "output",
-        "2: 219/220/- V 7.2/5.4/- A 50/50/- Hz 1316/1004/- W 24/18/- %");
-    row("no bypass, but rows of zeros", "5", "5.1.0 i 0\n5.2.0 i 0\n5.3.1.2.1 i 0\n5.3.1.2.2 i 0",
-        "bypass", "0: -/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
-    row("no line counted, but voltage", "5.2.0", "5.2.0 i 0", "bypass",
-        "3: 232/233/234 V 0.1/0.2/0.3 A 49.8/49.8/49.8 Hz 10/20/30 W -/-/- %");
-    row("lines without a count", "3.2.0", "", "input",
-        "3: 229/230/231 V 6.5/6.6/6.7 A 49.9/50/50.1 Hz 1310/1320/1330 W -/-/- %");
-    row("an absurd count", "3.2.0", "3.2.0 i 65535", "input",
-        "3: 229/230/231 V 6.5/6.6/6.7 A 49.9/50/50.1 Hz 1310/1320/1330 W -/-/- %");
-    row("rows of null are no lines", "3", "3.3.1.3.1 i 2360\n3.3.1.3.2 n\n3.3.1.3.3 n\n3.3.1.4.1 n",
-        "input", "1: 2360/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
-    row("longer index: the first part is the line", "3",
-        "3.2.0 i 1\n3.3.1.2.1.0 i 600\n3.3.1.3.1.0 i 224", "input",
-        "1: 224/-/- V -/-/- A 60/-/- Hz -/-/- W -/-/- %");
-    row("lines 0 and 4 do not exist", "3", "3.3.1.3.0 i 1\n3.3.1.3.1 i 230\n3.3.1.3.4 i 4", "input",
-        "1: 230/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
-    row("no bypass group", "5", "", "bypass", "-: -/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
-
-    row("no alarm table", "6", "", "alarms", " ");
-    row("rows of zero identifiers are empty", "6.2", "6.2.1.2.1 o 0.0\n6.2.1.2.2 o 0", "alarms",
-        " ");
-    row("the same alarm twice", "6.2",
-        "6.2.1.2.22 o 1.3.6.1.2.1.33.1.6.3.1\n6.2.1.2.23 o 1.3.6.1.2.1.33.1.6.3.1", "alarms", "1 ");
-    row("alarm 24 and one beyond", "6.2",
-        "6.2.1.2.1 o 1.3.6.1.2.1.33.1.6.3.24\n6.2.1.2.2 o 1.3.6.1.2.1.33.1.6.3.25", "alarms",
-        "24 1.3.6.1.2.1.33.1.6.3.25");
-    row("an identifier as text", "6.2", "6.2.1.2.1 t .1.3.6.1.2.1.33.1.6.3.2", "alarms", "2 ");
-    row("a failed test is an alarm", "7.3.0", "7.3.0 i 3", "alarms", "16,19 1.3.6.1.4.1.99999.1.5");
-    row("beeper out of range", "9.8.0", "9.8.0 i 0", "beeper", "-");
-}
-
-void tst_SnmpReading::reads()
-{
-    QFETCH(QByteArray, remove);
-    QFETCH(QByteArray, add);
-    QFETCH(QString, what);
-    QFETCH(QString, expected);
-
-    SnmpTable table = threePhase();
-    table.removeBelow(remove.constData());
-    table.load(add);
-    QCOMPARE(describe(readingFromSnmp(table.objects))[what], expected);
-}
-
-// Odd lengths and types in every place that is looked at.
-void tst_SnmpReading::survivesAnyMap()
-{
-    const SnmpTable table = threePhase();
-    const SnmpValue odd[] = {SnmpValue::null(),
-                             SnmpValue::text({}),
-                             SnmpValue::objectId({}),
-                             SnmpValue::text(QByteArray(100000, '\xff')),
-                             SnmpValue::number(std::numeric_limits<qint64>::min()),
-                             SnmpValue::objectId(SnmpOid(200, 4294967295u))};
-    for (const SnmpValue& value : odd) {
-        SnmpValues values;
-        for (const auto& object : table.objects) {
-            values[object.first] = value;
-            values[object.first + SnmpOid{0, 4294967295u}] = value;
-            values[SnmpOid(object.first.begin(), object.first.end() - 1)] = value;
-        }
-        const UpsReading reading = readingFromSnmp(values);
-        QCOMPARE(reading.outputSource, OutputSource::Other);
-        QVERIFY(reading.manufacturer.size() <= 255);
-    }
-    QVERIFY(!hasUpsObjects({}));
-}
-
-void tst_SnmpReading::polls_data()
-{
-    QTest::addColumn<int>("version");
-    QTest::addColumn<int>("silentAbove");
-    QTest::addColumn<int>("tooBigAbove");
-    QTest::addColumn<int>("answersFirst");
-    QTest::addColumn<bool>("bulkSilent");
-    QTest::addColumn<int>("largestLater"); // objects in one request of the second poll
-    QTest::newRow("version 1") << 1 << 1000 << 1000 << 1000 << false << 20;
-    QTest::newRow("version 2c") << 2 << 1000 << 1000 << 1000 << false << 20;
-    QTest::newRow("one object at a time, version 1") << 1 << 1 << 1000 << 1000 << false << 1;
-    QTest::newRow("one object at a time") << 2 << 1 << 1000 << 1000 << false << 1;
-    QTest::newRow("too big above 3") << 2 << 1000 << 3 << 1000 << false << 2;
-    QTest::newRow("answers the first only") << 2 << 1000 << 1000 << 1 << false << 1;
-    QTest::newRow("silent at GETBULK") << 2 << 1000 << 1000 << 1000 << true << 20;
-}
-
-// Whatever the agent's habits: the same reading, within the time of a poll, and the next poll does
-// not try in vain again.
-void tst_SnmpReading::polls()
-{
-    QFETCH(int, version);
-    QFETCH(int, silentAbove);
-    QFETCH(int, tooBigAbove);
-    QFETCH(int, answersFirst);
-    QFETCH(bool, bulkSilent);
-    QFETCH(int, largestLater);
-
-    SnmpTable table = threePhase();
-    table.silentAbove = silentAbove;
-    table.tooBigAbove = tooBigAbove;
-    table.answersFirst = answersFirst;
-    table.bulkSilent = bulkSilent;
-    table.failing = {SnmpTable::oid("2.7.0")};
-    table.circular = {SnmpTable::oid("4.4.1.5.3")};
-    SnmpTable readable = threePhase();
-    readable.removeBelow("2.7.0");
-    const QMap<QString, QString> expected = describe(readingFromSnmp(readable.objects));
-
-    SnmpMemory memory;
-    SnmpPoll first(pollLimits(version), memory);
-    const milliseconds waited = hold(first, table, version);
-    QVERIFY2(waited <= milliseconds(8000), qPrintable(QString::number(waited.count())));
-    QCOMPARE(first.result().state, LinkState::Live);
-    QCOMPARE(describe(first.result().reading), expected);
-
-    table.largest = 0;
-    SnmpPoll second(pollLimits(version), memory);
-    QCOMPARE(hold(second, table, version), milliseconds(0));
-    QCOMPARE(table.largest, largestLater);
-    QCOMPARE(describe(second.result().reading), expected);
-}
-
-void tst_SnmpReading::remembersWhatIsMissing()
-{
-    SnmpTable table = threePhase();
-    for (const char* subtree : {"9", "2.1.0", "4.1.0", "1.3.6.1.2.1.1.6"})
-        table.removeBelow(subtree);
-    SnmpMemory memory;
-    QCOMPARE(pollOnce(table, memory, 1).state, LinkState::Live);
-    const int first = table.requests;
-    table.requests = 0;
-    table.load("4.1.0 i 5\n9.1.0 i 230"); // the agent has started up meanwhile
-    const PollResult later = pollOnce(table, memory, 1);
-    QVERIFY(table.requests < first - 8);
-    QCOMPARE(later.reading.outputSource, OutputSource::Battery); // never given up
-    QVERIFY(!later.reading.ratedInputVoltage);                   // asked for again after a while
-    for (int i = 0; i < 60; ++i)
-        pollOnce(table, memory, 1);
-    QVERIFY(pollOnce(table, memory, 1).reading.ratedInputVoltage);
-}
-
-void tst_SnmpReading::noticesARestart()
-{
-    SnmpTable table = threePhase();
-    table.removeBelow("9");
-    SnmpMemory memory;
-    pollOnce(table, memory, 1);
-    table.load("1.3.6.1.2.1.1.3.0 i 100\n9.1.0 i 230");
-    pollOnce(table, memory, 1);
-    QVERIFY(pollOnce(table, memory, 1).reading.ratedInputVoltage);
-}
-
-void tst_SnmpReading::tellsWhyThereIsNoReading_data()
-{
-    QTest::addColumn<QByteArray>("objects");
-    QTest::addColumn<bool>("silent");
-    QTest::addColumn<LinkState>("state");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("silence") << QByteArray() << true << LinkState::Lost << "nothing at ups:161";
-    QTest::newRow("another device") << QByteArray("1.3.6.1.2.1.1.3.0 i 1\n1.3.6.1.2.1.1.5.0 t p")
-                                    << false << LinkState::Refused << "not a UPS";
-    QTest::newRow("an empty agent") << QByteArray() << false << LinkState::Refused << "not a UPS";
-    QTest::newRow("source unknown") << QByteArray("2.4.0 i 50") << false << LinkState::Live << "";
-}
-
-void tst_SnmpReading::tellsWhyThereIsNoReading()
-{
-    QFETCH(QByteArray, objects);
-    QFETCH(bool, silent);
-    QFETCH(LinkState, state);
-    QFETCH(QString, message);
-    for (const int version : {1, 2}) {
-        SnmpTable table;
-        table.load(objects);
-        table.silent = silent;
-        SnmpMemory memory;
-        const PollResult result = pollOnce(table, memory, version);
-        QCOMPARE(result.state, state);
-        QVERIFY2(result.message.contains(message), qPrintable(result.message));
-        QCOMPARE(result.reading.outputSource, OutputSource::Other);
-    }
-}
-
-namespace
-{
-
-using Prepare = std::function<void(SnmpTable&)>;
-
 // A UPS that does as told: tests begin, countdowns run.
 void obey(SnmpTable& table)
 {
@@ -388,167 +55,371 @@ void obey(SnmpTable& table)
 
 } // namespace
 
-void tst_SnmpReading::commands_data()
+class tst_SnmpReading : public QObject
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<Prepare>("prepare");
-    QTest::addColumn<CommandOutcome>("outcome");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<int>("sets");
-    QTest::addColumn<QByteArray>("result"); // lines that the agent holds afterwards
-    const auto row = [](const char* title, const char* name, const char* value, Prepare prepare,
-                        CommandOutcome outcome, const char* message, int sets,
-                        const char* result = "") {
-        QTest::newRow(title) << QString(name) << QString(value) << prepare << outcome
-                             << QString(message) << sets << QByteArray(result);
-    };
-    using Outcome = CommandOutcome;
-    const auto nothing = [](SnmpTable&) {};
-    row("self-test", "self-test", "", nothing, Outcome::Done, "begun", 1,
-        "7.1.0 o 1.3.6.1.2.1.33.1.7.7.4");
-    row("discharge test", "discharge-test", "", nothing, Outcome::Done, "begun", 1,
-        "7.1.0 o 1.3.6.1.2.1.33.1.7.7.5");
-    row(
-        "no spin lock", "self-test", "", [](SnmpTable& t) { t.removeBelow("7.2"); }, Outcome::Done,
-        "begun", 1);
-    row(
-        "test already running", "self-test", "", [](SnmpTable& t) { t.load("7.3.0 i 5"); },
-        Outcome::Refused, "already", 0);
-    row(
-        "test over before the first look", "self-test", "",
-        [](SnmpTable& t) { t.onSet = [&t](const SnmpVariable&) { t.load("7.5.0 i 480000"); }; },
-        Outcome::Done, "ended", 1);
-    row(
-        "test fails at once", "self-test", "",
-        [](SnmpTable& t) { t.onSet = [&t](const SnmpVariable&) { t.load("7.3.0 i 3"); }; },
-        Outcome::Refused, "failed", 1);
-    row(
-        "test accepted without effect", "self-test", "", [](SnmpTable& t) { t.onSet = nullptr; },
-        Outcome::NoAnswer, "no effect", 1);
-    row(
-        "no tests", "self-test", "", [](SnmpTable& t) { t.removeBelow("7"); }, Outcome::NotOffered,
-        "no test objects", 0);
-    row(
-        "cancel", "cancel-test", "", [](SnmpTable& t) { t.load("7.3.0 i 5"); }, Outcome::Done,
-        "ended", 1, "7.1.0 o 1.3.6.1.2.1.33.1.7.7.2");
-    row("cancel without a test", "cancel-test", "", nothing, Outcome::Refused, "No test", 0);
+    Q_OBJECT
 
-    row("shutdown", "shutdown", "", nothing, Outcome::Done, "20 s", 1, "8.1.0 i 1\n8.2.0 i 20");
-    row(
-        "shutdown of another type", "shutdown", "", [](SnmpTable& t) { t.load("8.1.0 i 2"); },
-        Outcome::Done, "20 s", 2, "8.1.0 i 1\n8.2.0 i 20");
-    row("standby of minutes", "standby", "5", nothing, Outcome::Done, "300 s", 1, "8.4.0 i 300");
-    row("standby of hours", "standby", "120", nothing, Outcome::Done, "20 s", 2,
-        "8.3.0 i 7200\n8.2.0 i 20");
-    row(
-        "short standby without reboot", "standby", "5", [](SnmpTable& t) { t.removeBelow("8.4"); },
-        Outcome::Done, "20 s", 2, "8.3.0 i 300\n8.2.0 i 20");
-    row(
-        "wake-up", "wake-up", "", [](SnmpTable& t) { t.load("4.1.0 i 2"); }, Outcome::Done, "", 1,
-        "8.3.0 i 0");
-    row("restart", "restart", "", nothing, Outcome::Done, "60 s", 1, "8.4.0 i 60");
-    row(
-        "output off at once", "shutdown", "",
-        [](SnmpTable& t) {
-            t.onSet = [&t](const SnmpVariable&) { t.load("4.1.0 i 2\n8.2.0 i -1"); };
-        },
-        Outcome::Done, "off", 1);
-    row(
-        "no shutdown object", "shutdown", "", [](SnmpTable& t) { t.removeBelow("8"); },
-        Outcome::NotOffered, "no object", 0);
-
-    const auto error = [](int status) { return [status](SnmpTable& t) { t.setError = status; }; };
-    row("read-only community", "shutdown", "", error(SnmpNoAccess), Outcome::Refused,
-        "community needs write access", 1, "8.2.0 i -1");
-    row("read-only community, version 1", "shutdown", "", error(SnmpNoSuchName), Outcome::Refused,
-        "write access", 1);
-    row("not writable", "restart", "", error(SnmpNotWritable), Outcome::Refused, "write access", 1);
-    row("wrong value", "restart", "", error(SnmpWrongValue), Outcome::Refused, "accept the value",
-        1);
-    row("general error", "wake-up", "", error(SnmpGenErr), Outcome::Refused, "cannot do this now",
-        1);
-    row(
-        "test refused", "self-test", "",
-        [](SnmpTable& t) { t.setError = SnmpInconsistentValue, t.setErrorIndex = 2; },
-        Outcome::Refused, "cannot do this now", 1);
-    row(
-        "an error in the value only", "shutdown", "",
-        [](SnmpTable& t) { t.setSaysNoInstance = true; }, Outcome::Refused, "write access", 1);
-
-    row(
-        "no answer, but carried out", "shutdown", "", [](SnmpTable& t) { t.setSilent = true; },
-        Outcome::Done, "20 s", 1);
-    row(
-        "no answer, no effect", "self-test", "",
-        [](SnmpTable& t) { t.setSilent = true, t.onSet = nullptr; }, Outcome::NoAnswer,
-        "not sent again", 1);
-    row(
-        "no answer to the first of two steps", "standby", "120",
-        [](SnmpTable& t) { t.setSilent = true; }, Outcome::NoAnswer, "was not sent", 1,
-        "8.2.0 i -1");
-    row(
-        "silent agent", "shutdown", "", [](SnmpTable& t) { t.silent = true; }, Outcome::NoAnswer,
-        "nothing was set", 0);
-    row(
-        "second step refused: the first is taken back", "standby", "120",
-        [](SnmpTable& t) { t.refusing = {UpsMib::shutdownAfterDelay}; }, Outcome::Refused,
-        "cannot do this now", 3, "8.3.0 i -1\n8.2.0 i -1");
-}
-
-void tst_SnmpReading::commands()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, value);
-    QFETCH(Prepare, prepare);
-    QFETCH(CommandOutcome, outcome);
-    QFETCH(QString, message);
-    QFETCH(int, sets);
-    QFETCH(QByteArray, result);
-
-    SnmpTable table = threePhase();
-    obey(table);
-    prepare(table);
-    UpsCommand command = *commandFromName(name, value).command;
-    command.id = 42;
-    SnmpCommand::Limits limits;
-    limits.account = QStringLiteral("community");
-    SnmpCommand dialogue(command, limits);
-    hold(dialogue, table);
-
-    QCOMPARE(dialogue.result().message.contains(message) ? message : dialogue.result().message,
-             message);
-    QCOMPARE(dialogue.result().outcome, outcome);
-    QCOMPARE(dialogue.result().id, quint64(42));
-    QCOMPARE(table.sets, sets);
-    SnmpTable expected;
-    expected.load(result);
-    for (const auto& object : expected.objects) {
-        QCOMPARE(table.objects[object.first].integer, object.second.integer);
-        QCOMPARE(table.objects[object.first].oid, object.second.oid);
+private slots:
+    void readsEverything()
+    {
+        const QMap<QString, QString> r = describe(readingFromSnmp(threePhase().objects));
+        const QMap<QString, QString> expected{
+            {"battery", "9"},
+            {"source", "3"},
+            {"seconds", "0"},
+            {"runtime", "2520"},
+            {"charge", "97"},
+            {"batteryVoltage", "272.8"},
+            {"batteryCurrent", "-1.5"},
+            {"temperature", "24"},
+            {"lineBads", "7"},
+            {"input", "3: 229/230/231 V 6.5/6.6/6.7 A 49.9/50/50.1 Hz 1310/1320/1330 W -/-/- %"},
+            {"output", "3: 219/220/221 V 7.2/5.4/8.3 A 50/50/50 Hz 1316/1004/1728 W 24/18/28 %"},
+            {"bypass", "3: 232/233/234 V 0.1/0.2/0.3 A 49.8/49.8/49.8 Hz 10/20/30 W -/-/- %"},
+            {"ratings", "230 50 220 50 60000 54000 300 184 265"},
+            {"beeper", "2"},
+            {"alarms", "16 1.3.6.1.4.1.99999.1.5"},
+            {"names", "Example Power|Tower 60|UPS West|4.2|1.0.7|racks 1-4|Hall 2"},
+        };
+        for (auto it = expected.begin(); it != expected.end(); ++it)
+            QCOMPARE(it.key() + ' ' + r[it.key()], it.key() + ' ' + it.value());
     }
-}
 
-// Of two who start a test at once, the slower one looks again instead of giving up.
-void tst_SnmpReading::retriesTheTestLock()
-{
-    SnmpTable table = threePhase();
-    obey(table);
-    table.setError = SnmpInconsistentValue;
-    table.setErrorIndex = 1;
-    UpsCommand command;
-    SnmpCommand::Limits limits;
-    SnmpCommand dialogue(command, limits);
-    while (const std::optional<SnmpRequest> request = dialogue.next()) {
-        dialogue.take(*table.answer(*request, 2));
-        if (table.sets == 1) {
-            table.setError = SnmpNoError;
-            table.load("7.2.0 i 12");
+    void reads_data()
+    {
+        QTest::addColumn<QByteArray>("remove"); // subtree of the three-phase UPS
+        QTest::addColumn<QByteArray>("add");    // lines put in its place
+        QTest::addColumn<QString>("what");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* name, const char* remove, const char* add, const char* what,
+                            const char* expected) {
+            QTest::newRow(name) << QByteArray(remove) << QByteArray(add) << QString(what)
+                                << QString(expected);
+        };
+        row("unknown: -1", "2.3.0", "2.3.0 i -1", "runtime", "-");
+        row("unknown: 65535", "2.6.0", "2.6.0 i 65535", "batteryCurrent", "-");
+        row("unknown: 655350", "2.5.0", "2.5.0 i 655350", "batteryVoltage", "-");
+        row("null is absent", "2.7.0", "2.7.0 n", "temperature", "-");
+        row("digits in a text are a number", "2.3.0", "2.3.0 t  042 ", "runtime", "2520");
+        row("a number is no text", "1.2.0", "1.2.0 i 5", "names",
+            "Example Power||UPS West|4.2|1.0.7|racks 1-4|Hall 2");
+        row("empty name: that of the system", "1.5.0", "1.5.0 t ", "names",
+            "Example Power|Tower 60|card-1|4.2|1.0.7|racks 1-4|Hall 2");
+        row("control characters go", "1.1.0", "1.1.0 t A\x1b[1mB", "names",
+            "A[1mB|Tower 60|UPS West|4.2|1.0.7|racks 1-4|Hall 2");
+
+        row("source 8", "4.1.0", "4.1.0 i 8", "source", "1");
+        row("source is null", "4.1.0", "4.1.0 n", "source", "1");
+
+        row("low comes before a test", "2.1.0", "2.1.0 i 3\n7.3.0 i 5", "battery", "3");
+        row("a test comes before discharge", "7.3.0", "7.3.0 i 5\n4.1.0 i 5", "battery", "5");
+        row("discharge", "4.1.0", "4.1.0 i 5", "battery", "8");
+
+        row("on battery: seconds count", "4.1.0", "4.1.0 i 5\n2.2.0 i 12", "seconds", "12");
+        row("on mains: the last outage does not", "2.2.0", "2.2.0 i 12", "seconds", "0");
+        row("on battery without the object", "2.2.0", "4.1.0 i 5", "seconds", "-");
+
+        row("one line, phantom rows", "3.2.0", "3.2.0 i 1", "input",
+            "1: 229/-/- V 6.5/-/- A 49.9/-/- Hz 1310/-/- W -/-/- %");
+        row("no bypass, but rows of zeros", "5",
+            "5.1.0 i 0\n5.2.0 i 0\n5.3.1.2.1 i 0\n5.3.1.2.2 i 0", "bypass",
+            "0: -/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
+        row("no line counted, but voltage", "5.2.0", "5.2.0 i 0", "bypass",
+            "3: 232/233/234 V 0.1/0.2/0.3 A 49.8/49.8/49.8 Hz 10/20/30 W -/-/- %");
+        row("lines without a count", "3.2.0", "", "input",
+            "3: 229/230/231 V 6.5/6.6/6.7 A 49.9/50/50.1 Hz 1310/1320/1330 W -/-/- %");
+        row("rows of null are no lines", "3",
+            "3.3.1.3.1 i 2360\n3.3.1.3.2 n\n3.3.1.3.3 n\n3.3.1.4.1 n", "input",
+            "1: 2360/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
+        row("longer index: the first part is the line", "3",
+            "3.2.0 i 1\n3.3.1.2.1.0 i 600\n3.3.1.3.1.0 i 224", "input",
+            "1: 224/-/- V -/-/- A 60/-/- Hz -/-/- W -/-/- %");
+        row("lines 0 and 4 do not exist", "3", "3.3.1.3.0 i 1\n3.3.1.3.1 i 230\n3.3.1.3.4 i 4",
+            "input", "1: 230/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
+
+        row("rows of zero identifiers are empty", "6.2", "6.2.1.2.1 o 0.0\n6.2.1.2.2 o 0", "alarms",
+            " ");
+        row("the same alarm twice", "6.2",
+            "6.2.1.2.22 o 1.3.6.1.2.1.33.1.6.3.1\n6.2.1.2.23 o 1.3.6.1.2.1.33.1.6.3.1", "alarms",
+            "1 ");
+        row("alarm 24 and one beyond", "6.2",
+            "6.2.1.2.1 o 1.3.6.1.2.1.33.1.6.3.24\n6.2.1.2.2 o 1.3.6.1.2.1.33.1.6.3.25", "alarms",
+            "24 1.3.6.1.2.1.33.1.6.3.25");
+        row("an identifier as text", "6.2", "6.2.1.2.1 t .1.3.6.1.2.1.33.1.6.3.2", "alarms", "2 ");
+        row("a failed test is an alarm", "7.3.0", "7.3.0 i 3", "alarms",
+            "16,19 1.3.6.1.4.1.99999.1.5");
+        row("beeper out of range", "9.8.0", "9.8.0 i 0", "beeper", "-");
+    }
+    void reads()
+    {
+        QFETCH(QByteArray, remove);
+        QFETCH(QByteArray, add);
+        QFETCH(QString, what);
+        QFETCH(QString, expected);
+
+        SnmpTable table = threePhase();
+        table.removeBelow(remove.constData());
+        table.load(add);
+        QCOMPARE(describe(readingFromSnmp(table.objects))[what], expected);
+    }
+
+    // Odd lengths and types in every place that is looked at.
+    void survivesAnyMap()
+    {
+        const SnmpTable table = threePhase();
+        const SnmpValue odd[] = {SnmpValue::null(),
+                                 SnmpValue::text({}),
+                                 SnmpValue::objectId({}),
+                                 SnmpValue::text(QByteArray(100000, '\xff')),
+                                 SnmpValue::number(std::numeric_limits<qint64>::min()),
+                                 SnmpValue::objectId(SnmpOid(200, 4294967295u))};
+        for (const SnmpValue& value : odd) {
+            SnmpValues values;
+            for (const auto& object : table.objects) {
+                values[object.first] = value;
+                values[object.first + SnmpOid{0, 4294967295u}] = value;
+                values[SnmpOid(object.first.begin(), object.first.end() - 1)] = value;
+            }
+            const UpsReading reading = readingFromSnmp(values);
+            QCOMPARE(reading.outputSource, OutputSource::Other);
+            QVERIFY(reading.manufacturer.size() <= 255);
+        }
+        QVERIFY(!hasUpsObjects({}));
+    }
+
+    // Whatever the agent's habits: the same reading, within the time of a poll, and the next poll
+    // does not try in vain again.
+    void polls()
+    {
+        const struct {
+            const char* name;
+            int version;
+            int silentAbove;
+            int tooBigAbove;
+            int answersFirst;
+            bool bulkSilent;
+            int largestLater; // objects in one request of the second poll
+        } rows[] = {
+            {"version 1", 1, 1000, 1000, 1000, false, 20},
+            {"version 2c", 2, 1000, 1000, 1000, false, 20},
+            {"one object at a time, version 1", 1, 1, 1000, 1000, false, 1},
+            {"one object at a time", 2, 1, 1000, 1000, false, 1},
+            {"too big above 3", 2, 1000, 3, 1000, false, 2},
+            {"answers the first only", 2, 1000, 1000, 1, false, 1},
+            {"silent at GETBULK", 2, 1000, 1000, 1000, true, 20},
+        };
+        SnmpTable readable = threePhase();
+        readable.removeBelow("2.7.0");
+        const QMap<QString, QString> expected = describe(readingFromSnmp(readable.objects));
+        for (const auto& row : rows) {
+            SnmpTable table = threePhase();
+            table.silentAbove = row.silentAbove;
+            table.tooBigAbove = row.tooBigAbove;
+            table.answersFirst = row.answersFirst;
+            table.bulkSilent = row.bulkSilent;
+            table.failing = {SnmpTable::oid("2.7.0")};
+            table.circular = {SnmpTable::oid("4.4.1.5.3")};
+
+            SnmpMemory memory;
+            SnmpPoll first(pollLimits(row.version), memory);
+            QVERIFY2(hold(first, table, row.version) <= milliseconds(8000), row.name);
+            QVERIFY2(first.result().state == LinkState::Live, row.name);
+            QVERIFY2(describe(first.result().reading) == expected, row.name);
+
+            table.largest = 0;
+            SnmpPoll second(pollLimits(row.version), memory);
+            QVERIFY2(hold(second, table, row.version) == milliseconds(0), row.name);
+            QVERIFY2(table.largest == row.largestLater, row.name);
+            QVERIFY2(describe(second.result().reading) == expected, row.name);
         }
     }
-    QCOMPARE(table.sets, 2);
-    QCOMPARE(dialogue.result().outcome, CommandOutcome::Done);
-}
+
+    void remembersWhatIsMissing()
+    {
+        SnmpTable table = threePhase();
+        for (const char* subtree : {"9", "2.1.0", "4.1.0", "1.3.6.1.2.1.1.6"})
+            table.removeBelow(subtree);
+        SnmpMemory memory;
+        QCOMPARE(pollOnce(table, memory, 1).state, LinkState::Live);
+        const int first = table.requests;
+        table.requests = 0;
+        table.load("4.1.0 i 5\n9.1.0 i 230"); // the agent has started up meanwhile
+        const PollResult later = pollOnce(table, memory, 1);
+        QVERIFY(table.requests < first - 8);
+        QCOMPARE(later.reading.outputSource, OutputSource::Battery); // never given up
+        QVERIFY(!later.reading.ratedInputVoltage); // asked for again after a while
+        for (int i = 0; i < 60; ++i)
+            pollOnce(table, memory, 1);
+        QVERIFY(pollOnce(table, memory, 1).reading.ratedInputVoltage);
+    }
+
+    void noticesARestart()
+    {
+        SnmpTable table = threePhase();
+        table.removeBelow("9");
+        SnmpMemory memory;
+        pollOnce(table, memory, 1);
+        table.load("1.3.6.1.2.1.1.3.0 i 100\n9.1.0 i 230");
+        pollOnce(table, memory, 1);
+        QVERIFY(pollOnce(table, memory, 1).reading.ratedInputVoltage);
+    }
+
+    void tellsWhyThereIsNoReading()
+    {
+        const struct {
+            const char* objects;
+            bool silent;
+            LinkState state;
+            const char* message;
+        } rows[] = {
+            {"", true, LinkState::Lost, "nothing at ups:161"},
+            {"1.3.6.1.2.1.1.3.0 i 1\n1.3.6.1.2.1.1.5.0 t p", false, LinkState::Refused,
+             "not a UPS"},
+            {"", false, LinkState::Refused, "not a UPS"},
+            {"2.4.0 i 50", false, LinkState::Live, ""},
+        };
+        for (const auto& row : rows) {
+            for (const int version : {1, 2}) {
+                SnmpTable table;
+                table.load(row.objects);
+                table.silent = row.silent;
+                SnmpMemory memory;
+                const PollResult result = pollOnce(table, memory, version);
+                QCOMPARE(result.state, row.state);
+                QVERIFY2(result.message.contains(row.message), qPrintable(result.message));
+                QCOMPARE(result.reading.outputSource, OutputSource::Other);
+            }
+        }
+    }
+
+    void commands_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<Prepare>("prepare");
+        QTest::addColumn<CommandOutcome>("outcome");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<int>("sets");
+        QTest::addColumn<QByteArray>("result"); // lines that the agent holds afterwards
+        const auto row = [](const char* title, const char* name, const char* value,
+                            const Prepare& prepare, CommandOutcome outcome, const char* message,
+                            int sets, const char* result = "") {
+            QTest::newRow(title) << QString(name) << QString(value) << prepare << outcome
+                                 << QString(message) << sets << QByteArray(result);
+        };
+        using O = CommandOutcome;
+        using T = SnmpTable;
+        const Prepare none = [](T&) {};
+        const auto with = [](const char* lines) { return [=](T& t) { t.load(lines); }; };
+        const auto without = [](const char* root) { return [=](T& t) { t.removeBelow(root); }; };
+        const auto error = [](int status) { return [=](T& t) { t.setError = status; }; };
+        const auto onSet = [](const char* lines) { // what every SET does to the agent
+            return [=](T& t) { t.onSet = [&t, lines](const SnmpVariable&) { t.load(lines); }; };
+        };
+        const Prepare silent = [](T& t) { t.setSilent = true; };
+
+        row("self-test", "self-test", "", none, O::Done, "begun", 1,
+            "7.1.0 o 1.3.6.1.2.1.33.1.7.7.4");
+        row("discharge test", "discharge-test", "", none, O::Done, "begun", 1,
+            "7.1.0 o 1.3.6.1.2.1.33.1.7.7.5");
+        row("no spin lock", "self-test", "", without("7.2"), O::Done, "begun", 1);
+        row("test running", "self-test", "", with("7.3.0 i 5"), O::Refused, "already", 0);
+        row("test fails at once", "self-test", "", onSet("7.3.0 i 3"), O::Refused, "failed", 1);
+        row("without effect", "self-test", "", onSet(""), O::NoAnswer, "no effect", 1);
+        row("no tests", "self-test", "", without("7"), O::NotOffered, "no test objects", 0);
+        row("cancel", "cancel-test", "", with("7.3.0 i 5"), O::Done, "ended", 1,
+            "7.1.0 o 1.3.6.1.2.1.33.1.7.7.2");
+        row("cancel without a test", "cancel-test", "", none, O::Refused, "No test", 0);
+
+        row("shutdown of another type", "shutdown", "", with("8.1.0 i 2"), O::Done, "20 s", 2,
+            "8.1.0 i 1\n8.2.0 i 20");
+        row("standby of minutes", "standby", "5", none, O::Done, "300 s", 1, "8.4.0 i 300");
+        row("standby of hours", "standby", "120", none, O::Done, "20 s", 2,
+            "8.3.0 i 7200\n8.2.0 i 20");
+        row("no reboot", "standby", "5", without("8.4"), O::Done, "20 s", 2,
+            "8.3.0 i 300\n8.2.0 i 20");
+        row("wake-up", "wake-up", "", with("4.1.0 i 2"), O::Done, "", 1, "8.3.0 i 0");
+        row("restart", "restart", "", none, O::Done, "60 s", 1, "8.4.0 i 60");
+        row("off at once", "shutdown", "", onSet("4.1.0 i 2\n8.2.0 i -1"), O::Done, "off", 1);
+        row("no shutdown object", "shutdown", "", without("8"), O::NotOffered, "no object", 0);
+
+        row("read-only community", "shutdown", "", error(SnmpNoAccess), O::Refused,
+            "community needs write access", 1, "8.2.0 i -1");
+        row("the same in version 1", "shutdown", "", error(SnmpNoSuchName), O::Refused,
+            "write access", 1);
+        row("wrong value", "restart", "", error(SnmpWrongValue), O::Refused, "accept the value", 1);
+        row(
+            "error in the value only", "shutdown", "", [](T& t) { t.setSaysNoInstance = true; },
+            O::Refused, "write access", 1);
+
+        row("no answer, but carried out", "shutdown", "", silent, O::Done, "20 s", 1);
+        row(
+            "no answer, no effect", "self-test", "",
+            [](T& t) { t.setSilent = true, t.onSet = nullptr; }, O::NoAnswer, "not sent again", 1);
+        row("no answer to the first of two steps", "standby", "120", silent, O::NoAnswer,
+            "was not sent", 1, "8.2.0 i -1");
+        row(
+            "silent agent", "shutdown", "", [](T& t) { t.silent = true; }, O::NoAnswer,
+            "nothing was set", 0);
+        row(
+            "second step refused: the first is taken back", "standby", "120",
+            [](T& t) { t.refusing = {UpsMib::shutdownAfterDelay}; }, O::Refused,
+            "cannot do this now", 3, "8.3.0 i -1\n8.2.0 i -1");
+    }
+    void commands()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        QFETCH(Prepare, prepare);
+        QFETCH(CommandOutcome, outcome);
+        QFETCH(QString, message);
+        QFETCH(int, sets);
+        QFETCH(QByteArray, result);
+
+        SnmpTable table = threePhase();
+        obey(table);
+        prepare(table);
+        UpsCommand command = *commandFromName(name, value).command;
+        command.id = 42;
+        SnmpCommand::Limits limits;
+        limits.account = QStringLiteral("community");
+        SnmpCommand dialogue(command, limits);
+        hold(dialogue, table);
+
+        QCOMPARE(dialogue.result().message.contains(message) ? message : dialogue.result().message,
+                 message);
+        QCOMPARE(dialogue.result().outcome, outcome);
+        QCOMPARE(dialogue.result().id, quint64(42));
+        QCOMPARE(table.sets, sets);
+        SnmpTable expected;
+        expected.load(result);
+        for (const auto& object : expected.objects) {
+            QCOMPARE(table.objects[object.first].integer, object.second.integer);
+            QCOMPARE(table.objects[object.first].oid, object.second.oid);
+        }
+    }
+
+    // Of two who start a test at once, the slower one looks again instead of giving up.
+    void retriesTheTestLock()
+    {
+        SnmpTable table = threePhase();
+        obey(table);
+        table.setError = SnmpInconsistentValue;
+        table.setErrorIndex = 1;
+        UpsCommand command;
+        SnmpCommand::Limits limits;
+        SnmpCommand dialogue(command, limits);
+        while (const std::optional<SnmpRequest> request = dialogue.next()) {
+            dialogue.take(*table.answer(*request, 2));
+            if (table.sets == 1) {
+                table.setError = SnmpNoError;
+                table.load("7.2.0 i 12");
+            }
+        }
+        QCOMPARE(table.sets, 2);
+        QCOMPARE(dialogue.result().outcome, CommandOutcome::Done);
+    }
+};
 
 QTEST_APPLESS_MAIN(tst_SnmpReading)
 #include "tst_snmpreading.moc"
