@@ -1,7 +1,6 @@
 #include "nutserverfixture.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -10,13 +9,11 @@
 #include <QTest>
 
 #include <csignal>
-#include <functional>
 #include <pwd.h>
 #include <sys/prctl.h>
 #include <unistd.h>
 
-namespace
-{
+namespace {
 
 constexpr int kStartLimit = 10000; // ms
 constexpr int kMaxAge = 2;         // s until the server calls silent drivers stale
@@ -60,8 +57,7 @@ void sendSignal(const QProcess& process, int signal)
 
 NutServerFixture::NutServerFixture(const QStringList& recordings)
     : m_recordings(recordings)
-{
-}
+{}
 
 NutServerFixture::~NutServerFixture()
 {

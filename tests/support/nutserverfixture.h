@@ -24,7 +24,6 @@ public:
     // Empty when server and drivers run; otherwise what went wrong.
     QString start();
 
-    quint16 port() const { return m_port; }
     QString address(const QString& device) const; // nut://...
 
     bool startServer();
