@@ -131,57 +131,42 @@ private slots:
         }
     }
 
-    void faults_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("line");
-        QTest::addColumn<QString>("part");
-        QTest::addColumn<bool>("error");
-        const auto error = [](const char* name, const QByteArray& bytes, int line,
-                              const char* part) {
-            QTest::newRow(name) << bytes << line << part << true;
-        };
-        const auto warning = [](const char* name, const QByteArray& bytes, int line,
-                                const char* part) {
-            QTest::newRow(name) << bytes << line << part << false;
-        };
-        const QByteArray dev = "[device A]\naddress = sim:\n";
-        error("critical above low", "[thresholds]\ncharge-low = 10\ncharge-critical = 11\n", 3,
-              "10");
-        error("store unknown", "[secrets]\nstore = paper\n", 2, "keychain or file");
-        error("device without name", "[device]\naddress = sim:\n", 1, "needs a name");
-        error("device without address", "[device A]\n", 1, "no address");
-        error("bad address", "[device A]\naddress = ftp://x\n", 2, "left out");
-        error("secret in the address", "[device A]\naddress = snmp://a:b@h\n", 2, "secrets");
-        error("switch", dev + "shutdown-whole-ups = maybe\n", 3, "yes or no");
-        error("seed", dev + "seed = -1\n", 3, "seed");
-        error("factor 0", dev + "scale.input.voltage = 0\n", 3, "above 0");
-        error("factor with comma", dev + "scale.input.voltage = 0,1\n", 3, "above 0");
-        error("control character in a name", "[device \"a\\n\"]\n", 1, "control");
-        error("blank at a name's end", "[device \"a \"]\n", 1, "blank");
-        error("operator without hash", "[operator a]\nlevel = 1\n", 1, "hash");
-        error("plain password", "[operator a]\nlevel = 1\nhash = sesame\n", 3, "no valid hash");
-        error("hash that takes 4 TiB",
-              "[operator a]\nlevel = 1\n" + QByteArray(kHash).replace("m=8", "m=4294967295"), 3,
-              "no valid hash");
-        warning("unknown key", "[poll]\nintervall = 5\n", 2, "interval");
-        warning("unknown quantity", dev + "scale.volts = 2\n", 3, "input.voltage");
-        warning("unknown section", "[colours]\nred = 1\n", 1, "colours");
-        warning("name that is not wanted", "[poll \"x\"]\ninterval = 0\n", 1, "no name");
-        warning("secret in the file", dev + "password = sesame\n", 3, "keychain");
-    }
     void faults()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(int, line);
-        QFETCH(QString, part);
-        QFETCH(bool, error);
-        const ConfigFaults faults = read(bytes).faults();
-        QCOMPARE(faults.size(), 1);
-        QCOMPARE(faults[0].line, line);
-        QVERIFY2(faults[0].text.contains(part), qPrintable(faults[0].text));
-        QVERIFY(!faults[0].text.contains("sesame"));
-        QCOMPARE(hasErrors(faults), error);
+        const auto only = [](const QByteArray& bytes, int line, const char* part, bool error) {
+            const ConfigFaults found = read(bytes).faults();
+            return found.size() == 1 && found[0].line == line && found[0].text.contains(part) &&
+                   !found[0].text.contains("sesame") && hasErrors(found) == error;
+        };
+        const auto error = [&](const QByteArray& bytes, int line, const char* part) {
+            return only(bytes, line, part, true);
+        };
+        const auto warning = [&](const QByteArray& bytes, int line, const char* part) {
+            return only(bytes, line, part, false);
+        };
+        const QByteArray dev = "[device A]\naddress = sim:\n";
+        QVERIFY(error("[thresholds]\ncharge-low = 10\ncharge-critical = 11\n", 3, "10"));
+        QVERIFY(error("[secrets]\nstore = paper\n", 2, "keychain or file"));
+        QVERIFY(error("[device]\naddress = sim:\n", 1, "needs a name"));
+        QVERIFY(error("[device A]\n", 1, "no address"));
+        QVERIFY(error("[device A]\naddress = ftp://x\n", 2, "left out"));
+        QVERIFY(error("[device A]\naddress = snmp://a:b@h\n", 2, "secrets"));
+        QVERIFY(error(dev + "shutdown-whole-ups = maybe\n", 3, "yes or no"));
+        QVERIFY(error(dev + "seed = -1\n", 3, "seed"));
+        QVERIFY(error(dev + "scale.input.voltage = 0\n", 3, "above 0"));
+        QVERIFY(error(dev + "scale.input.voltage = 0,1\n", 3, "above 0"));
+        QVERIFY(error("[device \"a\\n\"]\n", 1, "control"));
+        QVERIFY(error("[device \"a \"]\n", 1, "blank"));
+        QVERIFY(error("[operator a]\nlevel = 1\n", 1, "hash"));
+        QVERIFY(error("[operator a]\nlevel = 1\nhash = sesame\n", 3, "no valid hash"));
+        QVERIFY(
+            error("[operator a]\nlevel = 1\n" + QByteArray(kHash).replace("m=8", "m=4294967295"), 3,
+                  "no valid hash"));
+        QVERIFY(warning("[poll]\nintervall = 5\n", 2, "interval"));
+        QVERIFY(warning(dev + "scale.volts = 2\n", 3, "input.voltage"));
+        QVERIFY(warning("[colours]\nred = 1\n", 1, "colours"));
+        QVERIFY(warning("[poll \"x\"]\ninterval = 0\n", 1, "no name"));
+        QVERIFY(warning(dev + "password = sesame\n", 3, "keychain"));
     }
 
     void deviceEdits()

@@ -16,8 +16,6 @@ using S = OutputSource;
 Q_DECLARE_METATYPE(Alarms)
 Q_DECLARE_METATYPE(B)
 Q_DECLARE_METATYPE(S)
-Q_DECLARE_METATYPE(K)
-Q_DECLARE_METATYPE(std::optional<K>)
 
 namespace {
 
@@ -321,42 +319,36 @@ private slots:
         QCOMPARE(*player.ups().reading().batteryCurrent, 0.0);
     }
 
-    void refusals_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<std::optional<K>>("first"); // a command given before
-        QTest::addColumn<K>("kind");
-        QTest::addColumn<QString>("reason");
-        const auto row = [](const char* title, const char* name, std::optional<K> first, K kind,
-                            const char* reason) {
-            QTest::newRow(title) << QString(name) << first << kind << QString(reason);
-        };
-        const std::optional<K> none;
-        row("cancel without a test", "mains", none, K::CancelTest, "No test");
-        row("wake up while on", "mains", none, K::WakeUp, "on already");
-        row("test while testing", "mains", K::SelfTest, K::DischargeTest, "running already");
-        row("test on battery", "outage", none, K::SelfTest, "carries the load");
-        row("test on bypass", "bypass", none, K::SelfTest, "on bypass");
-        row("test while overloaded", "overload", none, K::SelfTest, "overloaded");
-        row("test while off", "mains", K::Restart, K::SelfTest, "is off");
-        row("test before a shutdown", "mains", K::Shutdown, K::SelfTest, "shutdown");
-        row("shutdown while off", "mains", K::Restart, K::Shutdown, "off already");
-        row("restart before a shutdown", "mains", K::Shutdown, K::Restart, "under way already");
-    }
     void refusals()
     {
-        QFETCH(QString, name);
-        QFETCH(std::optional<K>, first);
-        QFETCH(K, kind);
-        QFETCH(QString, reason);
-        ScenarioPlayer player = play(name);
-        if (first)
-            QVERIFY(player.ups().carryOut(commandOf(*first)).accepted);
-        const Alarms before = player.ups().reading().alarms;
-        const SimulatedUps::Reply reply = player.ups().carryOut(commandOf(kind));
-        QVERIFY(!reply.accepted);
-        QVERIFY2(reply.message.contains(reason), qPrintable(reply.message));
-        QCOMPARE(player.ups().reading().alarms, before);
+        const std::optional<K> none;
+        const struct {
+            const char* scenario;
+            std::optional<K> first; // a command given before
+            K kind;
+            const char* reason;
+        } rows[] = {
+            {"mains", none, K::CancelTest, "No test"},
+            {"mains", none, K::WakeUp, "on already"},
+            {"mains", K::SelfTest, K::DischargeTest, "running already"},
+            {"outage", none, K::SelfTest, "carries the load"},
+            {"bypass", none, K::SelfTest, "on bypass"},
+            {"overload", none, K::SelfTest, "overloaded"},
+            {"mains", K::Restart, K::SelfTest, "is off"},
+            {"mains", K::Shutdown, K::SelfTest, "shutdown"},
+            {"mains", K::Restart, K::Shutdown, "off already"},
+            {"mains", K::Shutdown, K::Restart, "under way already"},
+        };
+        for (const auto& row : rows) {
+            ScenarioPlayer player = play(row.scenario);
+            if (row.first)
+                QVERIFY(player.ups().carryOut(commandOf(*row.first)).accepted);
+            const Alarms before = player.ups().reading().alarms;
+            const SimulatedUps::Reply reply = player.ups().carryOut(commandOf(row.kind));
+            QVERIFY2(!reply.accepted, row.reason);
+            QVERIFY2(reply.message.contains(row.reason), qPrintable(reply.message));
+            QCOMPARE(player.ups().reading().alarms, before);
+        }
     }
 
     void selfTestLastsTenSeconds()
