@@ -25,7 +25,6 @@ namespace {
 constexpr int kAgents = 50;
 constexpr int kSilentAgents = 5;
 constexpr int kOneInSoManyIsUnreachable = 10;
-constexpr QSize kOverviewSize(1920, 1080);
 
 // What is asked of upsdesk.
 constexpr double kMostLateMs = 1000;
@@ -174,7 +173,7 @@ int main(int argc, char** argv)
     }
     window.openDevice(fleet.at(devices > 1 ? 1 : 0));
     window.show();
-    overview.resize(kOverviewSize);
+    overview.resize(window.size());
     overview.show();
     QObject::connect(&fleet, &Fleet::ticked, &overview, &OverviewPage::refreshAge);
 

@@ -1,11 +1,16 @@
 // One paint of each view that paints much, at the size that upsdesk gives it.
-// May touch: the views and QtTest.
+// May touch: the views, the overview with a simulated fleet, and QtTest.
 
 #include "datachart.h"
 #include "dynamicchart.h"
 #include "energyline.h"
 #include "globalvar.h"
 #include "threedynamicchart.h"
+
+#include "connectors/connectorfactory.h"
+#include "window/devicelistmodel.h"
+#include "window/overviewpage.h"
+#include "window/theme.h"
 
 #include <QtTest>
 
@@ -14,6 +19,7 @@ namespace {
 constexpr QSize kDiagramSize(775, 690);
 constexpr QSize kChartSize(720, 520);
 constexpr QSize kGaugeSize(200, 200);
+constexpr QSize kScreen(1920, 1080);
 constexpr int kLastRealTimeKey = 72;
 constexpr int kSamples = 1000; // more than a chart is wide
 
@@ -49,6 +55,30 @@ std::unique_ptr<QWidget> gauge()
     return view;
 }
 
+// Live devices, more than a screen shows.
+class Overview
+{
+public:
+    Overview()
+    {
+        DeviceSettings settings;
+        settings.address = *parseDeviceAddress(QStringLiteral("sim:three-phase")).address;
+        for (int i = 0; i < 100; ++i)
+            m_fleet.add(settings);
+        for (int i = 0; i < m_fleet.count(); ++i)
+            m_fleet.pollNow(m_fleet.at(i));
+        m_page.resize(kScreen);
+    }
+
+    QWidget& page() { return m_page; }
+    bool isLive() const { return m_fleet.at(m_fleet.count() - 1)->link() == LinkState::Live; }
+
+private:
+    Fleet m_fleet{makeConnector};
+    DeviceListModel m_model{m_fleet};
+    OverviewPage m_page{m_model};
+};
+
 } // namespace
 
 class BenchViews : public QObject
@@ -76,6 +106,17 @@ private slots:
             widget->render(&target);
         }
     }
+
+    void overview()
+    {
+        Overview overview;
+        QTRY_VERIFY(overview.isLive());
+        QPixmap target(kScreen);
+        QBENCHMARK
+        {
+            overview.page().render(&target);
+        }
+    }
 };
 
 int main(int argc, char** argv)
@@ -83,6 +124,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    applyTheme(Theme::Light);
     BenchViews bench;
     return QTest::qExec(&bench, argc, argv);
 }
