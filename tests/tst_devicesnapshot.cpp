@@ -37,8 +37,7 @@ private slots:
     void keyNamesByNumber();
 };
 
-namespace
-{
+namespace {
 
 using Fill = std::function<void(UpsReading&)>;
 
@@ -236,6 +235,8 @@ void TestDeviceSnapshot::deviceText_data()
     QTest::newRow("white space") << QByteArray("  a\r\n\tb ") << "a   b";
     QTest::newRow("text direction override")
         << QString(QChar(0x202e)).append("abc").toUtf8() << "abc";
+    QTest::newRow("cut at a blank")
+        << QByteArray(kMaxDeviceText - 1, 'x') + " y" << QString(kMaxDeviceText - 1, 'x');
     QTest::newRow("too long") << QByteArray(1000, 'x') << QString(kMaxDeviceText, 'x');
 }
 

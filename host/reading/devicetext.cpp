@@ -38,7 +38,7 @@ QString cleanDeviceText(const QString& raw)
     clean = clean.trimmed().left(kMaxDeviceText);
     if (!clean.isEmpty() && clean.at(clean.size() - 1).isHighSurrogate())
         clean.chop(1);
-    return clean;
+    return clean.trimmed(); // the cut may have bared a blank
 }
 
 Value plausible(double raw)
