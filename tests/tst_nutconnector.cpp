@@ -4,6 +4,7 @@
 #include "connectors/nut/nutserverlist.h"
 
 #include "support/lineserver.h"
+#include "support/nutanswers.h"
 #include "support/nutserverfixture.h"
 
 #include <QHostAddress>
@@ -58,32 +59,6 @@ CommandResult sendOnce(Connector& connector, CommandKind kind, int minutes = 0)
     if (!finished.wait(kPatience))
         return {};
     return finished.at(0).at(0).value<CommandResult>();
-}
-
-// The answers of a server with one device, "unit", in good order.
-QByteArray orderly(const QByteArray& line, const QByteArray& status = "OL")
-{
-    const auto list = [&](const QByteArray& query, const QByteArray& rows) {
-        return "BEGIN LIST " + query + '\n' + rows + "END LIST " + query + '\n';
-    };
-    const QByteArray query = QByteArray(line).replace("\"", "");
-    if (query == "LIST VAR unit")
-        return list("VAR unit", "VAR unit ups.status \"" + status + "\"\nVAR unit ups.id \"U\"\n");
-    if (query == "LIST CMD unit")
-        return list("CMD unit", "CMD unit shutdown.return\nCMD unit test.battery.start.quick\n");
-    if (query == "LIST RW unit")
-        return list("RW unit", "RW unit ups.delay.start \"30\"\n");
-    if (query == "LIST UPS")
-        return list("UPS", "UPS unit \"The only one\"\n");
-    if (query == "STARTTLS")
-        return "ERR FEATURE-NOT-CONFIGURED\n";
-    if (query.startsWith("USERNAME") || query.startsWith("PASSWORD") || query == "SET TRACKING ON")
-        return "OK\n";
-    if (query.startsWith("SET VAR") || query.startsWith("INSTCMD"))
-        return "OK TRACKING 17\n";
-    if (query.startsWith("GET TRACKING"))
-        return "SUCCESS\n";
-    return "ERR UNKNOWN-COMMAND\n";
 }
 
 QString addressOf(const LineServer& server, const QString& ups = "unit")
@@ -190,7 +165,7 @@ private slots:
         QCOMPARE(devices.at(1).name, QString("three-phase"));
         QCOMPARE(devices.at(1).description, QString("Test device three-phase"));
 
-        LineServer one([](const QByteArray& line) { return orderly(line); });
+        LineServer one([](const QByteArray& line) { return orderlyNutAnswer(line); });
         NutConnector only(settingsFor(addressOf(one, "")));
         QCOMPARE(stateOf(only), LinkState::Live);
     }
@@ -238,7 +213,7 @@ private slots:
         LineServer server([&](const QByteArray& line) {
             if (line.startsWith("GET TRACKING") && pending-- > 0)
                 return QByteArray("PENDING\n");
-            return orderly(line);
+            return orderlyNutAnswer(line);
         });
         NutConnector connector(settingsFor(addressOf(server), "operator", "secret"));
         const CommandResult result = sendOnce(connector, CommandKind::Standby, 10);
@@ -253,7 +228,8 @@ private slots:
     void aRefusedSettingStopsTheCommand()
     {
         LineServer server([](const QByteArray& line) {
-            return line.startsWith("SET VAR") ? QByteArray("ERR INVALID-VALUE\n") : orderly(line);
+            return line.startsWith("SET VAR") ? QByteArray("ERR INVALID-VALUE\n")
+                                              : orderlyNutAnswer(line);
         });
         NutConnector connector(settingsFor(addressOf(server), "operator", "secret"));
         const CommandResult result = sendOnce(connector, CommandKind::Standby, 10);
@@ -277,7 +253,7 @@ private slots:
         LineServer* self = nullptr;
         LineServer server([&](const QByteArray& line) {
             if (!line.startsWith(question))
-                return orderly(line);
+                return orderlyNutAnswer(line);
             if (answer.isEmpty())
                 QTimer::singleShot(0, self, &LineServer::closeConnections);
             return answer;
@@ -292,7 +268,7 @@ private slots:
 
     void aClosedConnectionCostsNoPoll()
     {
-        LineServer server([](const QByteArray& line) { return orderly(line); });
+        LineServer server([](const QByteArray& line) { return orderlyNutAnswer(line); });
         NutConnector connector(settingsFor(addressOf(server)));
         QCOMPARE(stateOf(connector), LinkState::Live);
         server.closeConnections();
@@ -321,7 +297,7 @@ private slots:
         QFETCH(QByteArray, answer);
         bool bad = true;
         LineServer server([&](const QByteArray& line) {
-            return bad && line.startsWith("LIST VAR") ? answer : orderly(line);
+            return bad && line.startsWith("LIST VAR") ? answer : orderlyNutAnswer(line);
         });
         NutConnector connector(settingsFor(addressOf(server)));
         const PollResult result = pollOnce(connector);
@@ -347,7 +323,7 @@ private slots:
         LineServer* self = nullptr;
         LineServer server([&](const QByteArray& line) {
             if (line != "STARTTLS")
-                return orderly(line);
+                return orderlyNutAnswer(line);
             QTimer::singleShot(50, self, [=] { self->write(later); });
             return "OK STARTTLS\n" + atOnce;
         });
@@ -362,7 +338,7 @@ private slots:
     void aDrippingAnswerIsLimited()
     {
         LineServer server([&](const QByteArray& line) {
-            return line.startsWith("LIST VAR") ? QByteArray("BEGIN LIST") : orderly(line);
+            return line.startsWith("LIST VAR") ? QByteArray("BEGIN LIST") : orderlyNutAnswer(line);
         });
         QTimer drip;
         connect(&drip, &QTimer::timeout, &server, [&] { server.write("x"); });
@@ -393,7 +369,7 @@ private slots:
     void timeOnBattery()
     {
         QByteArray status = "OL";
-        LineServer server([&](const QByteArray& line) { return orderly(line, status); });
+        LineServer server([&](const QByteArray& line) { return orderlyNutAnswer(line, status); });
         ClockedConnector connector(settingsFor(addressOf(server)));
         double now = 1000.5;
         connector.setClock([&] { return now; });

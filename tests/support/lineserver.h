@@ -26,6 +26,10 @@ public:
             ++connections;
             m_sockets << socket;
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] { read(socket); });
+            connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+                m_sockets.removeOne(socket);
+                socket->deleteLater();
+            });
         });
         listen(QHostAddress::LocalHost);
     }
@@ -39,7 +43,8 @@ public:
 
     void closeConnections()
     {
-        for (QTcpSocket* socket : qAsConst(m_sockets))
+        const auto sockets = m_sockets; // each takes itself off the list
+        for (QTcpSocket* socket : sockets)
             socket->abort();
     }
 
@@ -59,6 +64,7 @@ public:
 
     QList<QByteArray> lines; // all that came, in order
     int connections = 0;
+    bool closesAfterAnswers = false;
 
 private:
     void read(QTcpSocket* socket)
@@ -67,6 +73,8 @@ private:
             const QByteArray line = socket->readLine().trimmed();
             lines << line;
             socket->write(m_answer(line));
+            if (closesAfterAnswers)
+                socket->disconnectFromHost();
         }
     }
 

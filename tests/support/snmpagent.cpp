@@ -1,7 +1,6 @@
 #include "snmpagent.h"
 
-namespace
-{
+namespace {
 
 enum Tag : quint8 {
     Integer = 0x02,
@@ -25,8 +24,7 @@ class BerReader
 public:
     explicit BerReader(const QByteArray& bytes)
         : m_bytes(bytes)
-    {
-    }
+    {}
 
     bool atEnd() const { return m_at >= m_bytes.size(); }
     quint8 tag() const { return atEnd() ? 0 : static_cast<quint8>(m_bytes[m_at]); }
@@ -149,11 +147,11 @@ std::vector<SnmpVariable> readVariables(const QByteArray& list)
 
 } // namespace
 
-SnmpAgent::SnmpAgent(QObject* parent)
+SnmpAgent::SnmpAgent(QObject* parent, quint16 port)
     : QObject(parent)
     , m_socket(this)
 {
-    m_socket.bind(QHostAddress(QHostAddress::LocalHost));
+    m_socket.bind(QHostAddress(QHostAddress::LocalHost), port);
     connect(&m_socket, &QUdpSocket::readyRead, this, &SnmpAgent::receive);
 }
 
@@ -205,10 +203,10 @@ void SnmpAgent::answer(const QByteArray& packet, const QHostAddress& from, quint
     QByteArray list;
     for (const SnmpVariable& variable : error ? request.variables : reply->variables)
         list += ber(Sequence, ber(variable.oid) + ber(variable.value, walking));
-    m_socket.writeDatagram(
-        ber(Sequence,
-            ber(version) + ber(OctetString, community) +
-                ber(ResponsePdu, ber(id) + ber(qint64(reply->errorStatus)) +
-                                     ber(qint64(reply->errorIndex)) + ber(Sequence, list))),
-        from, port);
+    const QByteArray good = ber(
+        Sequence, ber(version) + ber(OctetString, community) +
+                      ber(ResponsePdu, ber(id) + ber(qint64(reply->errorStatus)) +
+                                           ber(qint64(reply->errorIndex)) + ber(Sequence, list)));
+    for (const QByteArray& datagram : spoil ? spoil(good) : QByteArrayList{good})
+        m_socket.writeDatagram(datagram, from, port);
 }

@@ -9,12 +9,15 @@
 
 #include <QUdpSocket>
 
+#include <functional>
+
 class SnmpAgent : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit SnmpAgent(QObject* parent = nullptr);
+    // port: 0 takes a free one.
+    explicit SnmpAgent(QObject* parent = nullptr, quint16 port = 0);
 
     quint16 port() const { return m_socket.localPort(); }
 
@@ -22,6 +25,8 @@ public:
     QByteArray community = "public";
     bool frozen = false; // keeps what it is asked and answers when it thaws
     void thaw();
+    // Datagrams to send in place of each good one; empty: the good one.
+    std::function<QByteArrayList(const QByteArray& good)> spoil;
 
 private:
     void receive();
