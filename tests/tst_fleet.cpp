@@ -110,6 +110,10 @@ void TestFleet::goodAnswersKeepTheirPlace()
     QCOMPARE(plan.dueMs(), qint64(11234));
     plan.succeeded(11234 + 12000); // late: two places are skipped
     QCOMPARE(plan.dueMs(), qint64(26234));
+    plan.hurry(23000); // out of turn: the next place stays
+    QCOMPARE(plan.dueMs(), qint64(23000));
+    plan.succeeded(23100);
+    QCOMPARE(plan.dueMs(), qint64(26234));
 }
 
 void TestFleet::firstPollsAreSpread()

@@ -25,7 +25,8 @@ void PollPlan::failed(qint64 nowMs)
 
 void PollPlan::nextPlaceAfter(qint64 nowMs)
 {
-    const qint64 passed = std::max<qint64>(nowMs - m_place, 0);
-    m_place += (passed / m_interval + 1) * m_interval;
+    // A poll out of turn leaves the place that is still to come.
+    if (m_place <= nowMs)
+        m_place += ((nowMs - m_place) / m_interval + 1) * m_interval;
     m_due = m_place;
 }
