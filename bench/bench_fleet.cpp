@@ -1,4 +1,4 @@
-// A fleet of SNMP devices on loopback, polled through the real fleet and connector with the windows
+// A fleet of SNMP devices on loopback, polled through the real fleet and connector with the window
 // open: is every poll on time, does the GUI thread stay free, how much CPU does it take?
 // May touch: everything of upsdesk, and the tests' agents.
 
@@ -6,10 +6,9 @@
 #include "meteredapplication.h"
 #include "timedconnector.h"
 
+#include "config/operatorsession.h"
 #include "connectors/connectorfactory.h"
-#include "window/devicelistmodel.h"
 #include "window/mainwindow.h"
-#include "window/overviewpage.h"
 #include "window/theme.h"
 
 #include <QCommandLineParser>
@@ -25,6 +24,8 @@ namespace {
 constexpr int kAgents = 50;
 constexpr int kSilentAgents = 5;
 constexpr int kOneInSoManyIsUnreachable = 10;
+
+constexpr QSize kScreen(1920, 1080);
 
 // What is asked of upsdesk.
 constexpr double kMostLateMs = 1000;
@@ -162,22 +163,22 @@ int main(int argc, char** argv)
     });
     EventLog log;
     CommandDesk desk(fleet, log, [] { return CommandDesk::Operator{}; });
-    MainWindow window(fleet, desk, log);
-    DeviceListModel model(fleet);
-    OverviewPage overview(model);
+    OperatorSession session;
+    MainWindow window(fleet, desk, log, session);
     for (int i = 0; i < devices; ++i) {
         bool reachable = true;
         const Device* device = fleet.add(settingsOf(i, agents, interval, reachable));
         watched.back().connector->device = device;
         watched.back().reachable = reachable;
     }
-    window.openDevice(fleet.at(devices > 1 ? 1 : 0));
+    Device* const shown = fleet.at(devices > 1 ? 1 : 0);
+    window.openDevice(shown); // makes its page
+    window.openOverview();
+    window.resize(kScreen);
     window.show();
-    overview.resize(window.size());
-    overview.show();
-    QObject::connect(&fleet, &Fleet::ticked, &overview, &OverviewPage::refreshAge);
 
-    // Building the windows is not polling: measured from when they have been painted.
+    // Building the window is not polling: measured from when it has been painted. The overview
+    // for one half of the time, a device for the other.
     qint64 from = 0;
     double cpuFrom = 0;
     QTimer::singleShot(0, [&] {
@@ -185,6 +186,7 @@ int main(int argc, char** argv)
         app.restart();
         from = FleetClock::system().monotonicMs();
         cpuFrom = cpuSeconds();
+        QTimer::singleShot(seconds * 500, &app, [&] { window.openDevice(shown); });
         QTimer::singleShot(seconds * 1000, Qt::PreciseTimer, &app, &QCoreApplication::quit);
     });
     QApplication::exec();
