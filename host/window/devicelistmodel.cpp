@@ -25,29 +25,47 @@ constexpr CountWord kCountWords[] = {
 DeviceListModel::DeviceListModel(Fleet& fleet, QObject* parent)
     : QAbstractListModel(parent)
     , m_fleet(fleet)
+    , m_rows(fleet.count())
 {
     m_flushTimer.setSingleShot(true);
     m_flushTimer.setInterval(kFlushMs);
     connect(&m_flushTimer, &QTimer::timeout, this, &DeviceListModel::flushDirty);
-    const auto reset = [this] {
-        beginResetModel();
-        m_dirty.clear();
-        endResetModel();
-        emit refreshed();
-    };
-    connect(&fleet, &Fleet::deviceAdded, this, reset);
-    connect(&fleet, &Fleet::deviceRemoved, this, reset);
-    connect(&fleet, &Fleet::deviceMoved, this, reset);
+    connect(&fleet, &Fleet::deviceAdded, this, &DeviceListModel::addRow);
+    connect(&fleet, &Fleet::deviceRemoved, this, &DeviceListModel::reset);
+    connect(&fleet, &Fleet::deviceMoved, this, &DeviceListModel::reset);
     connect(&fleet, &Fleet::devicePolled, this, [this](Device* device) {
         m_dirty.insert(device);
-        if (!m_flushTimer.isActive())
-            m_flushTimer.start();
+        flushLater();
     });
+}
+
+// A fleet is added device by device; a reset for each would cost the views their place, and time.
+void DeviceListModel::addRow(int row)
+{
+    beginInsertRows({}, row, row);
+    m_rows = m_fleet.count();
+    endInsertRows();
+    flushLater();
+}
+
+void DeviceListModel::reset()
+{
+    beginResetModel();
+    m_dirty.clear();
+    m_rows = m_fleet.count();
+    endResetModel();
+    emit refreshed();
+}
+
+void DeviceListModel::flushLater()
+{
+    if (!m_flushTimer.isActive())
+        m_flushTimer.start();
 }
 
 int DeviceListModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_fleet.count();
+    return parent.isValid() ? 0 : m_rows;
 }
 
 QVariant DeviceListModel::data(const QModelIndex& index, int role) const
@@ -104,7 +122,7 @@ Device* DeviceListModel::deviceAt(const QModelIndex& index)
 
 void DeviceListModel::flushDirty()
 {
-    for (int row = 0; row < m_fleet.count(); ++row)
+    for (int row = 0; row < m_rows; ++row)
         if (m_dirty.contains(m_fleet.at(row)))
             emit dataChanged(index(row), index(row));
     m_dirty.clear();

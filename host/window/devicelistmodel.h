@@ -37,9 +37,13 @@ signals:
     void refreshed();
 
 private:
+    void addRow(int row);
+    void reset();
+    void flushLater();
     void flushDirty();
 
     Fleet& m_fleet;
+    int m_rows; // as many as the views know of
     QSet<const Device*> m_dirty;
     QTimer m_flushTimer;
 };

@@ -48,7 +48,7 @@ OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     column->addWidget(m_counts);
     column->addWidget(m_tiles, 1);
     connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::showCounts);
-    connect(m_sorted, &QAbstractItemModel::modelReset, this, &OverviewPage::fitTiles);
+    connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::fitTilesToCount);
     showCounts();
 }
 
@@ -72,6 +72,14 @@ void OverviewPage::resizeEvent(QResizeEvent* event)
 void OverviewPage::setLargestScale(double scale)
 {
     m_largestScale = scale;
+    fitTiles();
+}
+
+void OverviewPage::fitTilesToCount()
+{
+    if (m_sorted->rowCount() == m_fittedCount)
+        return;
+    m_fittedCount = m_sorted->rowCount();
     fitTiles();
 }
 

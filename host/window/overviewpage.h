@@ -34,6 +34,7 @@ protected:
 private:
     void showCounts();
     void fitTiles();
+    void fitTilesToCount();
 
     DeviceListModel& m_model;
     DeviceSortModel* m_sorted;
@@ -41,6 +42,7 @@ private:
     QListView* m_tiles;
     QLabel* m_counts;
     double m_largestScale = 1.25;
+    int m_fittedCount = 0; // devices that the size of the tiles is for
 };
 
 #endif // OVERVIEWPAGE_H
