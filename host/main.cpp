@@ -33,7 +33,7 @@ struct WindowOptions {
     Theme theme = Theme::Light;
 };
 
-WindowOptions readOptions(const QApplication& app)
+std::optional<WindowOptions> readOptions()
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::translate(
@@ -53,9 +53,10 @@ WindowOptions readOptions(const QApplication& app)
                                 "sim:[NAME], nut://HOST[:PORT]/UPS, snmp://COMMUNITY@HOST[:PORT]; "
                                 "without one the configured devices, or else the simulator"),
         QStringLiteral("[ADDRESS...]"));
-    parser.process(app);
-    return {parser.positionalArguments(), parser.isSet(kiosk),
-            parser.isSet(dark) ? Theme::Dark : Theme::Light};
+    if (!readArguments(parser, QApplication::arguments()))
+        return {};
+    return WindowOptions{parser.positionalArguments(), parser.isSet(kiosk),
+                         parser.isSet(dark) ? Theme::Dark : Theme::Light};
 }
 
 // What is wrong in the configuration, for the operator; empty when nothing is.
@@ -139,6 +140,8 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication app(argc, argv);
-    return isSubcommand(mode) ? runSubcommand(QApplication::arguments())
-                              : runWindow(readOptions(app));
+    if (isSubcommand(mode))
+        return runSubcommand(QApplication::arguments());
+    const auto options = readOptions();
+    return options ? runWindow(*options) : ExitUsage;
 }

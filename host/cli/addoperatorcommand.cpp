@@ -61,7 +61,8 @@ int runAddOperator(const QStringList& arguments)
         QStringLiteral("N"));
     parser.addOption(levelOption);
     parser.addPositionalArgument(QStringLiteral("NAME"), QStringLiteral("of the operator"));
-    parser.process(arguments);
+    if (!readArguments(parser, arguments))
+        return ExitUsage;
     bool ok = false;
     const int level = parser.value(levelOption).toInt(&ok);
     if (parser.positionalArguments().size() != 1 || !ok) {

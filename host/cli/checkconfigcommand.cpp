@@ -16,7 +16,8 @@ int runCheckConfig(const QStringList& arguments)
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("the user's own without one"),
                                  QStringLiteral("[FILE]"));
-    parser.process(arguments);
+    if (!readArguments(parser, arguments))
+        return ExitUsage;
     if (parser.positionalArguments().size() > 1) {
         printError(
             QCoreApplication::translate("CheckConfig", "usage: upsdesk check-config [FILE]"));

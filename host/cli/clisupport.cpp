@@ -4,6 +4,7 @@
 #include "config/devicesecrets.h"
 #include "config/secretstore.h"
 
+#include <QCommandLineParser>
 #include <QEventLoop>
 #include <QTextStream>
 
@@ -17,6 +18,16 @@ void printOut(const QString& line)
 void printError(const QString& line)
 {
     QTextStream(stderr) << "upsdesk: " << line << '\n';
+}
+
+bool readArguments(QCommandLineParser& parser, const QStringList& arguments)
+{
+    if (!parser.parse(arguments)) {
+        printError(parser.errorText());
+        return false;
+    }
+    parser.process(arguments); // answers --help and --version
+    return true;
 }
 
 namespace {

@@ -10,6 +10,8 @@
 
 #include <optional>
 
+class QCommandLineParser;
+
 void printOut(const QString& line);
 void printError(const QString& line);
 
@@ -17,5 +19,9 @@ void printError(const QString& line);
 // secrets from the environment or, for a configured device, the secret store. Prints what is wrong
 // and returns nothing for a bad address. Runs an event loop while the store answers.
 std::optional<DeviceSettings> settingsForAddress(const QString& text);
+
+// False after telling what is wrong with them: the caller ends with ExitUsage. --help ends the
+// program.
+bool readArguments(QCommandLineParser& parser, const QStringList& arguments);
 
 #endif // CLISUPPORT_H

@@ -61,7 +61,8 @@ int runCommand(const QStringList& arguments)
                                                 "standby, wake-up, restart"));
     parser.addPositionalArgument(QStringLiteral("VALUE"), QStringLiteral("minutes of standby"),
                                  QStringLiteral("[VALUE]"));
-    parser.process(arguments);
+    if (!readArguments(parser, arguments))
+        return ExitUsage;
     const QStringList given = parser.positionalArguments();
     if (given.size() < 2 || given.size() > 3) {
         printError(QCoreApplication::translate(

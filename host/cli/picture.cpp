@@ -69,7 +69,8 @@ int runPicture(const QStringList& arguments)
                                          QStringLiteral("THEME"), QStringLiteral("light"));
     parser.addOptions({out, sizeOption, themeOption});
     parser.addPositionalArgument(QStringLiteral("ADDRESS"), QStringLiteral("of the device"));
-    parser.process(arguments);
+    if (!readArguments(parser, arguments))
+        return ExitUsage;
 
     QSize size = kDefaultSize;
     const QString theme = parser.value(themeOption);

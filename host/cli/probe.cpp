@@ -94,7 +94,8 @@ int runProbe(const QStringList& arguments)
     parser.addPositionalArgument(QStringLiteral("ADDRESS"),
                                  QStringLiteral("sim:[NAME], nut://HOST[:PORT]/UPS, "
                                                 "snmp://COMMUNITY@HOST[:PORT]"));
-    parser.process(arguments);
+    if (!readArguments(parser, arguments))
+        return ExitUsage;
     if (parser.positionalArguments().size() != 1) {
         printError(QCoreApplication::translate("Probe", "usage: upsdesk probe ADDRESS [--json]"));
         return ExitUsage;
