@@ -26,11 +26,14 @@ QJsonObject valuesOf(const QMap<int, QVariant>& snapshot)
     return values;
 }
 
-// Raised alarms in the order of their keys; one without a key of its own comes last, with key 0.
-QVector<QPair<int, QString>> alarmsOf(const UpsReading& reading, bool communicationsLost)
+// Raised alarms in the order of their keys; one without a key of its own comes first, with key -1.
+// Silence is an alarm even where nothing was ever read.
+QVector<QPair<int, QString>> alarmsOf(const Device& device)
 {
-    QSet<Alarm> raised = reading.alarms;
-    if (communicationsLost)
+    QSet<Alarm> raised;
+    if (const UpsReading* reading = device.reading())
+        raised = reading->alarms;
+    if (device.link() != LinkState::Live)
         raised << Alarm::CommunicationsLost;
     QVector<QPair<int, QString>> alarms;
     for (Alarm alarm : raised)
@@ -44,13 +47,13 @@ QJsonObject jsonOf(const Device& device)
     QJsonArray alarms;
     QJsonArray notes;
     QJsonArray texts;
+    for (const auto& alarm : alarmsOf(device)) {
+        QJsonObject entry{{"text", alarm.second}};
+        if (alarm.first >= 0)
+            entry.insert("key", alarm.first);
+        alarms.append(entry);
+    }
     if (const UpsReading* reading = device.reading()) {
-        for (const auto& alarm : alarmsOf(*reading, device.link() != LinkState::Live)) {
-            QJsonObject entry{{"text", alarm.second}};
-            if (alarm.first >= 0)
-                entry.insert("key", alarm.first);
-            alarms.append(entry);
-        }
         notes = QJsonArray::fromStringList(readingNotes(*reading));
         texts = QJsonArray::fromStringList(reading->alarmTexts);
     }
@@ -70,9 +73,9 @@ void printPlain(const Device& device)
     const auto snapshot = device.snapshot(SnapshotPage::Device);
     for (auto it = snapshot.begin(); it != snapshot.end(); ++it)
         printOut(QStringLiteral("%1 %2").arg(keyName(it.key()), -32).arg(it.value().toString()));
+    for (const auto& alarm : alarmsOf(device))
+        printOut(QStringLiteral("alarm: ") + alarm.second);
     if (const UpsReading* reading = device.reading()) {
-        for (const auto& alarm : alarmsOf(*reading, device.link() != LinkState::Live))
-            printOut(QStringLiteral("alarm: ") + alarm.second);
         for (const QString& text : reading->alarmTexts)
             printOut(QStringLiteral("alarm text: ") + text);
         for (const QString& note : readingNotes(*reading))

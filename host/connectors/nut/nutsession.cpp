@@ -313,8 +313,10 @@ NutFailure NutSession::listVariables(const QByteArray& ups, NutVariables& variab
 NutFailure NutSession::listWritable(const QByteArray& ups, NutVariables& variables)
 {
     variables.clear();
-    return list("RW " + nutQuoted(ups), 4,
-                [&](const Words& row) { variables.insert(row.at(2), row.at(3)); });
+    return list("RW " + nutQuoted(ups), 4, [&](const Words& row) {
+        if (!isPrivateNutVariable(row.at(2)))
+            variables.insert(row.at(2), row.at(3));
+    });
 }
 
 NutFailure NutSession::listCommands(const QByteArray& ups, QList<QByteArray>& commands)
