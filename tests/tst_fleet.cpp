@@ -176,6 +176,12 @@ void TestFleet::suspendHurriesEveryDevice()
     QVERIFY(device->dueMs() - desk.clock.monotonic > 50000);
     desk.clock.suspended += 10000;
     QTRY_COMPARE(desk.connectors[0]->polls, 2);
+    // A poll that the suspend cut in two fails, and does not cost the device its first try.
+    desk.clock.suspended += 10000;
+    QSignalSpy ticks(&desk.fleet, &Fleet::ticked);
+    QVERIFY(ticks.wait());
+    desk.connectors[0]->answer(LinkState::Lost);
+    QTRY_COMPARE(desk.connectors[0]->polls, 3);
 }
 
 void TestFleet::unansweredPollEnds()

@@ -3,6 +3,8 @@
 #include "reading/devicetext.h"
 #include "reading/readingscale.h"
 
+#include <utility>
+
 namespace {
 
 constexpr qint64 kMsPerSecond = 1000;
@@ -74,6 +76,12 @@ void Device::startPoll()
     m_connector->poll();
 }
 
+void Device::hurry()
+{
+    m_followUp = isPolling();
+    m_plan.hurry(m_clock.monotonicMs());
+}
+
 void Device::checkPollLimit()
 {
     const qint64 limit =
@@ -96,6 +104,8 @@ void Device::takeResult(const PollResult& result)
         m_plan.succeeded(m_clock.monotonicMs());
     else
         m_plan.failed(m_clock.monotonicMs());
+    if (std::exchange(m_followUp, false))
+        m_plan.hurry(m_clock.monotonicMs());
     if (result.state == LinkState::Live) {
         m_reading = result.reading;
         applyScales(*m_reading, m_settings.scales);

@@ -55,7 +55,9 @@ public:
     qint64 dueMs() const { return m_plan.dueMs(); }
     bool isPolling() const { return m_pollStarted >= 0; }
     void startPoll();
-    void hurry() { m_plan.hurry(m_clock.monotonicMs()); }
+    // Polls at once. A poll that is under way began before there was a reason to hurry (before a
+    // suspend, or a command), so another follows it.
+    void hurry();
     // Ends a poll that the connector never answered.
     void checkPollLimit();
     // Notices a change of condition; to be called when time has passed, too.
@@ -84,6 +86,7 @@ private:
     QString m_conditionText;
     QDateTime m_conditionSince;
     qint64 m_pollStarted = -1; // boot ms; -1: no poll is under way
+    bool m_followUp = false;   // poll again when the one under way has ended
 };
 
 #endif // DEVICE_H
