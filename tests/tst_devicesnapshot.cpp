@@ -102,7 +102,10 @@ void TestDeviceSnapshot::numbers_data()
         "energy flow in kilowatts", [](UpsReading& r) { r.output.power[0] = 1500; }, energy,
         realdata_OutputPower_A_Hi, 2);
     row(
-        "below half a kilowatt", [](UpsReading& r) { r.output.power[0] = 499; }, energy,
+        "half a kilowatt", [](UpsReading& r) { r.output.power[0] = 500; }, energy,
+        realdata_OutputPower_A_Hi, 1);
+    row(
+        "below half a kilowatt", [](UpsReading& r) { r.output.power[0] = 499.6; }, energy,
         realdata_OutputPower_A_Hi, 0);
     row(
         "rating stays in watts", [](UpsReading& r) { r.ratedPower = 18000; }, energy,

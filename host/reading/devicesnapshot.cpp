@@ -9,8 +9,7 @@
 #include <iterator>
 #include <limits>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(DeviceSnapshot)
@@ -18,7 +17,6 @@ struct Tr {
 
 constexpr int kNoKey = -1;
 constexpr int kSecondsPerMinute = 60;
-constexpr double kWattsPerKilowatt = 1000.0;
 constexpr int kFullCharge = 100;
 
 struct AlarmRow {
@@ -104,6 +102,7 @@ struct ScalarRow {
 
 constexpr double kWhole = 1.0;
 constexpr double kTenths = 10.0;
+constexpr double kKilowatts = 0.001;
 // The detail page doubles the apparent power it reads.
 constexpr double kHalved = 0.5;
 
@@ -222,9 +221,9 @@ QString unreportedNote(const UpsReading& reading)
     for (const ShownValue& value : kShownValues)
         if (!value.isGiven(reading))
             labels << Tr::tr(value.label);
-    return labels.isEmpty() ? QString()
-                            : Tr::tr("Not reported, shown as 0: %1.")
-                                  .arg(labels.join(QStringLiteral(", ")));
+    return labels.isEmpty()
+               ? QString()
+               : Tr::tr("Not reported, shown as 0: %1.").arg(labels.join(QStringLiteral(", ")));
 }
 
 // Powers travel in their _Hi word; the _Lo word that follows it is always 0.
@@ -239,10 +238,10 @@ bool isPowerWord(int key)
 class SnapshotWriter
 {
 public:
-    explicit SnapshotWriter(const UpsReading& reading)
+    SnapshotWriter(const UpsReading& reading, SnapshotPage page)
         : m_reading(reading)
-    {
-    }
+        , m_powerScale(page == SnapshotPage::EnergyFlow ? kKilowatts : kWhole)
+    {}
 
     QMap<int, QVariant> write()
     {
@@ -304,30 +303,23 @@ private:
     {
         const LineReading& group = m_reading.*row.group;
         const int lines = shownLines(group);
+        const double scale = row.values == &LineReading::power ? m_powerScale : row.scale;
         for (int line = 0; line < lines; ++line)
             writeNumber(row.keyA + line * row.stride,
-                        (group.*row.values)[static_cast<std::size_t>(line)], row.scale);
+                        (group.*row.values)[static_cast<std::size_t>(line)], scale);
     }
 
     const UpsReading& m_reading;
+    const double m_powerScale; // of the lines' powers; ratings stay in watts
     QMap<int, QVariant> m_map;
 };
-
-void toKilowatts(QMap<int, QVariant>& map)
-{
-    for (int key = realdata_InputPower_A_Hi; key <= realdata_BypPower_C_Lo; ++key) {
-        const auto entry = map.find(key);
-        if (isPowerWord(key) && entry != map.end())
-            *entry = nearest(entry->toInt() / kWattsPerKilowatt);
-    }
-}
 
 } // namespace
 
 QMap<int, QVariant> deviceSnapshot(const UpsReading& reading, SnapshotPage page,
                                    const SnapshotLink& link)
 {
-    QMap<int, QVariant> map = SnapshotWriter(reading).write();
+    QMap<int, QVariant> map = SnapshotWriter(reading, page).write();
     if (link.communicationsLost)
         map.insert(alarm_CommunicationsLost, 1);
     map.insert(info_failCount, link.failedPolls);
@@ -337,8 +329,6 @@ QMap<int, QVariant> deviceSnapshot(const UpsReading& reading, SnapshotPage page,
         if (!text.isEmpty())
             map.insert(key, text);
 
-    if (page == SnapshotPage::EnergyFlow)
-        toKilowatts(map);
     if (page == SnapshotPage::Chart) {
         if (reading.batteryTemperature)
             map.insert(realdata_BatTemp, nearest(*reading.batteryTemperature));
