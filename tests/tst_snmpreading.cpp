@@ -148,6 +148,9 @@ private slots:
         row("an identifier as text", "6.2", "6.2.1.2.1 t .1.3.6.1.2.1.33.1.6.3.2", "alarms", "2 ");
         row("a failed test is an alarm", "7.3.0", "7.3.0 i 3", "alarms",
             "16,19 1.3.6.1.4.1.99999.1.5");
+        row("no alarm table: states are alarms", "6", "4.1.0 i 5\n2.1.0 i 3", "alarms", "2,3 ");
+        row("no alarm table: a test is no outage", "6", "4.1.0 i 5\n7.3.0 i 5", "alarms", "24 ");
+        row("an empty alarm table is believed", "6", "6.1.0 i 0\n4.1.0 i 5", "alarms", " ");
         row("beeper out of range", "9.8.0", "9.8.0 i 0", "beeper", "-");
     }
     void reads()

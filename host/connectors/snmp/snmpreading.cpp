@@ -4,11 +4,16 @@
 
 #include "reading/devicetext.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <set>
 
-namespace
-{
+namespace {
+
+struct Tr {
+    Q_DECLARE_TR_FUNCTIONS(SnmpReading)
+};
 
 enum class Unit { Whole, Tenths, Minutes };
 
@@ -224,10 +229,39 @@ BatteryState batteryStateOf(int status, int testResult, OutputSource source)
     return status == UpsMib::BatteryNormal ? BatteryState::Normal : BatteryState::Unknown;
 }
 
-void readAlarms(const SnmpValues& values, UpsReading& reading)
+// Agents without an alarm table tell these by their states alone; an outage must not pass without
+// an alarm on them. A battery test is none.
+void addAlarmsOfStates(int batteryStatus, int testResult, UpsReading& reading)
+{
+    const bool test = testResult == UpsMib::InProgress;
+    const OutputSource source = reading.outputSource;
+    const struct {
+        Alarm alarm;
+        bool active;
+    } rows[] = {
+        {Alarm::OnBattery, source == OutputSource::Battery && !test},
+        {Alarm::OnBypass, source == OutputSource::Bypass},
+        {Alarm::OutputOff, source == OutputSource::None},
+        {Alarm::LowBattery, batteryStatus == UpsMib::BatteryLow},
+        {Alarm::DepletedBattery, batteryStatus == UpsMib::BatteryDepleted},
+        {Alarm::TestInProgress, test},
+    };
+    for (const auto& row : rows)
+        if (row.active)
+            reading.alarms.insert(row.alarm);
+}
+
+// False where the agent serves neither the table nor its count.
+bool readAlarms(const SnmpValues& values, UpsReading& reading)
 {
     using namespace UpsMib;
+    bool served = false;
+    if (const Value count = numberOf(values, alarmsPresent); count && *count >= 0 && *count < 1e6) {
+        reading.alarmCount = static_cast<int>(*count);
+        served = true;
+    }
     forEachRow(values, alarmDescr, [&](quint32, const SnmpValue& value) {
+        served = true;
         const SnmpOid oid = value.identifier();
         if (std::all_of(oid.begin(), oid.end(), [](quint32 part) { return part == 0; }))
             return; // an empty row of a table of fixed size
@@ -237,6 +271,11 @@ void readAlarms(const SnmpValues& values, UpsReading& reading)
         else if (!reading.alarmTexts.contains(toText(oid)))
             reading.alarmTexts << toText(oid);
     });
+    if (reading.alarmCount.value_or(0) > 0 && reading.alarms.isEmpty() &&
+        reading.alarmTexts.isEmpty())
+        reading.notes
+            << Tr::tr("The agent counts %1 alarms, but names none.").arg(*reading.alarmCount);
+    return served;
 }
 
 } // namespace
@@ -307,16 +346,14 @@ UpsReading readingFromSnmp(const SnmpValues& values)
     if (const int beeper = codeOf(values, audibleStatus, 1, 3))
         reading.beeper = static_cast<Beeper>(beeper);
 
-    readAlarms(values, reading);
-    if (const Value count = numberOf(values, alarmsPresent); count && *count >= 0 && *count < 1e6)
-        reading.alarmCount = static_cast<int>(*count);
-
+    const int status = codeOf(values, batteryStatus, 1, 4);
     const int testResult = codeOf(values, testResultsSummary, DonePass, NoTestsInitiated);
+    if (!readAlarms(values, reading))
+        addAlarmsOfStates(status, testResult, reading);
     // The alarm of this name says the same thing; agents without an alarm table have only this.
     if (testResult == DoneError)
         reading.alarms.insert(Alarm::DiagnosticTestFailed);
-    reading.batteryState =
-        batteryStateOf(codeOf(values, batteryStatus, 1, 4), testResult, reading.outputSource);
+    reading.batteryState = batteryStateOf(status, testResult, reading.outputSource);
 
     // Some agents keep the length of the last outage after it has ended.
     const bool onBattery =
