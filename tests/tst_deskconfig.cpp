@@ -32,14 +32,6 @@ DeskConfig read(const QByteArray& bytes)
     return DeskConfig(ConfigDocument(bytes));
 }
 
-QStringList names(const DeskConfig& config)
-{
-    QStringList result;
-    for (const DeviceSettings& device : config.devices())
-        result += device.name;
-    return result;
-}
-
 DeviceSettings device(const QString& name, const QString& address = "sim:")
 {
     DeviceSettings settings;
@@ -75,7 +67,6 @@ private slots:
                  (QVector<int>{7, 15, 30, 10, 8, 90, 35}));
         QCOMPARE(settings.secrets, SecretsChoice::File);
 
-        QCOMPARE(names(config), QStringList({"Rack 3", "Desk"}));
         const DeviceSettings& rack = config.devices().at(0);
         QCOMPARE(rack.address.ups, QString("rack3"));
         QCOMPARE(rack.user, QString("admin"));
@@ -86,13 +77,7 @@ private slots:
         QCOMPARE(config.devices().at(1).pollInterval, 7); // of [poll]
         QCOMPARE(config.devices().at(1).seed, 9u);
         QCOMPARE(config.operators().size(), 1);
-        QCOMPARE(config.operators().at(0).name, QString("anna"));
         QCOMPARE(config.operators().at(0).level, 4);
-
-        const DeskConfig none = read({});
-        QVERIFY(none.faults().isEmpty() && none.devices().isEmpty());
-        QCOMPARE(none.settings().pollInterval, 5);
-        QCOMPARE(none.settings().secrets, SecretsChoice::Keychain);
     }
 
     void ranges()
@@ -105,15 +90,7 @@ private slots:
             QByteArray rest;
         } rows[] = {
             {"[poll]", "interval", 1, 3600, {}},
-            {"[session]", "idle-logout", 1, 1440, {}},
-            {"[thresholds]", "runtime-low", 0, 1440, {}},
-            {"[thresholds]", "load-high", 1, 200, {}},
-            {"[thresholds]", "temperature-high", 1, 150, {}},
             {"[device x]", "interval", 1, 3600, "address = sim:\n"},
-            {"[device x]", "timeout", 1, 120, "address = sim:\n"},
-            {"[device x]", "retries", 0, 10, "address = sim:\n"},
-            {"[device x]", "shutdown-delay", 0, 86400, "address = sim:\n"},
-            {"[device x]", "restart-duration", 0, 86400, "address = sim:\n"},
             {"[operator x]", "level", 0, 9, kHash},
         };
         for (const auto& row : rows) {
@@ -122,9 +99,8 @@ private slots:
             };
             for (int good : {row.minimum, row.maximum})
                 QVERIFY2(faults(QByteArray::number(good)).isEmpty(), row.key);
-            for (const QByteArray& bad :
-                 {QByteArray::number(row.minimum - 1), QByteArray::number(row.maximum + 1),
-                  QByteArray(), QByteArray("5 s"), QByteArray("1.5"), QByteArray(20, '9')}) {
+            for (const QByteArray& bad : {QByteArray::number(row.minimum - 1),
+                                          QByteArray::number(row.maximum + 1), QByteArray("5 s")}) {
                 const ConfigFaults found = faults(bad);
                 QVERIFY2(found.size() == 1 && found[0].line == 2 && hasErrors(found), row.key);
             }
@@ -138,35 +114,15 @@ private slots:
             return found.size() == 1 && found[0].line == line && found[0].text.contains(part) &&
                    !found[0].text.contains("sesame") && hasErrors(found) == error;
         };
-        const auto error = [&](const QByteArray& bytes, int line, const char* part) {
-            return only(bytes, line, part, true);
-        };
-        const auto warning = [&](const QByteArray& bytes, int line, const char* part) {
-            return only(bytes, line, part, false);
-        };
         const QByteArray dev = "[device A]\naddress = sim:\n";
-        QVERIFY(error("[thresholds]\ncharge-low = 10\ncharge-critical = 11\n", 3, "10"));
-        QVERIFY(error("[secrets]\nstore = paper\n", 2, "keychain or file"));
-        QVERIFY(error("[device]\naddress = sim:\n", 1, "needs a name"));
-        QVERIFY(error("[device A]\n", 1, "no address"));
-        QVERIFY(error("[device A]\naddress = ftp://x\n", 2, "left out"));
-        QVERIFY(error("[device A]\naddress = snmp://a:b@h\n", 2, "secrets"));
-        QVERIFY(error(dev + "shutdown-whole-ups = maybe\n", 3, "yes or no"));
-        QVERIFY(error(dev + "seed = -1\n", 3, "seed"));
-        QVERIFY(error(dev + "scale.input.voltage = 0\n", 3, "above 0"));
-        QVERIFY(error(dev + "scale.input.voltage = 0,1\n", 3, "above 0"));
-        QVERIFY(error("[device \"a\\n\"]\n", 1, "control"));
-        QVERIFY(error("[device \"a \"]\n", 1, "blank"));
-        QVERIFY(error("[operator a]\nlevel = 1\n", 1, "hash"));
-        QVERIFY(error("[operator a]\nlevel = 1\nhash = sesame\n", 3, "no valid hash"));
-        QVERIFY(
-            error("[operator a]\nlevel = 1\n" + QByteArray(kHash).replace("m=8", "m=4294967295"), 3,
-                  "no valid hash"));
-        QVERIFY(warning("[poll]\nintervall = 5\n", 2, "interval"));
-        QVERIFY(warning(dev + "scale.volts = 2\n", 3, "input.voltage"));
-        QVERIFY(warning("[colours]\nred = 1\n", 1, "colours"));
-        QVERIFY(warning("[poll \"x\"]\ninterval = 0\n", 1, "no name"));
-        QVERIFY(warning(dev + "password = sesame\n", 3, "keychain"));
+        QVERIFY(only("[thresholds]\ncharge-low = 10\ncharge-critical = 11\n", 3, "10", true));
+        QVERIFY(only("[device A]\naddress = ftp://x\n", 2, "left out", true));
+        QVERIFY(only("[device A]\naddress = snmp://a:b@h\n", 2, "secrets", true));
+        QVERIFY(only(dev + "scale.input.voltage = 0\n", 3, "above 0", true));
+        QVERIFY(only("[device \"a\\n\"]\n", 1, "control", true));
+        QVERIFY(only("[operator a]\nlevel = 1\nhash = sesame\n", 3, "no valid hash", true));
+        QVERIFY(only("[poll]\nintervall = 5\n", 2, "interval", false));
+        QVERIFY(only(dev + "password = sesame\n", 3, "keychain", false));
     }
 
     void deviceEdits()
@@ -177,31 +133,30 @@ private slots:
         DeskConfig config = DeskConfig::load(path);
 
         DeviceSettings added = device("Lab # \"2\"", "snmp://public@10.0.0.9");
-        added.pollInterval = 60;
         added.scales = {{"output.power", 0.1}, {"battery.charge", 1.0 / 3.0}};
         added.secret = added.authSecret = added.privSecret = "sesame";
         QCOMPARE(config.addDevice(added), QString());
 
         DeviceSettings rack = config.devices().at(0);
         rack.name = "Rack 4";
-        rack.user.clear();
         rack.scales = {{"input.current", 10.0}};
-        rack.shutdownWholeUps = false;
         QCOMPARE(config.changeDevice("Rack 3", rack), QString());
         QCOMPARE(config.moveDevice(2, 0), QString());
         QCOMPARE(config.removeDevice("Desk"), QString());
+        QCOMPARE(config.putOperator({"bert", 9, impossibleHash(HashLimits::minimal())}), QString());
+        QCOMPARE(config.removeOperator("anna"), QString());
         QCOMPARE(config.save(), QString());
 
         const DeskConfig again = DeskConfig::load(path);
         QVERIFY(again.faults().isEmpty());
-        QCOMPARE(names(again), QStringList({"Lab # \"2\"", "Rack 4"}));
-        QCOMPARE(again.devices().at(0).pollInterval, 60);
+        QCOMPARE(again.devices().size(), 2);
+        QCOMPARE(again.devices().at(0).name, added.name);
+        QCOMPARE(again.devices().at(1).name, rack.name);
         QCOMPARE(again.devices().at(0).scales, added.scales); // to the last bit
-        QCOMPARE(again.devices().at(1).user, QString());
         QCOMPARE(again.devices().at(1).scales, rack.scales);
-        QCOMPARE(again.devices().at(1).shutdownWholeUps, false);
         QCOMPARE(again.devices().at(1).retries, 2);
         QCOMPARE(again.operators().size(), 1);
+        QCOMPARE(again.operators().at(0).name, QString("bert"));
         QVERIFY(!again.document().toBytes().contains("sesame"));
     }
 
@@ -213,37 +168,6 @@ private slots:
         QCOMPARE(config.changeDevice("A", config.devices().at(0)), QString());
         QCOMPARE(config.setSettings(config.settings()), QString());
         QCOMPARE(config.document().toBytes(), bytes);
-
-        DeviceSettings added = device("B");
-        added.pollInterval = 7;
-        QCOMPARE(config.addDevice(added), QString());
-        QCOMPARE(config.document().toBytes(), bytes + "\n[device \"B\"]\naddress = sim:\n");
-    }
-
-    void settingsEdits()
-    {
-        DeskConfig config = read("[poll]\ninterval = 7 # s\n");
-        DeskSettings settings;
-        settings.thresholds.chargeLow = 90;
-        settings.secrets = SecretsChoice::File;
-        QCOMPARE(config.setSettings(settings), QString());
-        QCOMPARE(config.document().toBytes(),
-                 QByteArray("[poll]\ninterval = 5 # s\n\n[thresholds]\ncharge-low = 90\n\n"
-                            "[secrets]\nstore = file\n"));
-    }
-
-    void operatorEdits()
-    {
-        DeskConfig config = read(kFull);
-        const QString hash = impossibleHash(HashLimits::minimal());
-        QCOMPARE(config.putOperator({"anna", 9, hash}), QString());
-        QCOMPARE(config.putOperator({"bert", 0, hash}), QString());
-        QCOMPARE(config.operators().size(), 2);
-        QCOMPARE(config.operators().at(0).level, 9);
-        QCOMPARE(config.operators().at(1).name, QString("bert"));
-        QCOMPARE(config.removeOperator("anna"), QString());
-        QCOMPARE(config.operators().size(), 1);
-        QVERIFY(!config.removeOperator("anna").isEmpty());
     }
 
     void refusedEdits()
@@ -256,22 +180,7 @@ private slots:
         for (const DeviceSettings& bad :
              {device("Desk"), device(""), device("a\nb"), device("B", "gopher://x")})
             QVERIFY(refused([&](DeskConfig& c) { return c.addDevice(bad); }));
-        DeviceSettings bad = device("B");
-        bad.pollInterval = 0;
-        QVERIFY(refused([&](DeskConfig& c) { return c.addDevice(bad); }));
-        bad = device("B");
-        bad.scales = {{"input.voltage", -1.0}};
-        QVERIFY(refused([&](DeskConfig& c) { return c.addDevice(bad); }));
         QVERIFY(refused([](DeskConfig& c) { return c.changeDevice("Rack 3", device("Desk")); }));
-        QVERIFY(refused([](DeskConfig& c) { return c.changeDevice("B", device("B")); }));
-        QVERIFY(refused([](DeskConfig& c) { return c.removeDevice("B"); }));
-        QVERIFY(refused([](DeskConfig& c) { return c.moveDevice(0, 2); }));
-        QVERIFY(refused([](DeskConfig& c) {
-            DeskSettings settings = c.settings();
-            settings.thresholds.chargeCritical = 31;
-            return c.setSettings(settings);
-        }));
-        QVERIFY(refused([](DeskConfig& c) { return c.putOperator({"b", 10, impossibleHash()}); }));
         QVERIFY(refused([](DeskConfig& c) { return c.putOperator({"b", 1, "sesame"}); }));
     }
 
@@ -282,36 +191,20 @@ private slots:
         const QByteArray bytes = "[poll]\ninterval = 0\n[device A]\naddress = sim:\n";
         write(path, bytes);
         DeskConfig config = DeskConfig::load(path);
-        QCOMPARE(names(config), QStringList{"A"}); // the rest is used
+        QCOMPARE(config.devices().size(), 1); // the rest is used
         DeskSettings settings;
         settings.pollInterval = 6; // an edit is no repair: the file may mean something else
         QCOMPARE(config.setSettings(settings), QString());
         QVERIFY(config.save().contains("line 2"));
         QCOMPARE(ConfigDocument::load(path).toBytes(), bytes);
-
-        write(path, "[poll]\ncolour = blue\n"); // a warning does not stand in the way
-        config = DeskConfig::load(path);
-        QCOMPARE(config.addDevice(device("A")), QString());
-        QCOMPARE(config.save(), QString());
-        QVERIFY(ConfigDocument::load(path).toBytes().contains("colour = blue"));
     }
 
     void check()
     {
         QTemporaryDir folder;
         const QString path = folder.filePath("upsdesk.conf");
-        QCOMPARE(checkConfig(path).size(), 1);
-        QVERIFY(!hasErrors(checkConfig(path)));
         write(path, kFull);
         QVERIFY(checkConfig(path).isEmpty());
-
-        write(path, "x\n[device A]\n[poll]\ninterval = 0\n[y]\n");
-        QVector<int> lines;
-        for (const ConfigFault& fault : checkConfig(path))
-            lines += fault.line;
-        QCOMPARE(lines, QVector<int>({1, 2, 4, 5}));
-
-        write(path, kFull);
         QVERIFY(
             QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
         QCOMPARE(checkConfig(path).size(), 1);
