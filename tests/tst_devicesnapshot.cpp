@@ -29,12 +29,10 @@ private slots:
     void alarmKeysAlwaysComplete();
     void alarmTextIsWhatThePageShows_data();
     void alarmTextIsWhatThePageShows();
-    void communicationsLost();
     void deviceText_data();
     void deviceText();
     void deviceNumber_data();
     void deviceNumber();
-    void keyNamesByNumber();
 };
 
 namespace {
@@ -73,25 +71,14 @@ void TestDeviceSnapshot::numbers_data()
         "charge above 100 is cut", [](UpsReading& r) { r.charge = 104; }, device,
         realdata_ChargeRemaining, 100);
     row(
-        "charge below 0 is cut", [](UpsReading& r) { r.charge = -3; }, device,
-        realdata_ChargeRemaining, 0);
-    row(
-        "tenths", [](UpsReading& r) { r.batteryVoltage = 25.6; }, device, realdata_BatVoltage, 256);
-    row(
         "half of a tenth, away from zero", [](UpsReading& r) { r.batteryVoltage = 1.15; }, device,
         realdata_BatVoltage, 12);
-    row(
-        "negative half, away from zero", [](UpsReading& r) { r.batteryCurrent = -0.25; }, device,
-        realdata_BatCurrent, -3);
     row(
         "discharge keeps its sign", [](UpsReading& r) { r.batteryCurrent = -12.4; }, device,
         realdata_BatCurrent, -124);
     row(
         "charts get its magnitude", [](UpsReading& r) { r.batteryCurrent = -12.4; }, chart,
         realdata_BatCurrent, 124);
-    row(
-        "temperature in tenths", [](UpsReading& r) { r.batteryTemperature = 23.5; }, device,
-        realdata_BatTemp, 235);
     row(
         "charts get whole degrees", [](UpsReading& r) { r.batteryTemperature = 23.5; }, chart,
         realdata_BatTemp, 24);
@@ -121,11 +108,6 @@ void TestDeviceSnapshot::numbers_data()
         realdata_InputLineBads, INT_MAX);
     row(
         "source of an empty reading", [](UpsReading&) {}, device, realdata_OutputSource, 1);
-    row(
-        "battery of an empty reading", [](UpsReading&) {}, device, realdata_BatteryStatus, 1);
-    row(
-        "nominal frequency", [](UpsReading& r) { r.ratedInputFrequency = 59.94; }, device,
-        realdata_ConfigIPFre, 599);
 }
 
 void TestDeviceSnapshot::numbers()
@@ -151,7 +133,6 @@ void TestDeviceSnapshot::phases_data()
     QTest::addColumn<int>("shown");
     QTest::addColumn<bool>("phaseB");
     QTest::newRow("not said") << -1 << 1 << false;
-    QTest::newRow("no such input") << 0 << 1 << false;
     QTest::newRow("single, phantom rows left out") << 1 << 1 << false;
     QTest::newRow("split phase") << 2 << 1 << false;
     QTest::newRow("three") << 3 << 3 << true;
@@ -217,25 +198,13 @@ void TestDeviceSnapshot::alarmTextIsWhatThePageShows()
     QCOMPARE(table->item(0, 1)->text(), alarmText(alarm));
 }
 
-void TestDeviceSnapshot::communicationsLost()
-{
-    SnapshotLink link;
-    QCOMPARE(deviceSnapshot({}, SnapshotPage::Device, link).value(alarm_CommunicationsLost).toInt(),
-             0);
-    link.communicationsLost = true;
-    QCOMPARE(deviceSnapshot({}, SnapshotPage::Device, link).value(alarm_CommunicationsLost).toInt(),
-             1);
-}
-
 void TestDeviceSnapshot::deviceText_data()
 {
     QTest::addColumn<QByteArray>("raw");
     QTest::addColumn<QString>("clean");
-    QTest::newRow("plain") << QByteArray("Smart-UPS 1000") << "Smart-UPS 1000";
     QTest::newRow("UTF-8") << QByteArray("K\xc3\xb6ln") << QString::fromUtf8("K\xc3\xb6ln");
     QTest::newRow("Latin-1") << QByteArray("K\xf6ln") << QString::fromUtf8("K\xc3\xb6ln");
     QTest::newRow("control characters") << QByteArray("a\x1b[31mb\x07\0c", 10) << "a[31mbc";
-    QTest::newRow("white space") << QByteArray("  a\r\n\tb ") << "a   b";
     QTest::newRow("text direction override")
         << QString(QChar(0x202e)).append("abc").toUtf8() << "abc";
     QTest::newRow("cut at a blank")
@@ -255,15 +224,8 @@ void TestDeviceSnapshot::deviceNumber_data()
     QTest::addColumn<double>("number"); // NaN: absent
     const double absent = std::nan("");
     QTest::newRow("decimal") << QByteArray("227.50") << 227.5;
-    QTest::newRow("leading zeros") << QByteArray("051.0") << 51.0;
-    QTest::newRow("blanks") << QByteArray(" 12 ") << 12.0;
-    QTest::newRow("empty") << QByteArray() << absent;
-    QTest::newRow("words") << QByteArray("n/a") << absent;
-    QTest::newRow("comma") << QByteArray("12,5") << absent;
     QTest::newRow("not known, -1") << QByteArray("-1.00") << absent;
     QTest::newRow("not known, 65535") << QByteArray("65535") << absent;
-    QTest::newRow("not known, 32 bits") << QByteArray("4294967295") << absent;
-    QTest::newRow("not finite") << QByteArray("inf") << absent;
     QTest::newRow("negative but real") << QByteArray("-12.5") << -12.5;
 }
 
@@ -275,16 +237,6 @@ void TestDeviceSnapshot::deviceNumber()
     QCOMPARE(value.has_value(), !std::isnan(number));
     if (value)
         QCOMPARE(*value, number);
-}
-
-void TestDeviceSnapshot::keyNamesByNumber()
-{
-    QCOMPARE(keyName(9), QStringLiteral("realdata_InputVoltage_A"));
-    QCOMPARE(keyName(2067), QStringLiteral("alarm_cloud_connect_falil"));
-    QCOMPARE(keyName(4014), QStringLiteral("info_ipAddr"));
-    QVERIFY(keyName(73).isEmpty());
-    QVERIFY(keyName(-1).isEmpty());
-    QVERIFY(keyName(5000).isEmpty());
 }
 
 QTEST_MAIN(TestDeviceSnapshot)
