@@ -125,7 +125,7 @@ private slots:
         }
         QStringList kept;
         for (int i = 0; i < fleet.count(); ++i)
-            kept << fleet.at(i)->address();
+            kept << fleet.at(i)->settings().address.text;
         QCOMPARE(kept, addresses);
     }
 };

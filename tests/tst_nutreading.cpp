@@ -87,10 +87,9 @@ private slots:
         };
         QCOMPARE(missing(odd, lineToLine), Texts());
         QCOMPARE(odd.name, QString("unit1"));
-        QCOMPARE(odd.notes.size(), 3);
+        QCOMPARE(odd.notes.size(), 2);
         QVERIFY(odd.notes.at(0).contains("line to line"));
-        QVERIFY(odd.notes.at(1).contains("split phase"));
-        QVERIFY(odd.notes.at(2).contains("current, load"));
+        QVERIFY(odd.notes.at(1).contains("current, load"));
     }
 
     void oddValuesAreAbsent()

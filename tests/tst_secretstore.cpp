@@ -3,6 +3,7 @@
 
 #include "config/devicesecrets.h"
 #include "config/filesecretstore.h"
+#include "config/keychainsecretstore.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -124,6 +125,17 @@ private slots:
             QVERIFY(write(store, "b", "x").message.contains("damaged"));
             QVERIFY(file.open(QIODevice::ReadOnly));
             QCOMPARE(file.readAll(), bytes);
+        }
+    }
+
+    void keychainWithoutService()
+    {
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+        KeychainSecretStore store;
+        for (const SecretResult& result : {read(store, "a"), write(store, "a", "sesame")}) {
+            QCOMPARE(result.status, Status::Failed);
+            QVERIFY2(result.message.contains("store = file"), qPrintable(result.message));
+            QVERIFY(!result.message.contains("sesame"));
         }
     }
 

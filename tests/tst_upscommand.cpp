@@ -17,6 +17,7 @@ private slots:
     void names();
     void addresses_data();
     void addresses();
+    void communityIsNotShown();
 };
 
 void TestUpsCommand::events_data()
@@ -125,6 +126,16 @@ void TestUpsCommand::addresses()
     QCOMPARE(parsed.address->scenario + parsed.address->ups + parsed.address->community +
                  parsed.address->user,
              who);
+}
+
+void TestUpsCommand::communityIsNotShown()
+{
+    const auto shown = [](const char* text) {
+        return shownAddress(*parseDeviceAddress(text).address);
+    };
+    QCOMPARE(shown("snmp://private@h:1161?version=1"), QString("snmp://h:1161?version=1"));
+    QCOMPARE(shown("snmp://eve@h?version=3"), QString("snmp://eve@h?version=3"));
+    QCOMPARE(shown("nut://h/ups"), QString("nut://h/ups"));
 }
 
 QTEST_APPLESS_MAIN(TestUpsCommand)

@@ -57,7 +57,7 @@ QJsonObject jsonOf(const Device& device)
         notes = QJsonArray::fromStringList(readingNotes(*reading));
         texts = QJsonArray::fromStringList(reading->alarmTexts);
     }
-    return {{"address", device.address()},
+    return {{"address", device.settings().address.text},
             {"state", linkStateName(device.link())},
             {"message", device.message()},
             {"values", valuesOf(device.snapshot(SnapshotPage::Device))},

@@ -170,3 +170,12 @@ ParsedAddress parseDeviceAddress(const QString& text)
     address.host = url.host();
     return nut ? parseNut(url, address) : parseSnmp(url, address);
 }
+
+QString shownAddress(const DeviceAddress& address)
+{
+    if (address.scheme != DeviceAddress::Scheme::Snmp || address.snmpVersion == 3)
+        return address.text;
+    QUrl url(address.text, QUrl::StrictMode);
+    url.setUserInfo(QString());
+    return url.toString();
+}

@@ -48,6 +48,9 @@ struct ParsedAddress {
 // A secret in the address is an error: secrets come from the configuration.
 ParsedAddress parseDeviceAddress(const QString& text);
 
+// The address for windows and lists: a community is as good as a password and is left out.
+QString shownAddress(const DeviceAddress& address);
+
 // The address in its shortest usual form; `text` does not count. Parsing it gives the same address,
 // or the reason why there is none.
 QString deviceAddressText(const DeviceAddress& address);

@@ -11,5 +11,5 @@ QString DeviceSettings::displayName() const
                    ? QCoreApplication::translate("DeviceSettings", "Simulator")
                    : QCoreApplication::translate("DeviceSettings", "Simulator, %1")
                          .arg(address.scenario);
-    return address.ups.isEmpty() ? address.text : address.ups;
+    return address.ups.isEmpty() ? shownAddress(address) : address.ups;
 }

@@ -66,7 +66,7 @@ QMap<int, QVariant> Device::snapshot(SnapshotPage page) const
     info.protocol = QLatin1String(protocols[static_cast<int>(m_settings.address.scheme)]);
     info.state = linkStateName(link());
     info.failedPolls = failedPolls();
-    info.address = m_settings.address.text;
+    info.address = address();
     return deviceSnapshot(*m_reading, page, info);
 }
 

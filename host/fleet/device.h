@@ -27,7 +27,8 @@ public:
 
     const DeviceSettings& settings() const { return m_settings; }
     QString name() const { return m_settings.displayName(); }
-    QString address() const { return m_settings.address.text; }
+    // As it may be shown: without a community.
+    QString address() const { return shownAddress(m_settings.address); }
     bool isSimulated() const;
 
     // Live only while the last good reading is young enough to be called so: a reading that has

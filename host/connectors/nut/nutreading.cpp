@@ -266,8 +266,6 @@ void readGroup(const NutVariables& variables, const GroupRow& row, UpsReading& r
         if (!lines.frequency[i])
             lines.frequency[i] = frequency;
 
-    if (lines.lines == 2)
-        reading.notes << Tr::tr("%1 is split phase (two lines).").arg(caption);
     if (!totals.isEmpty())
         reading.notes << Tr::tr("%1: one value for all lines (%2), shown in the first.")
                              .arg(caption, totals.join(QStringLiteral(", ")));
