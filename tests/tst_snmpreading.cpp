@@ -98,54 +98,37 @@ private slots:
         };
         row("unknown: -1", "2.3.0", "2.3.0 i -1", "runtime", "-");
         row("unknown: 65535", "2.6.0", "2.6.0 i 65535", "batteryCurrent", "-");
-        row("unknown: 655350", "2.5.0", "2.5.0 i 655350", "batteryVoltage", "-");
         row("null is absent", "2.7.0", "2.7.0 n", "temperature", "-");
         row("digits in a text are a number", "2.3.0", "2.3.0 t  042 ", "runtime", "2520");
-        row("a number is no text", "1.2.0", "1.2.0 i 5", "names",
-            "Example Power||UPS West|4.2|1.0.7|racks 1-4|Hall 2");
         row("empty name: that of the system", "1.5.0", "1.5.0 t ", "names",
             "Example Power|Tower 60|card-1|4.2|1.0.7|racks 1-4|Hall 2");
         row("control characters go", "1.1.0", "1.1.0 t A\x1b[1mB", "names",
             "A[1mB|Tower 60|UPS West|4.2|1.0.7|racks 1-4|Hall 2");
 
-        row("source 8", "4.1.0", "4.1.0 i 8", "source", "1");
         row("source is null", "4.1.0", "4.1.0 n", "source", "1");
 
         row("low comes before a test", "2.1.0", "2.1.0 i 3\n7.3.0 i 5", "battery", "3");
         row("a test comes before discharge", "7.3.0", "7.3.0 i 5\n4.1.0 i 5", "battery", "5");
-        row("discharge", "4.1.0", "4.1.0 i 5", "battery", "8");
 
         row("on battery: seconds count", "4.1.0", "4.1.0 i 5\n2.2.0 i 12", "seconds", "12");
         row("on mains: the last outage does not", "2.2.0", "2.2.0 i 12", "seconds", "0");
-        row("on battery without the object", "2.2.0", "4.1.0 i 5", "seconds", "-");
 
         row("one line, phantom rows", "3.2.0", "3.2.0 i 1", "input",
             "1: 229/-/- V 6.5/-/- A 49.9/-/- Hz 1310/-/- W -/-/- %");
         row("no bypass, but rows of zeros", "5",
             "5.1.0 i 0\n5.2.0 i 0\n5.3.1.2.1 i 0\n5.3.1.2.2 i 0", "bypass",
             "0: -/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
-        row("no line counted, but voltage", "5.2.0", "5.2.0 i 0", "bypass",
-            "3: 232/233/234 V 0.1/0.2/0.3 A 49.8/49.8/49.8 Hz 10/20/30 W -/-/- %");
         row("lines without a count", "3.2.0", "", "input",
             "3: 229/230/231 V 6.5/6.6/6.7 A 49.9/50/50.1 Hz 1310/1320/1330 W -/-/- %");
-        row("rows of null are no lines", "3",
-            "3.3.1.3.1 i 2360\n3.3.1.3.2 n\n3.3.1.3.3 n\n3.3.1.4.1 n", "input",
-            "1: 2360/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
         row("longer index: the first part is the line", "3",
             "3.2.0 i 1\n3.3.1.2.1.0 i 600\n3.3.1.3.1.0 i 224", "input",
             "1: 224/-/- V -/-/- A 60/-/- Hz -/-/- W -/-/- %");
-        row("lines 0 and 4 do not exist", "3", "3.3.1.3.0 i 1\n3.3.1.3.1 i 230\n3.3.1.3.4 i 4",
-            "input", "1: 230/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %");
 
         row("rows of zero identifiers are empty", "6.2", "6.2.1.2.1 o 0.0\n6.2.1.2.2 o 0", "alarms",
             " ");
-        row("the same alarm twice", "6.2",
-            "6.2.1.2.22 o 1.3.6.1.2.1.33.1.6.3.1\n6.2.1.2.23 o 1.3.6.1.2.1.33.1.6.3.1", "alarms",
-            "1 ");
         row("alarm 24 and one beyond", "6.2",
             "6.2.1.2.1 o 1.3.6.1.2.1.33.1.6.3.24\n6.2.1.2.2 o 1.3.6.1.2.1.33.1.6.3.25", "alarms",
             "24 1.3.6.1.2.1.33.1.6.3.25");
-        row("an identifier as text", "6.2", "6.2.1.2.1 t .1.3.6.1.2.1.33.1.6.3.2", "alarms", "2 ");
         row("a failed test is an alarm", "7.3.0", "7.3.0 i 3", "alarms",
             "16,19 1.3.6.1.4.1.99999.1.5");
         row("no alarm table: states are alarms", "6", "4.1.0 i 5\n2.1.0 i 3", "alarms", "2,3 ");
@@ -240,31 +223,22 @@ private slots:
     void remembersWhatIsMissing()
     {
         SnmpTable table = threePhase();
-        for (const char* subtree : {"9", "2.1.0", "4.1.0", "1.3.6.1.2.1.1.6"})
+        for (const char* subtree : {"9", "4.1.0"})
             table.removeBelow(subtree);
         SnmpMemory memory;
         QCOMPARE(pollOnce(table, memory, 1).state, LinkState::Live);
-        const int first = table.requests;
-        table.requests = 0;
         table.load("4.1.0 i 5\n9.1.0 i 230"); // the agent has started up meanwhile
         const PollResult later = pollOnce(table, memory, 1);
-        QVERIFY(table.requests < first - 8);
         QCOMPARE(later.reading.outputSource, OutputSource::Battery); // never given up
         QVERIFY(!later.reading.ratedInputVoltage); // asked for again after a while
-        for (int i = 0; i < 60; ++i)
+        SnmpMemory restarted = memory;
+        for (int i = 0; i < 61; ++i)
             pollOnce(table, memory, 1);
         QVERIFY(pollOnce(table, memory, 1).reading.ratedInputVoltage);
-    }
 
-    void noticesARestart()
-    {
-        SnmpTable table = threePhase();
-        table.removeBelow("9");
-        SnmpMemory memory;
-        pollOnce(table, memory, 1);
-        table.load("1.3.6.1.2.1.1.3.0 i 100\n9.1.0 i 230");
-        pollOnce(table, memory, 1);
-        QVERIFY(pollOnce(table, memory, 1).reading.ratedInputVoltage);
+        table.load("1.3.6.1.2.1.1.3.0 i 100"); // or at once when the agent has restarted
+        pollOnce(table, restarted, 1);
+        QVERIFY(pollOnce(table, restarted, 1).reading.ratedInputVoltage);
     }
 
     void tellsWhyThereIsNoReading()
@@ -323,34 +297,24 @@ private slots:
 
         row("self-test", "self-test", "", none, O::Done, "begun", 1,
             "7.1.0 o 1.3.6.1.2.1.33.1.7.7.4");
-        row("discharge test", "discharge-test", "", none, O::Done, "begun", 1,
-            "7.1.0 o 1.3.6.1.2.1.33.1.7.7.5");
-        row("no spin lock", "self-test", "", without("7.2"), O::Done, "begun", 1);
         row("test running", "self-test", "", with("7.3.0 i 5"), O::Refused, "already", 0);
         row("test fails at once", "self-test", "", onSet("7.3.0 i 3"), O::Refused, "failed", 1);
         row("without effect", "self-test", "", onSet(""), O::NoAnswer, "no effect", 1);
         row("no tests", "self-test", "", without("7"), O::NotOffered, "no test objects", 0);
         row("cancel", "cancel-test", "", with("7.3.0 i 5"), O::Done, "ended", 1,
             "7.1.0 o 1.3.6.1.2.1.33.1.7.7.2");
-        row("cancel without a test", "cancel-test", "", none, O::Refused, "No test", 0);
 
         row("shutdown of another type", "shutdown", "", with("8.1.0 i 2"), O::Done, "20 s", 2,
             "8.1.0 i 1\n8.2.0 i 20");
         row("standby of minutes", "standby", "5", none, O::Done, "300 s", 1, "8.4.0 i 300");
         row("standby of hours", "standby", "120", none, O::Done, "20 s", 2,
             "8.3.0 i 7200\n8.2.0 i 20");
-        row("no reboot", "standby", "5", without("8.4"), O::Done, "20 s", 2,
-            "8.3.0 i 300\n8.2.0 i 20");
         row("wake-up", "wake-up", "", with("4.1.0 i 2"), O::Done, "", 1, "8.3.0 i 0");
         row("restart", "restart", "", none, O::Done, "60 s", 1, "8.4.0 i 60");
         row("off at once", "shutdown", "", onSet("4.1.0 i 2\n8.2.0 i -1"), O::Done, "off", 1);
-        row("no shutdown object", "shutdown", "", without("8"), O::NotOffered, "no object", 0);
 
         row("read-only community", "shutdown", "", error(SnmpNoAccess), O::Refused,
             "community needs write access", 1, "8.2.0 i -1");
-        row("the same in version 1", "shutdown", "", error(SnmpNoSuchName), O::Refused,
-            "write access", 1);
-        row("wrong value", "restart", "", error(SnmpWrongValue), O::Refused, "accept the value", 1);
         row(
             "error in the value only", "shutdown", "", [](T& t) { t.setSaysNoInstance = true; },
             O::Refused, "write access", 1);
