@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QtTest>
 
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -16,7 +17,6 @@ namespace {
 using Snapshot = QMap<int, QVariant>;
 
 constexpr int kIntMax = std::numeric_limits<int>::max();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 class Page : public RateInfoForm
 {
@@ -42,104 +42,68 @@ public:
     }
 };
 
-struct Format {
-    int type;
-    float factor = 1.0f;
-    int lines = 1;
-    int key = 100;
-    int min = 0;
-    int max = 0;
-    int strLength = 0;
-    const char* unit = "";
-};
-
 } // namespace
-Q_DECLARE_METATYPE(Format)
 
 class TestRateInfoForm : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void format_data();
     void format();
-    void firstOfTwoTexts();
     void panels();
     void boundsAndCodes();
     void phases();
     void deviceText();
 };
 
-void TestRateInfoForm::format_data()
-{
-    QTest::addColumn<Format>("format");
-    QTest::addColumn<QVariantList>("raw"); // from key 100 on
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* name, const Format& format, const QVariantList& raw,
-                        const char* text) {
-        QTest::newRow(name) << format << raw << QString::fromUtf8(text);
-    };
-    const Format tenths{StrFormat_Int, 0.1f};
-    const Format whole{StrFormat_Int};
-    const Format float1{StrFormat_Float1, 0.1f};
-    const Format chars4{StrFormat_Str, 1.0f, 1, 100, 0, 0, 4};
-    const Format text{StrFormat_Str2};
-    const auto withUnit = [](Format format, const char* unit) {
-        format.unit = unit;
-        return format;
-    };
-
-    row("Int: missing key", withUnit(tenths, "V"), {}, "0 V");
-    row("Int: truncated toward zero", tenths, {-15}, "-1");
-    row("Int: INT_MAX stays", whole, {kIntMax}, "2147483647");
-    row("Int: saturates above", {StrFormat_Int, 2.0f}, {kIntMax}, "2147483647");
-    row("Int: saturates below", {StrFormat_Int, 1e30f}, {-1}, "-2147483648");
-    row("Int: NaN factor", {StrFormat_Int, std::numeric_limits<float>::quiet_NaN()}, {5}, "0");
-    row("Int2: one line", {StrFormat_Int2}, {1, 2, 3}, "1");
-    row("Int2: three lines", {StrFormat_Int2, 1.0f, 3}, {1, 2, 3}, "1/2/3");
-    row("Int3: three lines, stride two", {StrFormat_Int3, 1.0f, 3}, {1, 2, 3, 4, 5}, "1/3/5");
-    row("Int3: last key of all", {StrFormat_Int3, 1.0f, 3, kIntMax}, {}, "0/0/0");
-    row("Float1", float1, {2305}, "230.5");
-    row("Float1: NaN", float1, {kNaN}, "nan");
-    row("Float2: three lines", {StrFormat_Float2, 0.1f, 3}, {1, 2, 3}, "0.1/0.2/0.3");
-    row("Float3: unit alone", withUnit({StrFormat_Float3}, "V"), {1}, " V");
-    row("unknown format: unit alone", withUnit({99}, "W"), {1}, " W");
-    row("Str: ends at zero", chars4, {65, 66, 0, 67}, "AB");
-    row("Str: low byte", chars4, {0x141, -191}, "AA");
-    row("Str: endless length", {StrFormat_Str, 1.0f, 1, 100, 0, 0, kIntMax}, {65, 66}, "AB");
-    row("Str: length past the last key", {StrFormat_Str, 1.0f, 1, kIntMax, 0, 0, 9}, {}, "");
-    row("Str2: simplified", text, {"  a \n\t b  "}, "a b");
-    row("Str2: format string", text, {"%1 %s%n %%"}, "%1 %s%n %%");
-}
-
 void TestRateInfoForm::format()
 {
-    QFETCH(Format, format);
-    QFETCH(QVariantList, raw);
-    QFETCH(QString, text);
-    ParameterInformation p;
-    p.factor = format.factor;
-    p.strUnit = QString::fromUtf8(format.unit);
-    p.setFormat(format.key, format.type, format.min, format.max);
-    p.strLength = format.strLength;
-    p.setLines(format.lines);
-    Page page;
-    for (int i = 0; i < raw.size(); ++i)
-        page.realData.insert(100 + i, raw.at(i));
-    QCOMPARE(page.getPvalue(&p), text);
-    QCOMPARE(page.getPvalue(nullptr), QString());
-}
-
-void TestRateInfoForm::firstOfTwoTexts()
-{
-    ParameterInformation p;
-    p.setFormat(100, StrFormat_combo, 0);
-    p.strUnit = "u";
-    p.comboxMap = {{"b", 1}, {"a", 1}};
-    Page page;
-    QCOMPARE(page.getPvalue(&p), QStringLiteral(" u"));
-    page.realData[100] = 1;
-    QCOMPARE(page.getPvalue(&p), QStringLiteral("a u"));
+    constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+    const struct {
+        int type;
+        float factor;
+        int lines;
+        QVariantList raw; // from the key on
+        const char* text;
+        int key = 100;
+        int strLength = 4;
+    } rows[] = {
+        {StrFormat_Int, 0.1f, 1, {}, "0 V"},     // missing key
+        {StrFormat_Int, 0.1f, 1, {-15}, "-1 V"}, // truncated toward zero
+        {StrFormat_Int, 1.0f, 1, {kIntMax}, "2147483647 V"},
+        {StrFormat_Int, 2.0f, 1, {kIntMax}, "2147483647 V"}, // saturates
+        {StrFormat_Int, 1e30f, 1, {-1}, "-2147483648 V"},
+        {StrFormat_Int, kNaN, 1, {5}, "0 V"},
+        {StrFormat_Int2, 1.0f, 1, {1, 2, 3}, "1 V"},
+        {StrFormat_Int2, 1.0f, 3, {1, 2, 3}, "1/2/3 V"},
+        {StrFormat_Int3, 1.0f, 3, {1, 2, 3, 4, 5}, "1/3/5 V"},
+        {StrFormat_Int3, 1.0f, 3, {}, "0/0/0 V", kIntMax}, // last key of all
+        {StrFormat_Float1, 0.1f, 1, {2305}, "230.5 V"},
+        {StrFormat_Float1, 1.0f, 1, {std::nan("")}, "nan V"},
+        {StrFormat_Float2, 0.1f, 3, {1, 2, 3}, "0.1/0.2/0.3 V"},
+        {StrFormat_Float3, 1.0f, 1, {1}, " V"}, // the unit alone
+        {99, 1.0f, 1, {1}, " V"},
+        {StrFormat_Str, 1.0f, 1, {65, 0x142, 0, 67}, "AB V"}, // low bytes up to zero
+        {StrFormat_Str, 1.0f, 1, {65, 66}, "AB V", 100, kIntMax},
+        {StrFormat_Str, 1.0f, 1, {}, " V", kIntMax, 9},
+        {StrFormat_Str2, 1.0f, 1, {"  a \n\t %1 %s%n  "}, "a %1 %s%n V"},
+        {StrFormat_combo, 1.0f, 1, {}, " V"},
+        {StrFormat_combo, 1.0f, 1, {1}, "a V"}, // the first of two texts
+    };
+    for (const auto& row : rows) {
+        ParameterInformation p;
+        p.factor = row.factor;
+        p.strUnit = "V";
+        p.setFormat(row.key, row.type, 0);
+        p.strLength = row.strLength;
+        p.comboxMap = {{"b", 1}, {"a", 1}};
+        p.setLines(row.lines);
+        Page page;
+        for (int i = 0; i < row.raw.size(); ++i)
+            page.realData.insert(100 + i, row.raw.at(i));
+        QCOMPARE(page.getPvalue(&p), QString(row.text));
+    }
+    QCOMPARE(Page().getPvalue(nullptr), QString());
 }
 
 void TestRateInfoForm::panels()
@@ -171,8 +135,6 @@ void TestRateInfoForm::panels()
     };
     Page page;
     QCOMPARE(page.value("battery voltage:"), QStringLiteral("- V"));
-    QCOMPARE(page.value("Time on battery:"), QStringLiteral(" s"));
-    QCOMPARE(page.value("Number of mains failure"), QString());
     Snapshot snapshot; // every key has a value of its own, so that a mixed-up key shows
     for (int key = realdata_BatteryStatus; key <= realdata_Reserve5; ++key)
         snapshot[key] = 100 + key;
@@ -188,7 +150,6 @@ void TestRateInfoForm::panels()
         QCOMPARE(found.join(", "), QString::fromUtf8(shown));
     }
     page.RefreshRateInfo({}); // replaces everything
-    QCOMPARE(page.value("UPS model"), QString());
     QCOMPARE(page.value("battery voltage:"), QStringLiteral("0.0 V"));
 }
 
@@ -205,7 +166,6 @@ void TestRateInfoForm::boundsAndCodes()
         {"battery temperature:", realdata_BatTemp, -10, "-- ℃"},
         {"battery state:", realdata_BatteryStatus, 0, ""}, // of three codes for it, the last counts
         {"battery state:", realdata_BatteryStatus, 3, "Low"},
-        {"battery state:", realdata_BatteryStatus, 9, "Normal"},
         {"Output Mode:", realdata_OutputSource, 0, "None"},
         {"Output Mode:", realdata_OutputSource, 8, ""},
         {"Rated active power", realdata_ConfigOPW_Hi, 0, "-- W"},
@@ -230,11 +190,9 @@ void TestRateInfoForm::phases()
     } rows[] = {
         {"input voltage:", realdata_InputNumLines, 3, realdata_InputVoltage_A,
          "231.0/232.0/233.0 V"},
-        {"input frequency:", realdata_InputNumLines, "3", realdata_InputFre_A, "23.1/23.2/23.3 Hz"},
         {"input PF:", realdata_InputNumLines, 3, realdata_InputPower_A_Hi, "231 W"},
         {"output current:", realdata_OutputNumLines, 3, realdata_OutputCurrent_A,
          "23.1/23.2/23.3 A"},
-        {"bypass voltage:", realdata_BypNumLines, 3, realdata_BypVoltage_A, "231.0/232.0/233.0 V"},
         {"bypass current:", realdata_BypNumLines, 2, realdata_BypCurrent_A, "23.1 A"},
     };
     Page page;
@@ -251,8 +209,7 @@ void TestRateInfoForm::deviceText()
     const std::pair<QVariant, QString> rows[] = {{"<h1>x</h1>&amp;", "<h1>x</h1>&amp;"},
                                                  {"a\nb\r\nc", "a b c"},
                                                  {QString(100000, 'W'), QString(100000, 'W')},
-                                                 {QVariantList{1, 2}, QString()},
-                                                 {QByteArray("\xff\xfe"), "\ufffd\ufffd"}};
+                                                 {QVariantList{1, 2}, QString()}};
     Page page;
     page.RefreshRateInfo({{info_quenta_location, "Building 3, basement"}});
     page.resize(741, 700);
@@ -266,7 +223,6 @@ void TestRateInfoForm::deviceText()
             hostile.insert(key, raw);
         page.RefreshRateInfo(hostile);
         QVERIFY(!page.grab().isNull());
-
         const QLabel* label = page.valueLabel("Agent location");
         QCOMPARE(label->text(), text);
         QCOMPARE(label->textFormat(), Qt::PlainText);
