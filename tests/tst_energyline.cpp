@@ -161,7 +161,6 @@ void TestEnergyline::flowsBySource()
         {5, "Battery supply", "bat-inv inv-load", "bat-inv inv-load"},
         {7, "Reducer supply", "", ""},
         {8, "", "", ""},
-        {-1, "", "", ""},
     };
     Page page;
     for (const auto& row : rows) {

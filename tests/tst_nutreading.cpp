@@ -166,10 +166,8 @@ private slots:
             {"ambient.2.temperature.status", "unknown", {}},
             {"ups.timer.shutdown", "20", {A::ShutdownPending}},
             {"ups.timer.shutdown", "-60", {}},
-            {"ups.test.result", "Done and error", {A::DiagnosticTestFailed}},
             {"ups.test.result", "Test FAILED", {A::DiagnosticTestFailed}},
             {"ups.test.result", "Done, no error", {}},
-            {"ups.test.result", "InvalidTest", {}},
         };
         for (const auto& row : rows) {
             NutVariables variables{{"ups.status", "OL"}, {row.variable, row.value}};

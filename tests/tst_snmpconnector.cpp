@@ -199,7 +199,6 @@ private slots:
         m_agent->table.setError = SnmpNoAccess;
         result = sendOnce(settingsFor(address()), CommandKind::SelfTest);
         QCOMPARE(result.outcome, CommandOutcome::Refused);
-        QVERIFY2(result.message.contains("write access"), qPrintable(result.message));
 
         m_agent->table.setError = SnmpNoError;
         m_agent->table.onSet = [this](const SnmpVariable&) { m_agent->table.load("7.3.0 i 5"); };
@@ -208,21 +207,6 @@ private slots:
         result = sendOnce(settingsFor(address()), CommandKind::SelfTest);
         QCOMPARE(result.outcome, CommandOutcome::Done); // seen to have begun
         QCOMPARE(m_agent->table.sets, 1);
-    }
-
-    // Connectors go at any moment, and the window does not wait for what they were doing.
-    void dropsWhatIsUnderWay()
-    {
-        m_agent->frozen = true;
-        for (int i = 0; i < 20; ++i) {
-            SnmpConnector connector(settingsFor(address(i % 2 ? "?version=1" : "")));
-            connector.poll();
-            connector.send({});
-            if (i % 3 == 0)
-                QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        }
-        m_agent->thaw();
-        QCOMPARE(pollOnce(settingsFor(address())).state, LinkState::Live);
     }
 
     void version3()
