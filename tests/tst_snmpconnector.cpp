@@ -209,6 +209,20 @@ private slots:
         QCOMPARE(m_agent->table.sets, 1);
     }
 
+    // Connectors go at any moment, whatever they were doing.
+    void dropsWhatIsUnderWay()
+    {
+        m_agent->frozen = true;
+        for (const char* query : {"", "?version=1"}) {
+            SnmpConnector connector(settingsFor(address(query)));
+            connector.poll();
+            connector.send({});
+            QTest::qWait(10);
+        }
+        m_agent->thaw();
+        QCOMPARE(pollOnce(settingsFor(address())).state, LinkState::Live);
+    }
+
     void version3()
     {
         using L = LinkState;

@@ -139,28 +139,6 @@ private slots:
         }
     }
 
-    // Odd lengths and types in every place that is looked at.
-    void survivesAnyMap()
-    {
-        const SnmpTable table = threePhase();
-        const SnmpValue odd[] = {SnmpValue::text({}), SnmpValue::objectId({}),
-                                 SnmpValue::text(QByteArray(100000, '\xff')),
-                                 SnmpValue::number(std::numeric_limits<qint64>::min()),
-                                 SnmpValue::objectId(SnmpOid(200, 4294967295u))};
-        for (const SnmpValue& value : odd) {
-            SnmpValues values;
-            for (const auto& object : table.objects) {
-                values[object.first] = value;
-                values[object.first + SnmpOid{0, 4294967295u}] = value;
-                values[SnmpOid(object.first.begin(), object.first.end() - 1)] = value;
-            }
-            const UpsReading reading = readingFromSnmp(values);
-            QCOMPARE(reading.outputSource, OutputSource::Other);
-            QVERIFY(reading.manufacturer.size() <= 255);
-        }
-        QVERIFY(!hasUpsObjects({}));
-    }
-
     // Whatever the agent's habits: the same reading, within the time of a poll, and the next poll
     // does not try in vain again.
     void polls()
