@@ -86,12 +86,14 @@ int runWindow(const WindowOptions& options)
     applyTheme(options.theme);
     const DeskConfig config = DeskConfig::load();
     OperatorSession session;
-    session.setOperators(Operators(config.operators()));
-    session.setIdleTime(config.settings().idleLogout * kMsPerMinute);
     ActivityWatch watch(session);
-
     Fleet fleet(makeConnector);
-    fleet.setThresholds(config.settings().thresholds);
+    const auto follow = [&session, &fleet](const DeskConfig& now) {
+        session.setOperators(Operators(now.operators()));
+        session.setIdleTime(now.settings().idleLogout * kMsPerMinute);
+        fleet.setThresholds(now.settings().thresholds);
+    };
+    follow(config);
     EventLog log;
     CommandDesk desk(fleet, log, [&session] {
         return CommandDesk::Operator{session.name(), session.level()};
@@ -104,9 +106,7 @@ int runWindow(const WindowOptions& options)
     WatchList list(fleet, config, SecretStore::make(config.settings().secrets));
     QObject::connect(&list, &WatchList::secretsFailed, &window,
                      [&window](const QString& text) { window.tell(text, true); });
-    QObject::connect(&list, &WatchList::changed, &session, [&list, &session] {
-        session.setOperators(Operators(list.config().operators()));
-    });
+    QObject::connect(&list, &WatchList::changed, &session, [&] { follow(list.config()); });
     if (!options.kiosk)
         window.setActions(new DeviceActions(fleet, list, makeConnector, &window));
     for (const DeviceSettings& settings : qAsConst(devices))

@@ -73,6 +73,10 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorS
         connect(m_pages, &QStackedWidget::currentChanged, m_overviewButton,
                 [this] { m_overviewButton->setVisible(currentPage()); });
         m_overviewButton->hide();
+        for (QWidget* deskOnly : {static_cast<QWidget*>(m_list), static_cast<QWidget*>(m_counts)}) {
+            deskOnly->setParent(this);
+            deskOnly->hide();
+        }
         desk.lock();
         setCentralWidget(right);
     } else {
