@@ -82,8 +82,12 @@ void DeviceHeading::show(const Device& device)
     const Condition condition = device.condition();
     m_name->setFullText(device.name());
     m_condition->setFullText(condition.text);
-    m_condition->setStyleSheet(
-        QStringLiteral("color: %1;").arg(urgencyTextColor(condition.urgency, palette()).name()));
+    // Styling anew costs, and ages are told every second.
+    const QString color = urgencyTextColor(condition.urgency, palette()).name();
+    if (color != m_conditionColor) {
+        m_conditionColor = color;
+        m_condition->setStyleSheet(QStringLiteral("color: %1;").arg(color));
+    }
     m_since->setFullText(sinceText(device.conditionSince()));
     m_age->setFullText(linkText(device.link(), device.ageMs()) + QStringLiteral("  \u00b7  ") +
                        device.address());

@@ -25,6 +25,7 @@ private:
 
     PlainLabel* m_name;
     PlainLabel* m_condition;
+    QString m_conditionColor;
     PlainLabel* m_since;
     PlainLabel* m_age;
     PlainLabel* m_notes;

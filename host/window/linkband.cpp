@@ -28,7 +28,10 @@ void LinkBand::say(const QString& title, const QString& text, bool isWaiting)
     m_title->setText(title);
     m_text->setText(text);
     setAccessibleName(title + QStringLiteral(": ") + text);
-    const QColor color = urgencyColor(isWaiting ? Urgency::Notice : Urgency::Alarm);
+    const QString color = urgencyColor(isWaiting ? Urgency::Notice : Urgency::Alarm).name();
+    if (color == m_color)
+        return;
+    m_color = color;
     setStyleSheet(
-        QStringLiteral("#LinkBand { background: %1; } QLabel { color: white; }").arg(color.name()));
+        QStringLiteral("#LinkBand { background: %1; } QLabel { color: white; }").arg(color));
 }

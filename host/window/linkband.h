@@ -21,6 +21,7 @@ public:
 private:
     QLabel* m_title;
     QLabel* m_text;
+    QString m_color; // of the ground, as last set
 };
 
 #endif // LINKBAND_H
