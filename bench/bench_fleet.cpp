@@ -6,8 +6,8 @@
 #include "meteredapplication.h"
 #include "timedconnector.h"
 
-#include "config/operatorsession.h"
 #include "connectors/connectorfactory.h"
+#include "operators/operatorsession.h"
 #include "window/mainwindow.h"
 #include "window/theme.h"
 

@@ -8,8 +8,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-namespace
-{
+namespace {
 
 constexpr QSize kMinimumSize{300, 150}; // px
 constexpr int kMargin = 30;             // px, on all sides

@@ -3,7 +3,7 @@
 
 #include "config/checkconfig.h"
 #include "config/deskconfig.h"
-#include "config/passwordhash.h"
+#include "private/passwordhash.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
 // Adding and changing devices: address and fields in step, what is wrong is said, secrets are not
 // shown, a connection is tried without waiting, and the list's actions reach file and fleet.
 
-#include "config/filesecretstore.h"
 #include "fleet/watchlist.h"
+#include "secrets/filesecretstore.h"
 #include "support/scriptedconnector.h"
 #include "window/deviceactions.h"
 #include "window/devicedialog.h"

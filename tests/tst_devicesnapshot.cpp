@@ -2,8 +2,8 @@
 // difference between the pages. Also that the host's alarm texts are what the alarm page shows.
 
 #include "reading/devicesnapshot.h"
-#include "reading/devicetext.h"
 #include "reading/keynames.h"
+#include "reading/sanitize.h"
 
 #include "globalvar.h"
 #include "rteventform.h"

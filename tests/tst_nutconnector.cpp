@@ -142,7 +142,7 @@ private slots:
         QSignalSpy finished(&list, &NutServerList::finished);
         list.start();
         QVERIFY(finished.wait(kPatience));
-        const auto devices = finished.at(0).at(0).value<QVector<NutDevice>>();
+        const auto devices = finished.at(0).at(0).value<QVector<NutUpsEntry>>();
         QCOMPARE(devices.size(), 2);
         QCOMPARE(devices.at(1).name, QString("three-phase"));
         QCOMPARE(devices.at(1).description, QString("Test device three-phase"));

@@ -1,9 +1,9 @@
 // Passwords, operators and the session at the window. Touches a temporary folder.
 
-#include "config/addoperator.h"
 #include "config/deskconfig.h"
-#include "config/operators.h"
-#include "config/operatorsession.h"
+#include "operators/addoperator.h"
+#include "operators/operators.h"
+#include "operators/operatorsession.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>

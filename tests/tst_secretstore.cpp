@@ -1,9 +1,9 @@
 // Secrets: the file and what devices need. Touches a temporary folder and the environment of this
 // process.
 
-#include "config/devicesecrets.h"
-#include "config/filesecretstore.h"
-#include "config/keychainsecretstore.h"
+#include "secrets/devicesecrets.h"
+#include "secrets/filesecretstore.h"
+#include "secrets/keychainsecretstore.h"
 
 #include <QTemporaryDir>
 #include <QtTest>

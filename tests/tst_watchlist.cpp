@@ -1,8 +1,8 @@
 // Configuration file, secret store and fleet stay in agreement, also where one of them refuses.
 // Touches a temporary folder.
 
-#include "config/devicesecrets.h"
 #include "fleet/watchlist.h"
+#include "secrets/devicesecrets.h"
 #include "support/scriptedconnector.h"
 
 #include <QFile>

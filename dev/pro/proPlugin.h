@@ -48,12 +48,12 @@ public:
     void changeFormat(int formatType);
     void changeRange(int min, int max);
 
-    QString strName;              // label, already translated
-    QString strValue;             // placeholder until the first value
-    QString strUnit;              // empty: no unit
-    float factor = 0;             // multiplies the raw value
-    int max = 0;                  // upper bound, valid itself
-    int min = 0;                  // lower bound, valid itself
+    QString strName;  // label, already translated
+    QString strValue; // placeholder until the first value
+    QString strUnit;  // empty: no unit
+    float factor = 0; // multiplies the raw value
+    int max = 0;      // upper bound, valid itself
+    int min = 0;      // lower bound, valid itself
     int formatType = StrFormat_Int;
     int sigNo = 0;                // data key of the value, or of its first component
     QString formatStr;            // kept for the host
@@ -70,7 +70,11 @@ class DEVVIEW_EXPORT CollectView : public QWidget
 
 public:
     // Starts as a top-level widget whatever parent is given: the host places the view itself.
-    explicit CollectView(QWidget* parent = nullptr) : QWidget(nullptr) { Q_UNUSED(parent) }
+    explicit CollectView(QWidget* parent = nullptr)
+        : QWidget(nullptr)
+    {
+        Q_UNUSED(parent)
+    }
     ~CollectView() override = default;
 
     // Names the device; control commands carry this name.

@@ -2,8 +2,7 @@
 
 #include "ui_chartform.h"
 
-namespace
-{
+namespace {
 
 constexpr int kSinglePage = 0; // any other index is the three-phase page
 

@@ -5,11 +5,9 @@
 #include <QLabel>
 #include <QPalette>
 
-namespace chartpage
-{
+namespace chartpage {
 
-namespace
-{
+namespace {
 
 enum Colour { Green, Yellow, Red }; // of DataChart's bands
 

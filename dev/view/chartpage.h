@@ -5,7 +5,7 @@
 // library only.
 // May touch: Qt, the gauge and the real-time block.
 
-#include "snapshot.h"
+#include "realtimeblock.h"
 
 #include <QList>
 #include <QString>
@@ -14,8 +14,7 @@ class DataChart;
 class QLabel;
 class QWidget;
 
-namespace chartpage
-{
+namespace chartpage {
 
 // From 0 to `top`; colours and limits as in DataChart::setRadioValue.
 struct GaugeScale {

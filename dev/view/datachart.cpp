@@ -9,8 +9,7 @@
 #include <cmath>
 #include <limits>
 
-namespace
-{
+namespace {
 
 // The arc: the upper half circle less 10 degrees at each end, in Qt's 1/16 degrees.
 constexpr int kArcDegrees = 160;

@@ -9,5 +9,4 @@ DynamicChart::DynamicChart(QWidget* parent)
                   true,
                   false},
                  parent)
-{
-}
+{}

@@ -3,11 +3,10 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QToolTip>
 #include <QtMath>
+#include <QToolTip>
 
-namespace
-{
+namespace {
 
 // No line is wider and no tool tip longer; measuring more would only cost time.
 constexpr int kMaxCharacters = 1000;

@@ -14,8 +14,7 @@
 
 // All lengths are px relative to the widget's centre unless a name says otherwise.
 
-namespace
-{
+namespace {
 
 constexpr int kStepMilliseconds = 100;
 constexpr double kStepInPenWidths = 0.4;
@@ -137,8 +136,7 @@ QSize Energyline::sizeHint() const
 
 // ---- Taking over a snapshot ----
 
-namespace
-{
+namespace {
 
 // Positions in supply_mode.
 enum Supply : int {

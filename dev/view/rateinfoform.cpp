@@ -2,7 +2,7 @@
 
 #include "elidedlabel.h"
 #include "proPlugin.h"
-#include "snapshot.h"
+#include "realtimeblock.h"
 #include "ui_rateinfoform.h"
 #include "valuetext.h"
 
@@ -13,8 +13,7 @@
 #include <iterator>
 #include <limits>
 
-namespace
-{
+namespace {
 
 enum Group { Device, Battery, Input, Output, Bypass, Rate };
 

@@ -5,8 +5,7 @@
 
 #include <QHeaderView>
 
-namespace
-{
+namespace {
 
 enum Column { GroupColumn, LabelColumn, ValueColumn, ColumnCount };
 constexpr int kColumnWidths[] = {150, 350}; // px, until the contents are known

@@ -9,8 +9,7 @@
 
 #include <iterator>
 
-namespace
-{
+namespace {
 
 struct AlarmText {
     const char* shown;   // while raised; none: never listed

@@ -5,8 +5,7 @@
 
 using chartpage::GaugeScale;
 
-namespace
-{
+namespace {
 
 using Form = Ui_RTSingleGraphForm;
 

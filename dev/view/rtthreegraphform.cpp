@@ -8,8 +8,7 @@
 
 using chartpage::GaugeScale;
 
-namespace
-{
+namespace {
 
 using Form = Ui_RTThreeGraphForm;
 

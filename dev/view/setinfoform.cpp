@@ -10,8 +10,7 @@
 
 #include <iterator>
 
-namespace
-{
+namespace {
 
 struct Command {
     int code;          // a CorvelEvent

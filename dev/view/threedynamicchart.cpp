@@ -11,5 +11,4 @@ ThreeDynamicChart::ThreeDynamicChart(QWidget* parent)
                   false,
                   true},
                  parent)
-{
-}
+{}

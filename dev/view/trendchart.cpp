@@ -7,8 +7,7 @@
 
 #include <cmath>
 
-namespace
-{
+namespace {
 
 constexpr double kSampleStep = 5.0;   // px between two samples
 constexpr int kTrimmedOnResize = 3;   // series 0 to 2; the others wait for their next sample

@@ -4,7 +4,7 @@
 // Numbers to text: pure functions, the same in every locale. Inside the library only.
 // May touch: Qt Core and the real-time block.
 
-#include "snapshot.h"
+#include "realtimeblock.h"
 
 #include <QString>
 

@@ -1,9 +1,9 @@
-#include "addoperatorcommand.h"
+#include "cli/addoperatorcommand.h"
 
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
-#include "config/addoperator.h"
 #include "config/deskconfig.h"
+#include "operators/addoperator.h"
 
 #include <QCommandLineParser>
 #include <QFile>

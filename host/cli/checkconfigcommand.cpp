@@ -1,4 +1,4 @@
-#include "checkconfigcommand.h"
+#include "cli/checkconfigcommand.h"
 
 #include "cli/clisupport.h"
 #include "cli/commandline.h"

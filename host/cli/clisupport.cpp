@@ -1,8 +1,8 @@
-#include "clisupport.h"
+#include "cli/clisupport.h"
 
 #include "config/deskconfig.h"
-#include "config/devicesecrets.h"
-#include "config/secretstore.h"
+#include "secrets/devicesecrets.h"
+#include "secrets/secretstore.h"
 
 #include <QCommandLineParser>
 #include <QEventLoop>

@@ -1,4 +1,4 @@
-#include "onepoll.h"
+#include "cli/onepoll.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

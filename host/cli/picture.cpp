@@ -1,4 +1,4 @@
-#include "picture.h"
+#include "cli/picture.h"
 
 #include "cli/clisupport.h"
 #include "cli/commandline.h"

@@ -1,4 +1,4 @@
-#include "probe.h"
+#include "cli/probe.h"
 
 #include "cli/clisupport.h"
 #include "cli/commandline.h"

@@ -1,11 +1,10 @@
-#include "checkconfig.h"
+#include "config/checkconfig.h"
 
-#include "deskconfig.h"
+#include "config/deskconfig.h"
 
 #include <QCoreApplication>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(CheckConfig)

@@ -4,7 +4,7 @@
 // What `upsdesk check-config` says.
 // May touch: the configuration file, for reading.
 
-#include "configfault.h"
+#include "config/configfault.h"
 
 // All faults in the order of the lines. A missing file is one warning.
 ConfigFaults checkConfig(const QString& path);

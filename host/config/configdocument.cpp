@@ -1,6 +1,6 @@
-#include "configdocument.h"
+#include "config/configdocument.h"
 
-#include "privatefile.h"
+#include "private/privatefile.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -9,8 +9,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(ConfigDocument)

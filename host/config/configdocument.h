@@ -12,8 +12,8 @@
 // Faults: a line that cannot be read is skipped, a section whose header cannot be read or that is
 // there twice is skipped whole, and so is the second of two equal keys. The rest is used.
 
-#include "configfault.h"
-#include "configline.h"
+#include "config/configfault.h"
+#include "config/configline.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "configline.h"
+#include "config/configline.h"
 
 #include <QCoreApplication>
 #include <QTextCodec>
@@ -7,8 +7,7 @@
 #include <cctype>
 #include <cstring>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(ConfigLine)
@@ -43,8 +42,7 @@ class LineReader
 public:
     explicit LineReader(const QByteArray& bytes)
         : m_bytes(bytes)
-    {
-    }
+    {}
 
     int position() const { return m_position; }
     bool atEnd() const { return m_position >= m_bytes.size(); }

@@ -1,7 +1,7 @@
-#include "deskconfig.h"
+#include "config/deskconfig.h"
 
-#include "passwordhash.h"
-#include "privatefile.h"
+#include "private/passwordhash.h"
+#include "private/privatefile.h"
 #include "reading/readingscale.h"
 
 #include <QCoreApplication>

@@ -5,10 +5,9 @@
 // May touch: Qt Core, the file system, addresses, names of readings.
 //
 //  [poll]        interval        1..3600 s, default 5; for devices without their own
-//  [thresholds]  charge-low, charge-critical, runtime-low, load-high, temperature-high: see Thresholds
-//  [session]     idle-logout     1..1440 min, default 10
-//  [secrets]     store           keychain (default) or file
-//  [operator "NAME"]  level      0..9
+//  [thresholds]  charge-low, charge-critical, runtime-low, load-high, temperature-high: see
+//  Thresholds [session]     idle-logout     1..1440 min, default 10 [secrets]     store keychain
+//  (default) or file [operator "NAME"]  level      0..9
 //                     hash       as `upsdesk add-operator` writes it
 //  [device "NAME"]    address    sim:, nut:// or snmp://
 //                     user       account of a NUT server
@@ -25,21 +24,12 @@
 // used is left out; each is a fault of severity error. What is not known here is kept and warned
 // of.
 
-#include "configdocument.h"
+#include "config/configdocument.h"
+#include "config/desksettings.h"
+#include "config/operatoraccount.h"
 #include "connectors/devicesettings.h"
-#include "fleet/thresholds.h"
-#include "operatoraccount.h"
 
 #include <functional>
-
-enum class SecretsChoice { Keychain, File };
-
-struct DeskSettings {
-    int pollInterval = 5; // s
-    int idleLogout = 10;  // min
-    Thresholds thresholds;
-    SecretsChoice secrets = SecretsChoice::Keychain;
-};
 
 class DeskConfig
 {

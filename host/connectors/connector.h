@@ -5,19 +5,12 @@
 // May touch: readings and Qt Core; a connector knows its protocol library, never a widget, the
 // fleet or the history.
 
+#include "connectors/linkstate.h"
 #include "connectors/upscommand.h"
 #include "reading/upsreading.h"
 
 #include <QObject>
 #include <QString>
-
-enum class LinkState {
-    Connecting, // nothing heard yet
-    Live,
-    Stale,  // the server answers, the driver behind it is silent
-    Lost,   // no answer
-    Refused // the answer says no: unknown device, access denied
-};
 
 // What one poll brought. reading matters only when state is Live.
 struct PollResult {

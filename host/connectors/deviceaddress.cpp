@@ -1,4 +1,4 @@
-#include "deviceaddress.h"
+#include "connectors/deviceaddress.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

@@ -1,4 +1,4 @@
-#include "devicesettings.h"
+#include "connectors/devicesettings.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "upscommand.h"
+#include "connectors/upscommand.h"
 
 #include "e_event.h"
 
@@ -7,8 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(UpsCommand)

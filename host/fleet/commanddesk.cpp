@@ -1,4 +1,4 @@
-#include "commanddesk.h"
+#include "fleet/commanddesk.h"
 
 CommandDesk::CommandDesk(Fleet& fleet, EventLog& log, WhoIsThere whoIsThere, QObject* parent)
     : QObject(parent)

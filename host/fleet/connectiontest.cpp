@@ -1,4 +1,4 @@
-#include "connectiontest.h"
+#include "fleet/connectiontest.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "device.h"
+#include "fleet/device.h"
 
-#include "reading/devicetext.h"
 #include "reading/readingscale.h"
+#include "reading/sanitize.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "eventlog.h"
+#include "fleet/eventlog.h"
 
 quint64 EventLog::append(const DeskEvent& event)
 {

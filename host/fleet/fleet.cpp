@@ -1,4 +1,4 @@
-#include "fleet.h"
+#include "fleet/fleet.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "fleetclock.h"
+#include "fleet/fleetclock.h"
 
 #include <ctime>
 

@@ -1,4 +1,4 @@
-#include "pollplan.h"
+#include "fleet/pollplan.h"
 
 #include <algorithm>
 

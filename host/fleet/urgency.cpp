@@ -1,4 +1,4 @@
-#include "urgency.h"
+#include "fleet/urgency.h"
 
 #include "reading/devicesnapshot.h"
 
@@ -129,23 +129,6 @@ Condition conditionOf(LinkState link, const UpsReading* reading, const Threshold
     }
     return reading ? liveCondition(*reading, thresholds)
                    : Condition{Urgency::Notice, Tr::tr("Connecting")};
-}
-
-QString linkStateName(LinkState link)
-{
-    switch (link) {
-    case LinkState::Live:
-        return QStringLiteral("live");
-    case LinkState::Stale:
-        return QStringLiteral("stale");
-    case LinkState::Lost:
-        return QStringLiteral("lost");
-    case LinkState::Refused:
-        return QStringLiteral("refused");
-    case LinkState::Connecting:
-        break;
-    }
-    return QStringLiteral("connecting");
 }
 
 std::optional<Alarm> worstAlarm(const QSet<Alarm>& alarms)

@@ -4,8 +4,8 @@
 // How much a device needs somebody now, and in which words the desk says so.
 // May touch: readings and link states.
 
-#include "connectors/connector.h"
-#include "fleet/thresholds.h"
+#include "connectors/linkstate.h"
+#include "reading/thresholds.h"
 #include "reading/upsreading.h"
 
 #include <QString>
@@ -21,9 +21,6 @@ struct Condition {
 // reading: the last good one, null when there has been none. Silence is at least an alarm, and
 // only a live reading that says so is "On mains".
 Condition conditionOf(LinkState link, const UpsReading* reading, const Thresholds& thresholds = {});
-
-// "live", "stale", "lost", "refused", "connecting": the words of scripts.
-QString linkStateName(LinkState link);
 
 // The alarm that matters most of those raised, or none.
 std::optional<Alarm> worstAlarm(const QSet<Alarm>& alarms);

@@ -1,6 +1,6 @@
-#include "watchlist.h"
+#include "fleet/watchlist.h"
 
-#include "config/devicesecrets.h"
+#include "secrets/devicesecrets.h"
 
 #include <algorithm>
 #include <tuple>

@@ -5,8 +5,8 @@
 // May touch: the configuration, the secret store, the fleet; no widget.
 
 #include "config/deskconfig.h"
-#include "config/secretstore.h"
 #include "fleet/fleet.h"
+#include "secrets/secretstore.h"
 
 #include <QSet>
 

@@ -1,4 +1,4 @@
-#include "devicesnapshot.h"
+#include "reading/devicesnapshot.h"
 
 #include "globalvar.h"
 

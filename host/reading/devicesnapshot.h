@@ -4,7 +4,7 @@
 // The one place where a reading becomes data keys: scaling, halves, tenths and alarm texts.
 // May touch: readings and the library's data keys.
 
-#include "upsreading.h"
+#include "reading/upsreading.h"
 
 #include <QMap>
 #include <QVariant>

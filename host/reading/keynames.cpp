@@ -1,12 +1,11 @@
-#include "keynames.h"
+#include "reading/keynames.h"
 
 #include "globalvar.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace
-{
+namespace {
 
 struct KeyName {
     int key;

@@ -1,9 +1,8 @@
-#include "readingscale.h"
+#include "reading/readingscale.h"
 
 #include <cmath>
 
-namespace
-{
+namespace {
 
 using Group = LineReading UpsReading::*;
 using Lines = PhaseValues LineReading::*;

@@ -10,7 +10,7 @@
 //  rated.           voltage frequency                         input and output
 //                   power apparent-power
 
-#include "upsreading.h"
+#include "reading/upsreading.h"
 
 #include <QMap>
 

@@ -1,4 +1,4 @@
-#include "activitywatch.h"
+#include "window/activitywatch.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -4,7 +4,7 @@
 // Tells the operator session that somebody is at the desk: any key, click or wheel anywhere.
 // May touch: the operator session.
 
-#include "config/operatorsession.h"
+#include "operators/operatorsession.h"
 
 #include <QObject>
 

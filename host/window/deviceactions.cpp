@@ -1,4 +1,4 @@
-#include "deviceactions.h"
+#include "window/deviceactions.h"
 
 #include "window/devicedialog.h"
 

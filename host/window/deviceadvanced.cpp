@@ -1,4 +1,4 @@
-#include "deviceadvanced.h"
+#include "window/deviceadvanced.h"
 
 #include "config/deskconfig.h"
 #include "window/scaletable.h"

@@ -1,4 +1,4 @@
-#include "devicedialog.h"
+#include "window/devicedialog.h"
 
 #include "config/deskconfig.h"
 #include "window/deviceadvanced.h"
@@ -60,7 +60,7 @@ DeviceDialog::DeviceDialog(const DeviceSettings& device, const QStringList& take
 {
     setObjectName(QStringLiteral("DeviceDialog"));
     setWindowTitle(device.address.text.isEmpty() ? tr("Add a device")
-                                                  : tr("Settings of %1").arg(device.displayName()));
+                                                 : tr("Settings of %1").arg(device.displayName()));
     setMinimumWidth(kWidth);
     m_name->setObjectName(QStringLiteral("NameEdit"));
     m_name->setMaxLength(DeskConfig::kMaxName);

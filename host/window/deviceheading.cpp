@@ -1,4 +1,4 @@
-#include "deviceheading.h"
+#include "window/deviceheading.h"
 
 #include "window/plainlabel.h"
 #include "window/urgencycolors.h"

@@ -1,4 +1,4 @@
-#include "devicelistmodel.h"
+#include "window/devicelistmodel.h"
 
 #include "window/valuewords.h"
 

@@ -1,4 +1,4 @@
-#include "devicepage.h"
+#include "window/devicepage.h"
 
 #include "window/deviceheading.h"
 #include "window/linkband.h"

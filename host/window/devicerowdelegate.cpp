@@ -1,4 +1,4 @@
-#include "devicerowdelegate.h"
+#include "window/devicerowdelegate.h"
 
 #include "window/devicelistmodel.h"
 #include "window/urgencycolors.h"

@@ -1,4 +1,4 @@
-#include "devicesortmodel.h"
+#include "window/devicesortmodel.h"
 
 #include "window/devicelistmodel.h"
 

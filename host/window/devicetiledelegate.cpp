@@ -1,4 +1,4 @@
-#include "devicetiledelegate.h"
+#include "window/devicetiledelegate.h"
 
 #include "window/devicelistmodel.h"
 #include "window/urgencycolors.h"

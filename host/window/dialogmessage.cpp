@@ -1,4 +1,4 @@
-#include "dialogmessage.h"
+#include "window/dialogmessage.h"
 
 #include <QLayout>
 #include <QStyle>

@@ -1,4 +1,4 @@
-#include "eventlistmodel.h"
+#include "window/eventlistmodel.h"
 
 #include "window/urgencycolors.h"
 

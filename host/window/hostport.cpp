@@ -1,4 +1,4 @@
-#include "hostport.h"
+#include "window/hostport.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "linkband.h"
+#include "window/linkband.h"
 
 #include "window/urgencycolors.h"
 

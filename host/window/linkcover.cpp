@@ -1,4 +1,4 @@
-#include "linkcover.h"
+#include "window/linkcover.h"
 
 #include <QEvent>
 #include <QPainter>

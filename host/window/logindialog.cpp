@@ -1,4 +1,4 @@
-#include "logindialog.h"
+#include "window/logindialog.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

@@ -4,7 +4,7 @@
 // Asks for name and password, and stays until they fit or the operator gives up.
 // May touch: the operator session.
 
-#include "config/operatorsession.h"
+#include "operators/operatorsession.h"
 
 #include <QDialog>
 

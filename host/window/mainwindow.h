@@ -5,8 +5,8 @@
 // As a wall display: nothing but the devices, and no commands.
 // May touch: the fleet, the command desk and the views through device pages; no connector.
 
-#include "config/operatorsession.h"
 #include "fleet/commanddesk.h"
+#include "operators/operatorsession.h"
 
 #include <QHash>
 #include <QMainWindow>

@@ -1,4 +1,4 @@
-#include "nutfields.h"
+#include "window/nutfields.h"
 
 #include "connectors/nut/nutserverlist.h"
 #include "window/hostport.h"
@@ -121,7 +121,7 @@ void NutFields::ask()
     m_list->start();
 }
 
-void NutFields::takeList(const QVector<NutDevice>& devices, const QString& error)
+void NutFields::takeList(const QVector<NutUpsEntry>& devices, const QString& error)
 {
     forgetList();
     if (!error.isEmpty() || devices.isEmpty()) {
@@ -130,7 +130,7 @@ void NutFields::takeList(const QVector<NutDevice>& devices, const QString& error
     }
     const QString typed = m_ups->currentText();
     m_ups->clear();
-    for (const NutDevice& device : devices) {
+    for (const NutUpsEntry& device : devices) {
         m_ups->addItem(device.name);
         // A tool tip would take markup for markup.
         m_ups->setItemData(m_ups->count() - 1,

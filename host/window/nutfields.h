@@ -12,7 +12,7 @@ class QComboBox;
 class QLineEdit;
 class QPushButton;
 class SecretEdit;
-struct NutDevice;
+struct NutUpsEntry;
 
 class NutFields : public AddressFields
 {
@@ -31,7 +31,7 @@ public:
 
 private:
     void ask();
-    void takeList(const QVector<NutDevice>& devices, const QString& error);
+    void takeList(const QVector<NutUpsEntry>& devices, const QString& error);
     void forgetList();
 
     HostPort* m_host;

@@ -1,4 +1,4 @@
-#include "operatorbar.h"
+#include "window/operatorbar.h"
 
 #include "window/plainlabel.h"
 

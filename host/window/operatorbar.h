@@ -4,7 +4,7 @@
 // Who is logged in, and the button that changes it.
 // May touch: the operator session.
 
-#include "config/operatorsession.h"
+#include "operators/operatorsession.h"
 
 #include <QWidget>
 

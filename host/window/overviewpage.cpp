@@ -1,4 +1,4 @@
-#include "overviewpage.h"
+#include "window/overviewpage.h"
 
 #include "window/devicelistmodel.h"
 #include "window/devicesortmodel.h"

@@ -1,4 +1,4 @@
-#include "plainlabel.h"
+#include "window/plainlabel.h"
 
 #include <QResizeEvent>
 

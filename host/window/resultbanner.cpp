@@ -1,4 +1,4 @@
-#include "resultbanner.h"
+#include "window/resultbanner.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "scaletable.h"
+#include "window/scaletable.h"
 
 #include "reading/readingscale.h"
 

@@ -1,4 +1,4 @@
-#include "secretedit.h"
+#include "window/secretedit.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "simulatorfields.h"
+#include "window/simulatorfields.h"
 
 #include "connectors/simulator/simulatorscenarios.h"
 

@@ -1,4 +1,4 @@
-#include "snmpfields.h"
+#include "window/snmpfields.h"
 
 #include "window/hostport.h"
 #include "window/secretedit.h"

@@ -1,4 +1,4 @@
-#include "theme.h"
+#include "window/theme.h"
 
 #include <QApplication>
 #include <QFile>

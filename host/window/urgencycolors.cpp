@@ -1,4 +1,4 @@
-#include "urgencycolors.h"
+#include "window/urgencycolors.h"
 
 QColor urgencyColor(Urgency urgency)
 {

@@ -1,4 +1,4 @@
-#include "valuewords.h"
+#include "window/valuewords.h"
 
 #include <QCoreApplication>
 

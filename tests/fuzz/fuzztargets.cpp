@@ -7,7 +7,7 @@
 #include "connectors/snmp/upsmib.h"
 #include "fleet/urgency.h"
 #include "reading/devicesnapshot.h"
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
 
 #include <QDataStream>
 #include <QFile>

@@ -4,8 +4,7 @@
 
 #include <QFile>
 
-namespace
-{
+namespace {
 
 SnmpReply errorReply(int status, std::size_t index)
 {

@@ -1,4 +1,4 @@
-#include "hostlookup.h"
+#include "connectors/nut/hostlookup.h"
 
 #include <netdb.h>
 #include <sys/socket.h>
@@ -7,8 +7,7 @@
 #include <mutex>
 #include <thread>
 
-namespace
-{
+namespace {
 
 HostLookup::Result lookUp(const QByteArray& host, int flags)
 {
@@ -48,8 +47,7 @@ struct HostLookup::Shared {
 
 HostLookup::HostLookup()
     : m_shared(std::make_shared<Shared>())
-{
-}
+{}
 
 HostLookup::~HostLookup() = default;
 

@@ -1,9 +1,8 @@
-#include "nutcommands.h"
+#include "connectors/nut/nutcommands.h"
 
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
 
-namespace
-{
+namespace {
 
 struct CommandRow {
     CommandKind kind;

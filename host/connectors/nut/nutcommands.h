@@ -4,8 +4,8 @@
 // Which instant command of NUT carries out which command of the operator.
 // May touch: Qt Core and commands. Pure functions, no socket.
 
+#include "connectors/nut/nutreading.h"
 #include "connectors/upscommand.h"
-#include "nutreading.h"
 
 #include <QByteArray>
 #include <QList>

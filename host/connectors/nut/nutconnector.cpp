@@ -1,12 +1,11 @@
-#include "nutconnector.h"
+#include "connectors/nut/nutconnector.h"
 
-#include "nutserver.h"
+#include "connectors/nut/nutserver.h"
 
 #include <cmath>
 #include <ctime>
 
-namespace
-{
+namespace {
 
 double secondsSinceBoot()
 {

@@ -1,11 +1,10 @@
-#include "nutprotocol.h"
+#include "connectors/nut/nutprotocol.h"
 
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
 
 #include <QCoreApplication>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(NutProtocol)

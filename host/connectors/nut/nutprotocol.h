@@ -23,11 +23,11 @@ struct NutFailure {
 };
 
 // One device of a server, as the server lists it.
-struct NutDevice {
+struct NutUpsEntry {
     QString name;
     QString description;
 };
-Q_DECLARE_METATYPE(NutDevice)
+Q_DECLARE_METATYPE(NutUpsEntry)
 
 // The words of one line; blanks part them, double quotes hold them together and a backslash takes
 // the next character as it is. Empty when a quote stays open.

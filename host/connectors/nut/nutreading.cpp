@@ -1,6 +1,6 @@
-#include "nutreading.h"
+#include "connectors/nut/nutreading.h"
 
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -8,8 +8,7 @@
 #include <cmath>
 #include <iterator>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(NutReading)
@@ -149,8 +148,7 @@ public:
     Variables(const NutVariables& all, const char* prefix)
         : m_all(all)
         , m_prefix(prefix)
-    {
-    }
+    {}
 
     bool has(const char* name) const { return m_all.contains(m_prefix + name); }
     QByteArray text(const char* name) const { return m_all.value(m_prefix + name).trimmed(); }

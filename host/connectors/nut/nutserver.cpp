@@ -1,4 +1,4 @@
-#include "nutserver.h"
+#include "connectors/nut/nutserver.h"
 
 #include <QMap>
 #include <QStringList>
@@ -7,8 +7,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace
-{
+namespace {
 
 // Threads that are on their way out. The program's end is the one place that waits for them, at
 // most as long as the request that each is still in.
@@ -43,7 +42,7 @@ void registerTypes()
 {
     qRegisterMetaType<PollResult>();
     qRegisterMetaType<CommandResult>();
-    qRegisterMetaType<QVector<NutDevice>>();
+    qRegisterMetaType<QVector<NutUpsEntry>>();
 }
 
 } // namespace

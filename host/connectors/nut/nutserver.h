@@ -4,7 +4,7 @@
 // One NUT server as its devices share it: one connection, one worker thread.
 // May touch: its worker, through queued calls only. Lives on the GUI thread; nothing here blocks.
 
-#include "nutworker.h"
+#include "connectors/nut/nutworker.h"
 
 #include "connectors/devicesettings.h"
 
@@ -33,7 +33,7 @@ public:
 
 signals:
     void polled(quint64 ticket, const PollResult& result);
-    void listed(quint64 ticket, const QVector<NutDevice>& devices, const QString& error);
+    void listed(quint64 ticket, const QVector<NutUpsEntry>& devices, const QString& error);
     void commandFinished(quint64 ticket, const CommandResult& result);
 
 private:

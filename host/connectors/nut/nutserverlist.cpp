@@ -1,4 +1,4 @@
-#include "nutserverlist.h"
+#include "connectors/nut/nutserverlist.h"
 
 NutServerList::NutServerList(const DeviceSettings& settings, QObject* parent)
     : QObject(parent)
@@ -6,7 +6,7 @@ NutServerList::NutServerList(const DeviceSettings& settings, QObject* parent)
     , m_server(NutServer::of(settings))
 {
     connect(m_server.get(), &NutServer::listed, this,
-            [this](quint64 ticket, const QVector<NutDevice>& devices, const QString& error) {
+            [this](quint64 ticket, const QVector<NutUpsEntry>& devices, const QString& error) {
                 if (ticket != m_ticket)
                     return;
                 m_ticket = 0;

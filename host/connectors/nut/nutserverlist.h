@@ -4,7 +4,7 @@
 // Asks a NUT server which devices it has.
 // May touch: the server. Lives on the GUI thread; nothing here blocks.
 
-#include "nutserver.h"
+#include "connectors/nut/nutserver.h"
 
 class NutServerList : public QObject
 {
@@ -19,7 +19,7 @@ public:
 
 signals:
     // error: empty, or why there is no list, plain text for the operator.
-    void finished(const QVector<NutDevice>& devices, const QString& error);
+    void finished(const QVector<NutUpsEntry>& devices, const QString& error);
 
 private:
     const DeviceSettings m_settings;

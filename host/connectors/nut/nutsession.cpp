@@ -1,8 +1,8 @@
-#include "nutsession.h"
+#include "connectors/nut/nutsession.h"
 
-#include "nuttls.h"
+#include "connectors/nut/nuttls.h"
 
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
 
 #include <QCoreApplication>
 
@@ -26,8 +26,7 @@ struct NutConnection {
     UPSCONN_t library = {};
 };
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(NutSession)
@@ -325,13 +324,13 @@ NutFailure NutSession::listCommands(const QByteArray& ups, QList<QByteArray>& co
     return list("CMD " + nutQuoted(ups), 3, [&](const Words& row) { commands << row.at(2); });
 }
 
-NutFailure NutSession::listDevices(QVector<NutDevice>& devices)
+NutFailure NutSession::listDevices(QVector<NutUpsEntry>& devices)
 {
     devices.clear();
     return list("UPS", 2, [&](const Words& row) {
         const bool hasText = row.value(2) != kNoListedDescription;
-        devices << NutDevice{cleanDeviceText(row.at(1)),
-                             hasText ? cleanDeviceText(row.value(2)) : QString()};
+        devices << NutUpsEntry{cleanDeviceText(row.at(1)),
+                               hasText ? cleanDeviceText(row.value(2)) : QString()};
     });
 }
 

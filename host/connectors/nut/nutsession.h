@@ -4,10 +4,10 @@
 // One connection to one NUT server: questions out, answers or the reason for none back.
 // May touch: libupsclient. Blocks: for a worker thread only.
 
-#include "hostlookup.h"
-#include "nutprotocol.h"
-#include "nutreading.h"
-#include "socketguard.h"
+#include "connectors/nut/hostlookup.h"
+#include "connectors/nut/nutprotocol.h"
+#include "connectors/nut/nutreading.h"
+#include "connectors/nut/socketguard.h"
 
 #include <QByteArray>
 #include <QVector>
@@ -42,7 +42,7 @@ public:
     NutFailure listVariables(const QByteArray& ups, NutVariables& variables);
     NutFailure listWritable(const QByteArray& ups, NutVariables& variables);
     NutFailure listCommands(const QByteArray& ups, QList<QByteArray>& commands);
-    NutFailure listDevices(QVector<NutDevice>& devices);
+    NutFailure listDevices(QVector<NutUpsEntry>& devices);
     // Empty where the administrator wrote none.
     NutFailure description(const QByteArray& ups, QByteArray& text);
 

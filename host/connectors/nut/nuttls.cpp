@@ -1,4 +1,4 @@
-#include "nuttls.h"
+#include "connectors/nut/nuttls.h"
 
 #include <nss.h>
 #include <private/pprio.h>
@@ -6,8 +6,7 @@
 
 #include <unistd.h>
 
-namespace
-{
+namespace {
 
 bool initialiseOnce()
 {

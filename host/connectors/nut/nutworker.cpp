@@ -1,12 +1,11 @@
-#include "nutworker.h"
+#include "connectors/nut/nutworker.h"
 
-#include "nutcommands.h"
+#include "connectors/nut/nutcommands.h"
 
 #include <QCoreApplication>
 #include <QTimer>
 
-namespace
-{
+namespace {
 
 // How often a running command is asked about.
 constexpr std::chrono::milliseconds kFollowInterval(250);
@@ -40,8 +39,7 @@ struct NutWorker::Job {
 NutWorker::NutWorker(const NutAccount& account)
     : m_account(account)
     , m_session(account.host, account.port)
-{
-}
+{}
 
 // A request that waited while the server was found lost shares that finding, so that many devices
 // do not wait one time-out each. A connection that turns out to be dead is replaced once: a server
@@ -76,7 +74,7 @@ NutFailure NutWorker::chooseDevice(const NutRequest& request, QByteArray& ups)
     ups = request.ups.toUtf8();
     if (!ups.isEmpty())
         return {};
-    QVector<NutDevice> devices;
+    QVector<NutUpsEntry> devices;
     const NutFailure failure = m_session.listDevices(devices);
     if (failure)
         return failure;
@@ -85,7 +83,7 @@ NutFailure NutWorker::chooseDevice(const NutRequest& request, QByteArray& ups)
         return {};
     }
     QStringList names;
-    for (const NutDevice& device : qAsConst(devices))
+    for (const NutUpsEntry& device : qAsConst(devices))
         names << device.name;
     constexpr int kMostNames = 20;
     if (names.size() > kMostNames)
@@ -128,9 +126,9 @@ void NutWorker::poll(const NutRequest& request)
 
 void NutWorker::list(const NutRequest& request)
 {
-    QVector<NutDevice> devices;
+    QVector<NutUpsEntry> devices;
     const NutFailure failure = attempt(request, [&] { return m_session.listDevices(devices); });
-    emit listed(request.ticket, failure ? QVector<NutDevice>() : devices, failure.message);
+    emit listed(request.ticket, failure ? QVector<NutUpsEntry>() : devices, failure.message);
 }
 
 // Everything that may be asked twice without harm.

@@ -6,8 +6,8 @@
 // request allows.
 
 #include "connectors/connector.h"
-#include "nutprotocol.h"
-#include "nutsession.h"
+#include "connectors/nut/nutprotocol.h"
+#include "connectors/nut/nutsession.h"
 
 #include <QObject>
 #include <QString>
@@ -46,7 +46,7 @@ public:
 
 signals:
     void polled(quint64 ticket, const PollResult& result);
-    void listed(quint64 ticket, const QVector<NutDevice>& devices, const QString& error);
+    void listed(quint64 ticket, const QVector<NutUpsEntry>& devices, const QString& error);
     void commandFinished(quint64 ticket, const CommandResult& result);
 
 private:

@@ -1,11 +1,10 @@
-#include "socketguard.h"
+#include "connectors/nut/socketguard.h"
 
 #include <sys/socket.h>
 
 SocketGuard::SocketGuard()
     : m_thread([this] { run(); })
-{
-}
+{}
 
 SocketGuard::~SocketGuard()
 {

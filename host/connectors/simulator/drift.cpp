@@ -1,10 +1,9 @@
-#include "drift.h"
+#include "connectors/simulator/drift.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace
-{
+namespace {
 constexpr double kReturn = 0.03; // share of the deviation that one step takes back
 } // namespace
 

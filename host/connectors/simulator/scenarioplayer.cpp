@@ -1,9 +1,8 @@
-#include "scenarioplayer.h"
+#include "connectors/simulator/scenarioplayer.h"
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 constexpr qint64 kLeadIn = 3000; // ms of the first step that have passed when it begins
 } // namespace
 

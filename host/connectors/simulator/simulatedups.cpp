@@ -1,10 +1,9 @@
-#include "simulatedups.h"
+#include "connectors/simulator/simulatedups.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace
-{
+namespace {
 
 // Supply and conversion
 constexpr double kNominalVoltage = 230;  // V, each line
@@ -70,8 +69,7 @@ SimulatedUps::SimulatedUps(const UpsProfile& profile, double charge, quint32 see
     , m_recharge(charge < kRechargeBelow)
     , m_temperature(kRoomTemperature + 1)
     , m_lineBads(kEarlierFailures)
-{
-}
+{}
 
 void SimulatedUps::setMains(bool present)
 {

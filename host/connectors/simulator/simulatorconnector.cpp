@@ -1,12 +1,11 @@
-#include "simulatorconnector.h"
+#include "connectors/simulator/simulatorconnector.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 constexpr int kCommandTime = 300;              // ms until a command's result is there
 constexpr qint64 kMaxCatchUp = 60 * 60 * 1000; // ms that one look at the clock may simulate
@@ -32,8 +31,7 @@ QStringList knownNames()
 
 SimulatorConnector::SimulatorConnector(const DeviceSettings& settings, QObject* parent)
     : SimulatorConnector(settings, monotonicClock(), parent)
-{
-}
+{}
 
 SimulatorConnector::SimulatorConnector(const DeviceSettings& settings, Clock clock, QObject* parent)
     : Connector(parent)

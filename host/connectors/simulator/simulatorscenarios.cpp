@@ -1,9 +1,8 @@
-#include "simulatorscenarios.h"
+#include "connectors/simulator/simulatorscenarios.h"
 
 #include <QCoreApplication>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(SimulatorScenarios)

@@ -1,15 +1,14 @@
-#include "snmpcommand.h"
+#include "connectors/snmp/snmpcommand.h"
 
-#include "upsmib.h"
+#include "connectors/snmp/upsmib.h"
 
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
 #include "reading/upsreading.h"
 
 using std::chrono::milliseconds;
 using namespace UpsMib;
 
-namespace
-{
+namespace {
 
 constexpr milliseconds kBetweenLooks{500};
 constexpr int kMostRounds = 30; // 15 s until a command that was accepted must show an effect

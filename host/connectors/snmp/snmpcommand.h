@@ -8,7 +8,7 @@
 // when it has begun: a discharge test runs for hours, and how it ends is told by the alarms of the
 // readings. A countdown counts as done when the agent shows it running, or its effect.
 
-#include "snmpdialogue.h"
+#include "connectors/snmp/snmpdialogue.h"
 
 #include "connectors/upscommand.h"
 

@@ -1,18 +1,18 @@
-#include "snmpconnector.h"
+#include "connectors/snmp/snmpconnector.h"
 
-#include "snmpdevice.h"
-#include "snmpengine.h"
+#include "connectors/snmp/snmpengine.h"
+#include "connectors/snmp/snmppeer.h"
 
 SnmpConnector::SnmpConnector(const DeviceSettings& settings, QObject* parent)
     : Connector(parent)
     , m_engine(SnmpEngine::instance())
-    , m_device(new SnmpDevice(settings))
+    , m_device(new SnmpPeer(settings))
 {
     qRegisterMetaType<PollResult>();
     qRegisterMetaType<CommandResult>();
     m_device->moveToThread(m_engine.get());
-    connect(m_device, &SnmpDevice::polled, this, &Connector::polled, Qt::QueuedConnection);
-    connect(m_device, &SnmpDevice::commandFinished, this, &Connector::commandFinished,
+    connect(m_device, &SnmpPeer::polled, this, &Connector::polled, Qt::QueuedConnection);
+    connect(m_device, &SnmpPeer::commandFinished, this, &Connector::commandFinished,
             Qt::QueuedConnection);
 }
 

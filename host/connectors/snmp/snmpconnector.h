@@ -9,7 +9,7 @@
 
 #include <memory>
 
-class SnmpDevice;
+class SnmpPeer;
 class SnmpEngine;
 
 class SnmpConnector : public Connector
@@ -25,7 +25,7 @@ public:
 
 private:
     std::shared_ptr<SnmpEngine> m_engine;
-    SnmpDevice* m_device; // on the engine's thread; polls and results cross by queued calls
+    SnmpPeer* m_device; // on the engine's thread; polls and results cross by queued calls
 };
 
 #endif // SNMPCONNECTOR_H

@@ -5,7 +5,7 @@
 // a poll and each command are one.
 // May touch: values and Qt Core.
 
-#include "snmpvalue.h"
+#include "connectors/snmp/snmpvalue.h"
 
 #include <chrono>
 

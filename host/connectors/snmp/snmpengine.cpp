@@ -1,4 +1,4 @@
-#include "snmpengine.h"
+#include "connectors/snmp/snmpengine.h"
 
 #include <net-snmp/net-snmp-config.h>
 
@@ -6,8 +6,7 @@
 
 #include <mutex>
 
-namespace
-{
+namespace {
 
 constexpr char kApplication[] = "upsdesk";
 

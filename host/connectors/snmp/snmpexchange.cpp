@@ -1,4 +1,4 @@
-#include "snmpexchange.h"
+#include "connectors/snmp/snmpexchange.h"
 
 SnmpExchange::SnmpExchange(const DeviceSettings& settings, QObject* parent)
     : QObject(parent)

@@ -4,7 +4,7 @@
 // Carries a dialogue over a session, question by question.
 // May touch: sessions and dialogues. Lives on the engine's thread.
 
-#include "snmpsession.h"
+#include "connectors/snmp/snmpsession.h"
 
 class SnmpExchange : public QObject
 {

@@ -1,14 +1,13 @@
-#include "snmppoll.h"
+#include "connectors/snmp/snmppoll.h"
 
-#include "snmpreading.h"
-#include "upsmib.h"
+#include "connectors/snmp/snmpreading.h"
+#include "connectors/snmp/upsmib.h"
 
 #include <algorithm>
 
 using std::chrono::milliseconds;
 
-namespace
-{
+namespace {
 
 constexpr int kRowsPerBulk = 4;          // three lines and the object behind them
 constexpr std::size_t kMostColumns = 12; // of one request

@@ -4,7 +4,7 @@
 // One poll of one agent: which objects to ask for next, and what the answers add up to.
 // May touch: values, readings and connector results.
 
-#include "snmpdialogue.h"
+#include "connectors/snmp/snmpdialogue.h"
 
 #include "connectors/connector.h"
 

@@ -1,8 +1,8 @@
-#include "snmpreading.h"
+#include "connectors/snmp/snmpreading.h"
 
-#include "upsmib.h"
+#include "connectors/snmp/upsmib.h"
 
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
 
 #include <QCoreApplication>
 

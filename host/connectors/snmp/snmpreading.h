@@ -4,7 +4,7 @@
 // What an agent answered, as a reading: pure functions over values, without a socket.
 // May touch: readings, values and the UPS-MIB.
 
-#include "snmpvalue.h"
+#include "connectors/snmp/snmpvalue.h"
 
 #include "reading/upsreading.h"
 

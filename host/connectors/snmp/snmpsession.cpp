@@ -1,4 +1,4 @@
-#include "snmpsession.h"
+#include "connectors/snmp/snmpsession.h"
 
 #include <net-snmp/net-snmp-config.h>
 
@@ -14,8 +14,7 @@
 
 using std::chrono::milliseconds;
 
-namespace
-{
+namespace {
 
 SnmpValue toValue(const netsnmp_variable_list& variable)
 {

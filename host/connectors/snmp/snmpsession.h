@@ -4,7 +4,7 @@
 // One open conversation with one agent through net-snmp: a request out, a reply in, never blocking.
 // May touch: net-snmp, Qt Core, values. Lives on the engine's thread, like all calls of net-snmp.
 
-#include "snmpdialogue.h"
+#include "connectors/snmp/snmpdialogue.h"
 
 #include "connectors/devicesettings.h"
 

@@ -1,11 +1,10 @@
-#include "snmpvalue.h"
+#include "connectors/snmp/snmpvalue.h"
 
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
 
 #include <QStringList>
 
-namespace
-{
+namespace {
 
 constexpr int kMaxOidParts = 128; // limit of the protocol
 

@@ -5,10 +5,9 @@
 // needed. Nothing else of an agent is read.
 // May touch: Qt Core and the standard library.
 
-#include "snmpvalue.h"
+#include "connectors/snmp/snmpvalue.h"
 
-namespace UpsMib
-{
+namespace UpsMib {
 
 inline const SnmpOid objects{1, 3, 6, 1, 2, 1, 33, 1}; // upsObjects
 inline const SnmpOid wellKnownAlarms = objects + SnmpOid{6, 3};

@@ -4,7 +4,7 @@
 // What `upsdesk add-operator` does.
 // May touch: the configuration file.
 
-#include "passwordhash.h"
+#include "private/passwordhash.h"
 
 // Adds the operator to the file at `path`, or replaces level and password of the one that is there.
 // level 0..9; the password has at least kMinPasswordLength characters. Returns why nothing was

@@ -1,7 +1,7 @@
-#include "keychainsecretstore.h"
+#include "secrets/keychainsecretstore.h"
 
-#include "keychaincall.h"
-#include "reading/devicetext.h"
+#include "reading/sanitize.h"
+#include "secrets/keychaincall.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -11,8 +11,7 @@
 
 #include <qt5keychain/keychain.h>
 
-namespace
-{
+namespace {
 
 const QString kService = QStringLiteral("upsdesk");
 constexpr unsigned long kStopWait = 1000; // ms

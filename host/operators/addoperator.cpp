@@ -1,11 +1,10 @@
-#include "addoperator.h"
+#include "operators/addoperator.h"
 
-#include "deskconfig.h"
+#include "config/deskconfig.h"
 
 #include <QCoreApplication>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(AddOperator)

@@ -1,4 +1,4 @@
-#include "snmpdevice.h"
+#include "connectors/snmp/snmppeer.h"
 
 #include <QHostAddress>
 #include <QHostInfo>
@@ -7,7 +7,7 @@
 
 using std::chrono::seconds;
 
-SnmpDevice::SnmpDevice(const DeviceSettings& settings)
+SnmpPeer::SnmpPeer(const DeviceSettings& settings)
     : m_settings(settings)
     , m_pollLimit(this)
 {
@@ -16,16 +16,16 @@ SnmpDevice::SnmpDevice(const DeviceSettings& settings)
     if (m_settings.address.port == 0)
         m_settings.address.port = DeviceAddress::kSnmpPort;
     m_pollLimit.setSingleShot(true);
-    connect(&m_pollLimit, &QTimer::timeout, this, &SnmpDevice::onPollLimit);
+    connect(&m_pollLimit, &QTimer::timeout, this, &SnmpPeer::onPollLimit);
 }
 
-SnmpDevice::~SnmpDevice()
+SnmpPeer::~SnmpPeer()
 {
     if (m_lookup != -1)
         QHostInfo::abortHostLookup(m_lookup);
 }
 
-QString SnmpDevice::peer() const
+QString SnmpPeer::peer() const
 {
     const QString& host = m_settings.address.host;
     const bool v6 = host.contains(QLatin1Char(':'));
@@ -35,7 +35,7 @@ QString SnmpDevice::peer() const
 }
 
 // Looking up a name may take long; it happens on Qt's own threads.
-void SnmpDevice::withAddress(AddressHandler handler)
+void SnmpPeer::withAddress(AddressHandler handler)
 {
     const QString& host = m_settings.address.host;
     if (m_addresses.isEmpty() && QHostAddress().setAddress(host))
@@ -66,7 +66,7 @@ void SnmpDevice::withAddress(AddressHandler handler)
     });
 }
 
-void SnmpDevice::poll()
+void SnmpPeer::poll()
 {
     if (m_polling)
         return;
@@ -85,7 +85,7 @@ void SnmpDevice::poll()
     });
 }
 
-void SnmpDevice::startPoll(const QString& address)
+void SnmpPeer::startPoll(const QString& address)
 {
     SnmpPoll::Limits limits;
     limits.version = m_settings.address.snmpVersion;
@@ -101,7 +101,7 @@ void SnmpDevice::startPoll(const QString& address)
     m_exchange->start(m_poll.get(), address);
 }
 
-void SnmpDevice::onPollLimit()
+void SnmpPeer::onPollLimit()
 {
     if (!m_polling)
         return;
@@ -115,7 +115,7 @@ void SnmpDevice::onPollLimit()
     endPoll(late);
 }
 
-void SnmpDevice::endPoll(const PollResult& result)
+void SnmpPeer::endPoll(const PollResult& result)
 {
     m_pollLimit.stop();
     m_poll.reset();
@@ -130,7 +130,7 @@ void SnmpDevice::endPoll(const PollResult& result)
     emit polled(result);
 }
 
-void SnmpDevice::send(const UpsCommand& command)
+void SnmpPeer::send(const UpsCommand& command)
 {
     SnmpCommand::Limits limits;
     limits.timeout = seconds(m_settings.timeout);

@@ -4,7 +4,7 @@
 // Argon2id hashes of operators' passwords.
 // May touch: Qt Core, libsodium. All functions may be called from any thread.
 
-#include "secrettext.h"
+#include "private/secrettext.h"
 
 #include <QString>
 

@@ -1,5 +1,5 @@
-#ifndef DEVVIEW_SNAPSHOT_H
-#define DEVVIEW_SNAPSHOT_H
+#ifndef DEVVIEW_REALTIMEBLOCK_H
+#define DEVVIEW_REALTIMEBLOCK_H
 
 // Reading a snapshot: the real-time block and the two phase rules. Inside the library only.
 // May touch: Qt Core and the data keys.
@@ -41,4 +41,4 @@ constexpr bool isThreePhaseOnlyIfThree(int lineCount)
     return lineCount == 3;
 }
 
-#endif // DEVVIEW_SNAPSHOT_H
+#endif // DEVVIEW_REALTIMEBLOCK_H

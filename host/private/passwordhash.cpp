@@ -1,11 +1,10 @@
-#include "passwordhash.h"
+#include "private/passwordhash.h"
 
 #include <QRegularExpression>
 
 #include <sodium.h>
 
-namespace
-{
+namespace {
 
 constexpr quint64 kKibi = 1024;
 constexpr quint64 kMaxMemory = 1024 * 1024; // KiB

@@ -1,4 +1,4 @@
-#include "privatefile.h"
+#include "private/privatefile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -8,8 +8,7 @@
 
 #include <unistd.h>
 
-namespace
-{
+namespace {
 
 struct Tr {
     Q_DECLARE_TR_FUNCTIONS(PrivateFile)

@@ -1,7 +1,7 @@
-#include "secretstore.h"
+#include "secrets/secretstore.h"
 
-#include "filesecretstore.h"
-#include "keychainsecretstore.h"
+#include "secrets/filesecretstore.h"
+#include "secrets/keychainsecretstore.h"
 
 #include <QPointer>
 

@@ -4,7 +4,7 @@
 // Carries the answer of the keychain from the thread that asked it.
 // May touch: Qt Core.
 
-#include "secretstore.h"
+#include "secrets/secretstore.h"
 
 class KeychainCall : public QObject
 {

@@ -1,10 +1,10 @@
-#ifndef DEVICETEXT_H
-#define DEVICETEXT_H
+#ifndef SANITIZE_H
+#define SANITIZE_H
 
 // Texts and numbers as devices give them, made safe to keep and to show.
 // May touch: Qt Core and the standard library.
 
-#include "upsreading.h"
+#include "reading/upsreading.h"
 
 #include <QByteArray>
 
@@ -24,4 +24,4 @@ Value plausible(double raw);
 // Empty when it is no number or not plausible.
 Value plausibleNumber(const QByteArray& text);
 
-#endif // DEVICETEXT_H
+#endif // SANITIZE_H

@@ -1,23 +1,23 @@
-#ifndef SNMPDEVICE_H
-#define SNMPDEVICE_H
+#ifndef SNMPPEER_H
+#define SNMPPEER_H
 
 // One agent as its connector sees it: polls and commands in, results out.
 // May touch: sessions, polls, commands, name look-up. Lives on the engine's thread.
 
-#include "snmpcommand.h"
-#include "snmpexchange.h"
-#include "snmppoll.h"
+#include "connectors/snmp/snmpcommand.h"
+#include "connectors/snmp/snmpexchange.h"
+#include "connectors/snmp/snmppoll.h"
 
 #include <functional>
 #include <map>
 
-class SnmpDevice : public QObject
+class SnmpPeer : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit SnmpDevice(const DeviceSettings& settings);
-    ~SnmpDevice() override;
+    explicit SnmpPeer(const DeviceSettings& settings);
+    ~SnmpPeer() override;
 
     // One poll at a time; ends with exactly one polled(), after a time that timeout and retries
     // bound.
@@ -56,4 +56,4 @@ private:
     std::map<SnmpCommand*, RunningCommand> m_commands;
 };
 
-#endif // SNMPDEVICE_H
+#endif // SNMPPEER_H

@@ -4,7 +4,7 @@
 // Secrets in a file that only the user can read, for desktops without a keychain.
 // May touch: the file system. Not encrypted: who is this user, or root, can read it.
 
-#include "secretstore.h"
+#include "secrets/secretstore.h"
 
 class FileSecretStore : public SecretStore
 {

@@ -1,12 +1,11 @@
-#include "operators.h"
+#include "operators/operators.h"
 
 #include <algorithm>
 
 Operators::Operators(const OperatorAccounts& accounts, const HashLimits& limits)
     : m_accounts(accounts)
     , m_decoy(accounts.isEmpty() ? impossibleHash(limits) : accounts.constFirst().hash)
-{
-}
+{}
 
 const OperatorAccount* Operators::find(const QString& name) const
 {

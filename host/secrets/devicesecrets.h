@@ -5,7 +5,7 @@
 // May touch: Qt Core, the secret store, the environment.
 
 #include "connectors/devicesettings.h"
-#include "secretstore.h"
+#include "secrets/secretstore.h"
 
 enum class SecretPurpose { NutPassword, SnmpAuthentication, SnmpPrivacy };
 

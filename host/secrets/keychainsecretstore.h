@@ -5,7 +5,7 @@
 // May touch: QtKeychain, in a thread of its own: reaching a desktop bus that does not answer
 // blocks.
 
-#include "secretstore.h"
+#include "secrets/secretstore.h"
 
 class KeychainSecretStore : public SecretStore
 {

@@ -4,8 +4,8 @@
 // Who may log in, and at which level.
 // May touch: Qt Core, libsodium through passwordhash.h. A value: copies may be used in any thread.
 
-#include "operatoraccount.h"
-#include "passwordhash.h"
+#include "config/operatoraccount.h"
+#include "private/passwordhash.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
-#include "filesecretstore.h"
+#include "secrets/filesecretstore.h"
 
-#include "privatefile.h"
+#include "private/privatefile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -11,8 +11,7 @@
 
 #include <sodium.h>
 
-namespace
-{
+namespace {
 
 constexpr int kLockWait = 1000; // ms
 
@@ -70,8 +69,7 @@ QString FileSecretStore::defaultPath()
 FileSecretStore::FileSecretStore(const QString& path, QObject* parent)
     : SecretStore(parent)
     , m_path(path)
-{
-}
+{}
 
 void FileSecretStore::run(Action action, const QString& key, const SecretText& secret,
                           const Callback& done)

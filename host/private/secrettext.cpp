@@ -1,4 +1,4 @@
-#include "secrettext.h"
+#include "private/secrettext.h"
 
 #include <sodium.h>
 
@@ -13,13 +13,11 @@ SecretText::SecretText(const QString& text)
 
 SecretText::SecretText(const QByteArray& utf8)
     : m_bytes(utf8.cbegin(), utf8.cend())
-{
-}
+{}
 
 SecretText::SecretText(SecretText&& other) noexcept
     : m_bytes(std::move(other.m_bytes))
-{
-}
+{}
 
 SecretText& SecretText::operator=(SecretText other) noexcept
 {

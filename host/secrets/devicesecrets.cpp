@@ -1,4 +1,4 @@
-#include "devicesecrets.h"
+#include "secrets/devicesecrets.h"
 
 #include <QPointer>
 

@@ -1,11 +1,10 @@
-#include "devicetext.h"
+#include "reading/sanitize.h"
 
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 
-namespace
-{
+namespace {
 
 constexpr double kUnknownMarks[] = {-1.0, 65535.0, 655350.0, 4294967295.0, -273.0};
 

@@ -1,4 +1,4 @@
-#include "snapshot.h"
+#include "realtimeblock.h"
 
 RealTimeBlock::RealTimeBlock(const QMap<int, QVariant>& snapshot)
 {

@@ -4,8 +4,8 @@
 // Where passwords and keys of devices are kept.
 // May touch: Qt Core. Never logs what it keeps.
 
-#include "deskconfig.h"
-#include "secrettext.h"
+#include "config/desksettings.h"
+#include "private/secrettext.h"
 
 #include <QObject>
 

@@ -4,7 +4,7 @@
 // Who is logged in at the window, and for how long.
 // May touch: Qt Core, operators. Checks passwords in a pool thread.
 
-#include "operators.h"
+#include "operators/operators.h"
 
 #include <QObject>
 #include <QTimer>

@@ -1,6 +1,6 @@
-#include "operatorsession.h"
+#include "operators/operatorsession.h"
 
-#include "logincheck.h"
+#include "operators/logincheck.h"
 
 #include <QDateTime>
 #include <QThreadPool>
