@@ -1,26 +1,18 @@
 #include "fleet/fleetclock.h"
 
-#include <ctime>
+#include "connectors/bootclock.h"
 
-namespace {
-
-qint64 readClockMs(clockid_t id)
-{
-    timespec t{};
-    clock_gettime(id, &t);
-    return static_cast<qint64>(t.tv_sec) * 1000 + t.tv_nsec / 1000000;
-}
-
-} // namespace
+#include <chrono>
 
 qint64 FleetClock::monotonicMs() const
 {
-    return readClockMs(CLOCK_MONOTONIC);
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
 qint64 FleetClock::bootMs() const
 {
-    return readClockMs(CLOCK_BOOTTIME);
+    return bootClockMs();
 }
 
 const FleetClock& FleetClock::system()

@@ -2,7 +2,7 @@
 #define FLEETCLOCK_H
 
 // The clocks that polling and ages go by. None of them follows corrections of the wall clock.
-// May touch: the standard library and Qt Core.
+// May touch: the boot clock, the standard library and Qt Core.
 
 #include <QDateTime>
 
