@@ -6,6 +6,7 @@
 #include "config/deskconfig.h"
 #include "connectors/connectorfactory.h"
 #include "fleet/watchlist.h"
+#include "openfilelimit.h"
 #include "operators/operatorsession.h"
 #include "window/activitywatch.h"
 #include "window/deviceactions.h"
@@ -128,6 +129,7 @@ int runWindow(const WindowOptions& options)
 
 int main(int argc, char** argv)
 {
+    raiseOpenFileLimit();
     QCoreApplication::setApplicationName(QStringLiteral("upsdesk"));
     QCoreApplication::setApplicationVersion(QStringLiteral(UPSDESK_VERSION));
     const QString mode = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();

@@ -2,6 +2,7 @@
 // version 3.
 
 #include "connectors/snmp/snmpconnector.h"
+#include "openfilelimit.h"
 #include "support/snmpagent.h"
 
 #include <QDir>
@@ -187,6 +188,20 @@ private slots:
             QCOMPARE(pollOnce(fast).state, LinkState::Live);
         QCOMPARE(polled.count(), 0);
         QTRY_COMPARE_WITH_TIMEOUT(polled.count(), 1, kPatience);
+    }
+
+    // What other parts of a desk with thousands of devices may have open.
+    void worksAboveADescriptorOf1024()
+    {
+        raiseOpenFileLimit();
+        std::vector<std::unique_ptr<QFile>> files;
+        while (files.size() < 1100) {
+            files.push_back(std::make_unique<QFile>("/dev/null"));
+            if (!files.back()->open(QIODevice::ReadOnly))
+                QSKIP("this computer allows no 1,100 open files");
+        }
+        for (const QString& place : {address(), m_snmpd.address()})
+            QCOMPARE(pollOnce(settingsFor(place)).state, LinkState::Live);
     }
 
     void sendsCommands()

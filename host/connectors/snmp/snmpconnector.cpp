@@ -6,7 +6,7 @@
 SnmpConnector::SnmpConnector(const DeviceSettings& settings, QObject* parent)
     : Connector(parent)
     , m_engine(SnmpEngine::instance())
-    , m_device(new SnmpPeer(settings))
+    , m_device(new SnmpPeer(settings, *m_engine))
 {
     qRegisterMetaType<PollResult>();
     qRegisterMetaType<CommandResult>();

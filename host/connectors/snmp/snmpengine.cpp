@@ -4,6 +4,8 @@
 
 #include <net-snmp/net-snmp-includes.h>
 
+#include <QCoreApplication>
+
 #include <mutex>
 
 namespace {
@@ -57,4 +59,7 @@ void SnmpEngine::run()
     static std::once_flag started;
     std::call_once(started, startLibrary);
     exec();
+    // Devices that were let go are still to be deleted here, their sockets after them.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_ports.clear();
 }

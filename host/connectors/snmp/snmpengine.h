@@ -5,6 +5,9 @@
 // from several. Runs while there is a connector.
 // May touch: net-snmp's global state, Qt Core.
 
+#include "connectors/snmp/snmpport.h"
+#include "connectors/snmp/snmpusers.h"
+
 #include <QThread>
 
 #include <memory>
@@ -18,8 +21,16 @@ public:
     static std::shared_ptr<SnmpEngine> instance();
     ~SnmpEngine() override;
 
+    // What its sessions share; to be used on its thread only.
+    SnmpUsers& users() { return m_users; }
+    SnmpPorts& ports() { return m_ports; }
+
 protected:
     void run() override;
+
+private:
+    SnmpUsers m_users;
+    SnmpPorts m_ports;
 };
 
 #endif // SNMPENGINE_H

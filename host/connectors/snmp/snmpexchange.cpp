@@ -1,9 +1,8 @@
 #include "connectors/snmp/snmpexchange.h"
 
-SnmpExchange::SnmpExchange(const DeviceSettings& settings, QObject* parent)
-    : QObject(parent)
-    , m_settings(settings)
-    , m_session(settings, [this](const SnmpReply& reply) {
+SnmpExchange::SnmpExchange(const DeviceSettings& settings, SnmpEngine& engine)
+    : m_settings(settings)
+    , m_session(settings, engine, [this](const SnmpReply& reply) {
         m_dialogue->take(reply);
         step();
     })

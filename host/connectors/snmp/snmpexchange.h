@@ -11,7 +11,8 @@ class SnmpExchange : public QObject
     Q_OBJECT
 
 public:
-    explicit SnmpExchange(const DeviceSettings& settings, QObject* parent = nullptr);
+    // The engine must outlive the exchange.
+    SnmpExchange(const DeviceSettings& settings, SnmpEngine& engine);
 
     // The dialogue must live until ended() or stop(). One at a time.
     void start(SnmpDialogue* dialogue, const QString& numericAddress);

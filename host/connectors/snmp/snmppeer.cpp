@@ -7,8 +7,9 @@
 
 using std::chrono::seconds;
 
-SnmpPeer::SnmpPeer(const DeviceSettings& settings)
+SnmpPeer::SnmpPeer(const DeviceSettings& settings, SnmpEngine& engine)
     : m_settings(settings)
+    , m_engine(engine)
     , m_pollLimit(this)
 {
     m_settings.timeout = std::max(1, m_settings.timeout);
@@ -94,7 +95,7 @@ void SnmpPeer::startPoll(const QString& address)
     limits.peer = peer();
     m_poll = std::make_unique<SnmpPoll>(limits, m_memory);
     if (!m_exchange) {
-        m_exchange = std::make_unique<SnmpExchange>(m_settings);
+        m_exchange = std::make_unique<SnmpExchange>(m_settings, m_engine);
         connect(m_exchange.get(), &SnmpExchange::ended, this,
                 [this] { endPoll(m_poll->result()); });
     }
@@ -140,7 +141,7 @@ void SnmpPeer::send(const UpsCommand& command)
                          ? tr("user \"%1\"").arg(m_settings.address.user)
                          : tr("community");
     RunningCommand running{std::make_unique<SnmpCommand>(command, limits),
-                           std::make_unique<SnmpExchange>(m_settings)};
+                           std::make_unique<SnmpExchange>(m_settings, m_engine)};
     SnmpCommand* dialogue = running.dialogue.get();
     SnmpExchange* exchange = running.exchange.get();
     connect(

@@ -16,7 +16,8 @@ class SnmpPeer : public QObject
     Q_OBJECT
 
 public:
-    explicit SnmpPeer(const DeviceSettings& settings);
+    // The engine must outlive the peer.
+    SnmpPeer(const DeviceSettings& settings, SnmpEngine& engine);
     ~SnmpPeer() override;
 
     // One poll at a time; ends with exactly one polled(), after a time that timeout and retries
@@ -44,6 +45,7 @@ private:
     };
 
     DeviceSettings m_settings;
+    SnmpEngine& m_engine;
     SnmpMemory m_memory;
     QStringList m_addresses; // of the host name, the one in use first
     std::vector<AddressHandler> m_waitingForAddress;

@@ -1,16 +1,12 @@
 #include "connectors/snmp/snmpsession.h"
 
+#include "connectors/snmp/snmpengine.h"
+
 #include <net-snmp/net-snmp-config.h>
 
 #include <net-snmp/net-snmp-includes.h>
 
-#include <net-snmp/library/large_fd_set.h>
 #include <net-snmp/library/lcd_time.h>
-
-#include <QCryptographicHash>
-#include <QHash>
-
-#include <poll.h>
 
 using std::chrono::milliseconds;
 
@@ -76,41 +72,25 @@ void addVariable(netsnmp_pdu* pdu, const SnmpVariable& variable, bool withValue)
     }
 }
 
-QByteArray fingerprint(const QByteArrayList& parts)
-{
-    return QCryptographicHash::hash(parts.join('\0'), QCryptographicHash::Sha256);
-}
-
-// The key of a secret takes a megabyte of hashing: done once for all agents that share it.
-bool makeKey(const oid* protocol, size_t protocolLength, const QString& secret, u_char* key,
-             size_t* length)
-{
-    static QHash<QByteArray, QByteArray> known;
-    const QByteArray bytes = secret.toUtf8();
-    const QByteArray print = fingerprint(
-        {QByteArray(reinterpret_cast<const char*>(protocol), int(protocolLength * sizeof(oid))),
-         bytes});
-    auto entry = known.find(print);
-    if (entry == known.end()) {
-        u_char made[USM_AUTH_KU_LEN];
-        size_t size = sizeof(made);
-        if (generate_Ku(protocol, static_cast<u_int>(protocolLength),
-                        reinterpret_cast<const u_char*>(bytes.constData()),
-                        static_cast<size_t>(bytes.size()), made, &size) != SNMPERR_SUCCESS)
-            return false;
-        entry = known.insert(print, QByteArray(reinterpret_cast<const char*>(made), int(size)));
-    }
-    memcpy(key, entry->constData(), static_cast<size_t>(entry->size()));
-    *length = static_cast<size_t>(entry->size());
-    return true;
-}
-
 constexpr int kLibraryVersions[] = {SNMP_VERSION_1, SNMP_VERSION_2c, SNMP_VERSION_3};
+
+// Stands for the session in the library's sets of descriptors; nothing is read from or written to
+// the file of that number.
+constexpr int kNoDescriptor = 0;
+
+SnmpSession* ownerOf(const netsnmp_transport* transport)
+{
+    SnmpSession* owner = nullptr;
+    if (transport->data)
+        memcpy(&owner, transport->data, sizeof(owner));
+    return owner;
+}
 
 } // namespace
 
-SnmpSession::SnmpSession(const DeviceSettings& settings, Handler handler)
+SnmpSession::SnmpSession(const DeviceSettings& settings, SnmpEngine& engine, Handler handler)
     : m_settings(settings)
+    , m_engine(engine)
     , m_handler(std::move(handler))
 {
     m_timer.setSingleShot(true);
@@ -120,29 +100,24 @@ SnmpSession::SnmpSession(const DeviceSettings& settings, Handler handler)
 
 SnmpSession::~SnmpSession()
 {
-    m_notifier.reset(); // at once: the thread may be about to end
     close();
 }
 
 void SnmpSession::setPeer(const QString& numericAddress, quint16 port)
 {
-    const bool v6 = numericAddress.contains(QLatin1Char(':'));
-    m_peer = (v6 ? QStringLiteral("udp6:[%1]:%2") : QStringLiteral("udp:%1:%2"))
-                 .arg(numericAddress)
-                 .arg(port)
-                 .toLatin1();
+    m_agent.setAddress(numericAddress);
+    m_agentPort = port;
 }
 
 void SnmpSession::close()
 {
     m_timer.stop();
-    if (m_notifier) {
-        m_notifier->setEnabled(false);
-        m_notifier.release()->deleteLater(); // this may be its own call
-    }
     if (m_session)
         snmp_sess_close(m_session);
     m_session = nullptr;
+    if (m_port)
+        m_port->forget(this);
+    m_port.reset();
     m_pending = false;
     m_reply.reset();
 }
@@ -159,14 +134,14 @@ bool SnmpSession::open()
     QByteArray context = address.context.toUtf8();
 
     wanted.version = kLibraryVersions[version - 1];
-    wanted.peername = m_peer.data();
+    wanted.flags |= SNMP_FLAGS_DONT_PROBE;
     if (version == 3) {
         wanted.securityName = user.data();
         wanted.securityNameLen = static_cast<size_t>(user.size());
         wanted.contextName = context.data();
         wanted.contextNameLen = static_cast<size_t>(context.size());
-        QString error;
-        if (!addSecurity(wanted, error)) {
+        const QString error = m_engine.users().addSecurity(wanted, m_settings);
+        if (!error.isEmpty()) {
             fail(SnmpReply::Kind::Refusal, error);
             return false;
         }
@@ -175,75 +150,56 @@ bool SnmpSession::open()
         wanted.community_len = static_cast<size_t>(community.size());
     }
 
-    m_session = snmp_sess_open(&wanted);
+    QString error;
+    m_port = m_engine.ports().take(m_agent.protocol(), &error);
+    if (m_port && !(m_session = snmp_sess_add(&wanted, makeTransport(this), nullptr, nullptr)))
+        error = QString::fromLocal8Bit(snmp_api_errstring(wanted.s_snmp_errno));
     if (!m_session) {
-        const QString cause = QString::fromLocal8Bit(snmp_api_errstring(wanted.s_snmp_errno));
-        fail(SnmpReply::Kind::Silence,
-             tr("No SNMP session to %1: %2").arg(m_settings.address.host, cause));
+        fail(SnmpReply::Kind::Silence, tr("No SNMP session to %1: %2").arg(address.host, error));
         return false;
     }
     // Asking for the engine is our own request: the library would wait for the answer.
     snmp_sess_session(m_session)->flags |= SNMP_FLAGS_DONT_PROBE;
-    m_notifier = std::make_unique<QSocketNotifier>(snmp_sess_transport(m_session)->sock,
-                                                   QSocketNotifier::Read);
-    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { readSocket(); });
     return true;
 }
 
-// Level, protocols and keys of version 3.
-bool SnmpSession::addSecurity(netsnmp_session& session, QString& error)
+// The library's view of the port. It passes on what the port has taken in for this session, so
+// that no descriptor of ours, which may have any number, gets into one of its sets.
+netsnmp_transport* SnmpSession::makeTransport(SnmpSession* self)
 {
-    const DeviceAddress& address = m_settings.address;
-    const bool priv = address.securityLevel == QLatin1String("authPriv");
-    const bool auth = priv || address.securityLevel == QLatin1String("authNoPriv");
-    session.securityModel = SNMP_SEC_MODEL_USM;
-    session.securityLevel = priv   ? SNMP_SEC_LEVEL_AUTHPRIV
-                            : auth ? SNMP_SEC_LEVEL_AUTHNOPRIV
-                                   : SNMP_SEC_LEVEL_NOAUTH;
-    if (!auth)
-        return true;
+    auto* transport = SNMP_MALLOC_TYPEDEF(netsnmp_transport);
+    if (!transport)
+        return nullptr;
+    transport->domain = netsnmpUDPDomain;
+    transport->domain_length = static_cast<int>(netsnmpUDPDomain_len);
+    transport->sock = kNoDescriptor;
+    transport->msgMaxSize = SNMP_MAX_PACKET_LEN;
+    transport->f_send = &SnmpSession::onSend;
+    transport->f_recv = &SnmpSession::onReceive;
+    transport->f_close = [](netsnmp_transport*) { return 0; };
+    transport->data = malloc(sizeof(self)); // freed by the library
+    if (transport->data)
+        memcpy(transport->data, &self, transport->data_length = sizeof(self));
+    return transport;
+}
 
-    const int authType = usm_lookup_auth_type(address.authProtocol.toLatin1().constData());
-    size_t authLength = 0;
-    oid* authProtocol = authType < 0 ? nullptr : sc_get_auth_oid(authType, &authLength);
-    if (!authProtocol || authType == NETSNMP_USMAUTH_NOAUTH) {
-        error = tr("The SNMP library of this computer has no authentication with \"%1\".")
-                    .arg(address.authProtocol);
-        return false;
-    }
-    if (m_settings.authSecret.toUtf8().size() < USM_LENGTH_P_MIN ||
-        (priv && m_settings.privSecret.toUtf8().size() < USM_LENGTH_P_MIN)) {
-        error =
-            tr("SNMPv3 secrets have at least %1 characters; the %2 secret is shorter or missing.")
-                .arg(USM_LENGTH_P_MIN)
-                .arg(m_settings.authSecret.toUtf8().size() < USM_LENGTH_P_MIN ? tr("authentication")
-                                                                              : tr("privacy"));
-        return false;
-    }
-    session.securityAuthProto = authProtocol;
-    session.securityAuthProtoLen = authLength;
-    session.securityAuthKeyLen = sizeof(session.securityAuthKey);
-    bool made = makeKey(authProtocol, authLength, m_settings.authSecret, session.securityAuthKey,
-                        &session.securityAuthKeyLen);
-    if (priv) {
-        const int privType = usm_lookup_priv_type(address.privProtocol.toLatin1().constData());
-        size_t privLength = 0;
-        oid* privProtocol = privType < 0 ? nullptr : sc_get_priv_oid(privType, &privLength);
-        if (!privProtocol || privType == USM_CREATE_USER_PRIV_NONE) {
-            error = tr("The SNMP library of this computer has no privacy with \"%1\".")
-                        .arg(address.privProtocol);
-            return false;
-        }
-        session.securityPrivProto = privProtocol;
-        session.securityPrivProtoLen = privLength;
-        session.securityPrivKeyLen = sizeof(session.securityPrivKey);
-        made = makeKey(authProtocol, authLength, m_settings.privSecret, session.securityPrivKey,
-                       &session.securityPrivKeyLen) &&
-               made;
-    }
-    if (!made)
-        error = tr("The SNMP library cannot make keys of these secrets.");
-    return made;
+int SnmpSession::onSend(netsnmp_transport* transport, const void* bytes, int size, void**, int*)
+{
+    SnmpSession* self = ownerOf(transport);
+    const QByteArray message(static_cast<const char*>(bytes), size);
+    return self && self->m_port->send(message, self->m_agent, self->m_agentPort, self) ? size : -1;
+}
+
+int SnmpSession::onReceive(netsnmp_transport* transport, void* buffer, int size, void** opaque,
+                           int* opaqueSize)
+{
+    *opaque = nullptr;
+    *opaqueSize = 0;
+    SnmpSession* self = ownerOf(transport);
+    if (!self || self->m_received.size() > size)
+        return -1;
+    memcpy(buffer, self->m_received.constData(), static_cast<size_t>(self->m_received.size()));
+    return self->m_received.size();
 }
 
 bool SnmpSession::needsEngine() const
@@ -252,33 +208,10 @@ bool SnmpSession::needsEngine() const
            snmp_sess_session(m_session)->securityEngineIDLen == 0;
 }
 
-// The library keeps one table of users for all sessions, by engine and name. Agents with the same
-// engine (copies of one image) may have different secrets: the one that speaks owns the entry.
 void SnmpSession::claimUser()
 {
-    static QHash<QByteArray, QByteArray> owners;
-    if (m_settings.address.snmpVersion != 3 || !m_session || needsEngine())
-        return;
-    netsnmp_session* session = snmp_sess_session(m_session);
-    const QByteArray engine(reinterpret_cast<const char*>(session->securityEngineID),
-                            int(session->securityEngineIDLen));
-    const DeviceAddress& address = m_settings.address;
-    const QByteArray key = engine + '\0' + address.user.toUtf8();
-    const QByteArray print =
-        fingerprint({address.securityLevel.toUtf8(), address.authProtocol.toUtf8(),
-                     m_settings.authSecret.toUtf8(), address.privProtocol.toUtf8(),
-                     m_settings.privSecret.toUtf8()});
-    usmUser* present = usm_get_user(session->securityEngineID, session->securityEngineIDLen,
-                                    session->securityName);
-    if (present && owners.value(key) == print)
-        return;
-    if (present) {
-        usm_remove_user(present);
-        usm_free_user(present);
-    }
-    session->flags &= ~static_cast<u_long>(SNMP_FLAGS_USER_CREATED);
-    create_user_from_session(session);
-    owners.insert(key, print);
+    if (m_settings.address.snmpVersion == 3 && m_session && !needsEngine())
+        m_engine.users().claim(*snmp_sess_session(m_session), m_settings);
 }
 
 netsnmp_pdu* SnmpSession::makePdu() const
@@ -299,15 +232,7 @@ netsnmp_pdu* SnmpSession::makePdu() const
 // An empty question in nobody's name, which every agent answers with a report of its engine.
 netsnmp_pdu* SnmpSession::makeEngineProbe() const
 {
-    if (!usm_get_user(nullptr, 0, "")) {
-        usmUser* nobody = usm_create_user();
-        if (!nobody)
-            return nullptr;
-        nobody->name = strdup("");
-        nobody->secName = strdup("");
-        usm_add_user(nobody);
-    }
-    netsnmp_pdu* pdu = snmp_pdu_create(SNMP_MSG_GET);
+    netsnmp_pdu* pdu = SnmpUsers::addNobody() ? snmp_pdu_create(SNMP_MSG_GET) : nullptr;
     if (!pdu)
         return nullptr;
     pdu->version = SNMP_VERSION_3;
@@ -354,7 +279,7 @@ void SnmpSession::sendPdu(netsnmp_pdu* pdu)
     const QString text = QString::fromLocal8Bit(snmp_api_errstring(cause));
     if (cause == SNMPERR_BAD_SENDTO) // the network has no way there now
         fail(SnmpReply::Kind::Silence,
-             tr("Cannot send to %1: %2").arg(m_settings.address.host, text));
+             tr("Cannot send to %1: %2").arg(m_settings.address.host, m_port->errorText()));
     else
         fail(SnmpReply::Kind::Refusal, tr("The request cannot be made: %1").arg(text));
 }
@@ -425,19 +350,15 @@ QString SnmpSession::securityError(int error) const
     }
 }
 
-void SnmpSession::readSocket()
+void SnmpSession::receive(const QByteArray& message)
 {
-    if (!m_session)
-        return;
     claimUser();
-    const int socket = snmp_sess_transport(m_session)->sock;
-    netsnmp_large_fd_set readable;
-    netsnmp_large_fd_set_init(&readable, socket + 1);
-    NETSNMP_LARGE_FD_ZERO(&readable);
-    NETSNMP_LARGE_FD_SET(socket, &readable);
+    m_received = message;
+    fd_set readable;
+    FD_ZERO(&readable);
+    FD_SET(kNoDescriptor, &readable);
     const u_int forged = snmp_get_statistic(STAT_USMSTATSWRONGDIGESTS);
-    snmp_sess_read2(m_session, &readable);
-    netsnmp_large_fd_set_cleanup(&readable);
+    snmp_sess_read(m_session, &readable);
     // Some agents sign even their report of a wrong secret with the right one: the library drops
     // what it cannot verify, and only counts it.
     if (m_pending && !m_reply && snmp_get_statistic(STAT_USMSTATSWRONGDIGESTS) != forged)
@@ -449,10 +370,9 @@ void SnmpSession::onTimer()
 {
     if (m_session && !m_reply) {
         // An answer that waits in the socket has come in time: the thread was busy elsewhere.
-        pollfd waiting{snmp_sess_transport(m_session)->sock, POLLIN, 0};
-        if (::poll(&waiting, 1, 0) == 1) {
+        if (m_port->hasWaiting()) {
             m_timer.start(1);
-            return readSocket();
+            return m_port->receive();
         }
         claimUser();
         snmp_sess_timeout(m_session);

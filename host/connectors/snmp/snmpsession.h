@@ -2,7 +2,8 @@
 #define SNMPSESSION_H
 
 // One open conversation with one agent through net-snmp: a request out, a reply in, never blocking.
-// May touch: net-snmp, Qt Core, values. Lives on the engine's thread, like all calls of net-snmp.
+// May touch: net-snmp, the engine's users and ports, values. Lives on the engine's thread, like all
+// calls of net-snmp.
 
 #include "connectors/snmp/snmpdialogue.h"
 
@@ -10,14 +11,18 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QSocketNotifier>
+#include <QHostAddress>
 #include <QTimer>
 
 #include <functional>
 #include <memory>
 
+struct netsnmp_transport_s;
 struct snmp_pdu;
 struct snmp_session;
+
+class SnmpEngine;
+class SnmpPort;
 
 class SnmpSession
 {
@@ -27,8 +32,8 @@ public:
     using Handler = std::function<void(const SnmpReply&)>;
 
     // handler is called once for each request(), never from within it; it may call request() again,
-    // but must not destroy the session.
-    SnmpSession(const DeviceSettings& settings, Handler handler);
+    // but must not destroy the session. The engine must outlive the session.
+    SnmpSession(const DeviceSettings& settings, SnmpEngine& engine, Handler handler);
     ~SnmpSession();
     SnmpSession(const SnmpSession&) = delete;
     SnmpSession& operator=(const SnmpSession&) = delete;
@@ -44,11 +49,17 @@ public:
     // Answers that are still on their way are lost; a pending request gets no reply.
     void close();
 
+    // From the port: a message that answers one of ours.
+    void receive(const QByteArray& message);
+
 private:
+    static netsnmp_transport_s* makeTransport(SnmpSession* self);
+    static int onSend(netsnmp_transport_s* transport, const void* bytes, int size, void**, int*);
+    static int onReceive(netsnmp_transport_s* transport, void* buffer, int size, void** opaque,
+                         int* opaqueSize);
     static int onReply(int operation, snmp_session*, int, snmp_pdu* pdu, void* self);
 
     bool open();
-    bool addSecurity(snmp_session& session, QString& error);
     void claimUser();
     bool needsEngine() const;
     void sendTry();
@@ -56,7 +67,6 @@ private:
     snmp_pdu* makePdu() const;
     snmp_pdu* makeEngineProbe() const;
 
-    void readSocket();
     void onTimer();
     void settleReply();
     void deliver(const SnmpReply& reply);
@@ -64,10 +74,13 @@ private:
     QString securityError(int error) const;
 
     DeviceSettings m_settings;
+    SnmpEngine& m_engine;
     Handler m_handler;
-    QByteArray m_peer; // as net-snmp writes addresses
+    QHostAddress m_agent;
+    quint16 m_agentPort = 0;
+    std::shared_ptr<SnmpPort> m_port; // while the session is open
     void* m_session = nullptr;
-    std::unique_ptr<QSocketNotifier> m_notifier;
+    QByteArray m_received; // what the library is about to read
     QTimer m_timer;
     QElapsedTimer m_clock;
 
