@@ -2,6 +2,7 @@
 // version 3.
 
 #include "connectors/snmp/snmpconnector.h"
+#include "connectors/snmp/snmpport.h"
 #include "openfilelimit.h"
 #include "support/snmpagent.h"
 
@@ -13,6 +14,7 @@
 #include <QTest>
 
 #include <csignal>
+#include <set>
 
 namespace {
 
@@ -202,6 +204,17 @@ private slots:
         }
         for (const QString& place : {address(), m_snmpd.address()})
             QCOMPARE(pollOnce(settingsFor(place)).state, LinkState::Live);
+    }
+
+    void sessionsShareSockets()
+    {
+        SnmpPorts ports;
+        std::vector<std::shared_ptr<SnmpPort>> taken;
+        QString reason;
+        for (int i = 0; i < 3 * SnmpPorts::kSessionsPerPort; ++i)
+            taken.push_back(ports.take(QAbstractSocket::IPv4Protocol, &reason));
+        QCOMPARE(std::set(taken.begin(), taken.end()).size(), std::size_t(3));
+        QCOMPARE(reason, QString());
     }
 
     void sendsCommands()

@@ -57,7 +57,8 @@ SnmpPort::~SnmpPort() = default;
 QString SnmpPort::open()
 {
     const bool v6 = m_family == QAbstractSocket::IPv6Protocol;
-    if (m_socket.bind(v6 ? QHostAddress::AnyIPv6 : QHostAddress::AnyIPv4))
+    // As an address, in so many words: the bare constant would be taken for the number of a port.
+    if (m_socket.bind(QHostAddress(v6 ? QHostAddress::AnyIPv6 : QHostAddress::AnyIPv4)))
         return {};
     if (m_socket.error() != QAbstractSocket::SocketResourceError)
         return m_socket.errorString();
