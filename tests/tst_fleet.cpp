@@ -54,6 +54,18 @@ struct Desk {
     }
 };
 
+// Whether no two devices next to each other in the interval are further apart than twice the even
+// spacing.
+bool areSpread(QVector<qint64> placesMs)
+{
+    std::sort(placesMs.begin(), placesMs.end());
+    const qint64 even = 5000 / placesMs.size();
+    for (int i = 1; i < placesMs.size(); ++i)
+        if (placesMs[i] - placesMs[i - 1] > 2 * even)
+            return false;
+    return placesMs.last() - placesMs.first() <= 5000;
+}
+
 } // namespace
 
 class TestFleet : public QObject
@@ -63,7 +75,7 @@ class TestFleet : public QObject
 private slots:
     void backOff();
     void goodAnswersKeepTheirPlace();
-    void firstPollsAreSpread();
+    void pollsAreSpread();
     void stateAndAge();
     void oldReadingIsNeverLive();
     void suspendHurriesEveryDevice();
@@ -107,17 +119,31 @@ void TestFleet::goodAnswersKeepTheirPlace()
     QCOMPARE(plan.dueMs(), qint64(11234));
 }
 
-void TestFleet::firstPollsAreSpread()
+void TestFleet::pollsAreSpread()
 {
     Desk desk;
     QVector<qint64> offsets;
     for (int i = 0; i < 100; ++i)
         offsets << desk.add("nut://h/u")->dueMs() - desk.clock.monotonic;
     QCOMPARE(offsets.first(), qint64(0));
-    std::sort(offsets.begin(), offsets.end());
-    for (int i = 1; i < offsets.size(); ++i)
-        QVERIFY2(offsets[i] - offsets[i - 1] <= 100, "a gap of more than twice the even spacing");
-    QVERIFY(offsets.last() < 5000);
+    QVERIFY(areSpread(offsets));
+
+    // Many changed at once: the first is polled at once, and all keep or find places of their own.
+    for (const int interval : {5, 10, 5}) {
+        desk.clock.monotonic += 7777;
+        QVector<qint64> firstPolls;
+        QVector<qint64> places;
+        for (int i = 0; i < desk.fleet.count(); ++i) {
+            DeviceSettings settings = desk.fleet.at(i)->settings();
+            settings.pollInterval = interval;
+            const Device* device = desk.fleet.replace(i, settings);
+            firstPolls << device->dueMs() - desk.clock.monotonic;
+            places << device->placeAfter(desk.clock.monotonic) * 5 / interval;
+        }
+        QCOMPARE(firstPolls.first(), qint64(0));
+        QVERIFY(*std::max_element(firstPolls.begin(), firstPolls.end()) <= 1000);
+        QVERIFY2(areSpread(places), qPrintable(QString::number(interval)));
+    }
 }
 
 void TestFleet::stateAndAge()

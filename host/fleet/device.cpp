@@ -76,10 +76,10 @@ void Device::startPoll()
     m_connector->poll();
 }
 
-void Device::hurry()
+void Device::hurry(qint64 atMs)
 {
     m_followUp = isPolling();
-    m_plan.hurry(m_clock.monotonicMs());
+    m_plan.hurry(atMs);
 }
 
 void Device::checkPollLimit()

@@ -54,11 +54,13 @@ public:
 
     // For the fleet's schedule.
     qint64 dueMs() const { return m_plan.dueMs(); }
+    qint64 placeAfter(qint64 nowMs) const { return m_plan.placeAfter(nowMs); }
     bool isPolling() const { return m_pollStarted >= 0; }
     void startPoll();
-    // Polls at once. A poll that is under way began before there was a reason to hurry (before a
-    // suspend, or a command), so another follows it.
-    void hurry();
+    // Polls at that time (monotonic ms) where it is sooner than planned. A poll that is under way
+    // began before there was a reason to hurry (before a suspend, or a command), so another
+    // follows.
+    void hurry(qint64 atMs);
     // Ends a poll that the connector never answered.
     void checkPollLimit();
     // Notices a change of condition; to be called when time has passed, too.

@@ -9,6 +9,8 @@ constexpr int kTickMs = 1000;
 constexpr qint64 kSuspendMs = 2000;
 // Devices of one interval take places 0, 1/2, 1/4, 3/4, ... of it: spread evenly at any number.
 constexpr quint32 kPlaceBits = 16;
+// Between two polls out of turn.
+constexpr qint64 kOutOfTurnGapMs = 10;
 
 double placeInInterval(quint32 number)
 {
@@ -58,11 +60,15 @@ std::unique_ptr<Device> Fleet::makeDevice(const DeviceSettings& settings, qint64
     return device;
 }
 
+qint64 Fleet::newPlaceMs(const DeviceSettings& settings)
+{
+    const double place = placeInInterval(m_placesTaken++);
+    return m_clock.monotonicMs() + static_cast<qint64>(place * settings.pollInterval * 1000);
+}
+
 Device* Fleet::add(const DeviceSettings& settings, qint64 holdMs)
 {
-    const auto offset =
-        static_cast<qint64>(placeInInterval(m_added++) * settings.pollInterval * 1000);
-    m_devices.push_back(makeDevice(settings, m_clock.monotonicMs() + holdMs + offset));
+    m_devices.push_back(makeDevice(settings, newPlaceMs(settings) + holdMs));
     emit deviceAdded(count() - 1);
     schedule();
     return m_devices.back().get();
@@ -87,20 +93,24 @@ void Fleet::move(int from, int to)
 
 Device* Fleet::replace(int index, const DeviceSettings& settings)
 {
-    auto device = makeDevice(settings, m_clock.monotonicMs()); // settings may be the old one's
+    const Device& old = *at(index); // whose settings these may be
+    const bool keepsPlace = old.settings().pollInterval == settings.pollInterval;
+    auto device = makeDevice(settings, keepsPlace ? old.placeAfter(m_clock.monotonicMs())
+                                                  : newPlaceMs(settings));
     emit deviceAboutToBeRemoved(index);
     m_devices.erase(m_devices.begin() + index);
     emit deviceRemoved(index);
     m_devices.insert(m_devices.begin() + index, std::move(device));
     emit deviceAdded(index);
     emit deviceReplaced(index);
-    schedule();
+    pollNow(at(index));
     return at(index);
 }
 
 void Fleet::pollNow(Device* device)
 {
-    device->hurry();
+    m_lastOutOfTurnMs = std::max(m_clock.monotonicMs(), m_lastOutOfTurnMs + kOutOfTurnGapMs);
+    device->hurry(m_lastOutOfTurnMs);
     schedule();
 }
 
@@ -138,7 +148,7 @@ void Fleet::tick()
     const qint64 suspended = m_clock.bootMs() - m_clock.monotonicMs();
     if (suspended - m_suspendedMs > kSuspendMs) {
         for (const auto& device : m_devices)
-            device->hurry();
+            device->hurry(m_clock.monotonicMs());
         schedule();
     }
     m_suspendedMs = suspended;

@@ -34,9 +34,11 @@ public:
     Device* add(const DeviceSettings& settings, qint64 holdMs = 0);
     void remove(int index);
     void move(int from, int to);
-    // New settings, new connector; the device keeps its place, its last reading is forgotten.
+    // New settings, new connector; the device keeps its place in the list and, where the interval
+    // stays, in the interval. Its last reading is forgotten, and it is polled now.
     Device* replace(int index, const DeviceSettings& settings);
 
+    // Out of turn; where many ask for it together (secrets that arrive), one shortly after another.
     void pollNow(Device* device);
 
     // For all devices, those that are there and those to come.
@@ -56,6 +58,7 @@ signals:
 
 private:
     std::unique_ptr<Device> makeDevice(const DeviceSettings& settings, qint64 firstDueMs);
+    qint64 newPlaceMs(const DeviceSettings& settings);
     void pollDueDevices();
     void schedule();
     void tick();
@@ -67,7 +70,8 @@ private:
     QTimer m_pollTimer;
     QTimer m_tickTimer;
     qint64 m_suspendedMs; // boot clock ahead of the monotonic clock at the last tick
-    quint32 m_added = 0;
+    quint32 m_placesTaken = 0;
+    qint64 m_lastOutOfTurnMs = 0; // on the monotonic clock
 };
 
 #endif // FLEET_H

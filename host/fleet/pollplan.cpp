@@ -1,7 +1,5 @@
 #include "fleet/pollplan.h"
 
-#include <algorithm>
-
 PollPlan::PollPlan(qint64 intervalMs, qint64 firstDueMs)
     : m_interval(std::max<qint64>(intervalMs, 1))
     , m_due(firstDueMs)
@@ -11,7 +9,7 @@ PollPlan::PollPlan(qint64 intervalMs, qint64 firstDueMs)
 void PollPlan::succeeded(qint64 nowMs)
 {
     m_failures = 0;
-    nextPlaceAfter(nowMs);
+    m_due = m_place = placeAfter(nowMs);
 }
 
 void PollPlan::failed(qint64 nowMs)
@@ -23,10 +21,8 @@ void PollPlan::failed(qint64 nowMs)
     m_due = nowMs + std::min(m_interval << doublings, longest);
 }
 
-void PollPlan::nextPlaceAfter(qint64 nowMs)
+qint64 PollPlan::placeAfter(qint64 nowMs) const
 {
-    // A poll out of turn leaves the place that is still to come.
-    if (m_place <= nowMs)
-        m_place += ((nowMs - m_place) / m_interval + 1) * m_interval;
-    m_due = m_place;
+    const qint64 ahead = (m_place - nowMs) % m_interval;
+    return nowMs + (ahead > 0 ? ahead : ahead + m_interval);
 }

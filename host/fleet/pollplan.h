@@ -7,6 +7,8 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
+
 class PollPlan
 {
 public:
@@ -23,12 +25,13 @@ public:
     void succeeded(qint64 nowMs);
     // No good answer: the pause doubles from one interval up to a minute.
     void failed(qint64 nowMs);
-    // Try at once (network back, machine awake, operator asks).
-    void hurry(qint64 nowMs) { m_due = nowMs; }
+    // Try then, where that is sooner than planned (machine awake, operator asks). The place stays.
+    void hurry(qint64 atMs) { m_due = std::min(m_due, atMs); }
+
+    // The next due time of the even grid, whatever the device answers.
+    qint64 placeAfter(qint64 nowMs) const;
 
 private:
-    void nextPlaceAfter(qint64 nowMs);
-
     qint64 m_interval;
     qint64 m_due;
     qint64 m_place; // any due time of the even grid
