@@ -5,21 +5,24 @@
 #include "connectors/snmp/snmpport.h"
 #include "openfilelimit.h"
 #include "support/snmpagent.h"
+#include "support/snmpd.h"
 
-#include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
 #include <set>
 
 namespace {
 
 constexpr char kThreePhase[] = TEST_DATA "/snmp/three-phase.txt";
 constexpr int kPatience = 20000; // ms, for the slowest machine
+constexpr char kFewObjects[] = R"(override .1.3.6.1.2.1.33.1.2.1.0 integer 2
+override .1.3.6.1.2.1.33.1.2.4.0 integer 88
+override .1.3.6.1.2.1.33.1.4.1.0 integer 3
+override -rw .1.3.6.1.2.1.33.1.8.1.0 integer 1
+override -rw .1.3.6.1.2.1.33.1.8.2.0 integer -1
+)";
 constexpr char kSecured[] =
     "snmp://operator@127.0.0.1:%1?version=3&level=authPriv&auth=SHA&priv=AES";
 
@@ -61,66 +64,6 @@ CommandResult sendOnce(const DeviceSettings& settings, CommandKind kind)
     return finished.value(0).value(0).value<CommandResult>();
 }
 
-// snmpd with a few objects of the UPS-MIB and users of version 3, all its files in one folder.
-class Snmpd
-{
-public:
-    ~Snmpd() { stop(); }
-
-    bool start(bool freshEngine)
-    {
-        if (m_port == 0) {
-            QUdpSocket probe;
-            probe.bind(QHostAddress(QHostAddress::LocalHost));
-            m_port = probe.localPort();
-        }
-        const QString state = m_folder.filePath("state");
-        if (freshEngine)
-            QDir(state).removeRecursively();
-        QDir().mkpath(state);
-        QFile conf(m_folder.filePath("agent.conf"));
-        if (!conf.open(QIODevice::WriteOnly))
-            return false;
-        conf.write("agentaddress udp:127.0.0.1:" + QByteArray::number(m_port) + '\n');
-        conf.write(R"(createUser operator SHA "auth-secret" AES "priv-secret"
-createUser watcher SHA-256 "auth-secret" AES-256 "priv-secret"
-rwuser operator priv
-rouser watcher priv
-override .1.3.6.1.2.1.33.1.2.1.0 integer 2
-override .1.3.6.1.2.1.33.1.2.4.0 integer 88
-override .1.3.6.1.2.1.33.1.4.1.0 integer 3
-override -rw .1.3.6.1.2.1.33.1.8.1.0 integer 1
-override -rw .1.3.6.1.2.1.33.1.8.2.0 integer -1
-)");
-        conf.close();
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("SNMP_PERSISTENT_DIR", state);
-        m_process.setProcessEnvironment(environment);
-        m_process.start("/usr/sbin/snmpd",
-                        {"-f", "-Ln", "-C", "-c", conf.fileName(), "-I",
-                         QStringLiteral("override,usmUser,usmConf,vacm_conf,vacm_vars,snmpEngine,"
-                                        "setSerialNo")});
-        return m_process.waitForStarted();
-    }
-
-    void stop()
-    {
-        m_process.kill(); // no last words: a crash
-        m_process.waitForFinished();
-    }
-
-    void freeze(bool on)
-    {
-        ::kill(static_cast<pid_t>(m_process.processId()), on ? SIGSTOP : SIGCONT);
-    }
-    QString address() const { return QString(kSecured).arg(m_port); }
-
-private:
-    QTemporaryDir m_folder;
-    QProcess m_process;
-    quint16 m_port = 0;
-};
-
 } // namespace
 
 class tst_SnmpConnector : public QObject
@@ -128,7 +71,7 @@ class tst_SnmpConnector : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY2(m_snmpd.start(true), "snmpd is not installed"); }
+    void initTestCase() { QVERIFY2(m_snmpd.start(kFewObjects, true), "snmpd is not installed"); }
 
     void init()
     {
@@ -305,7 +248,7 @@ private slots:
 
         for (const bool freshEngine : {false, true}) {
             m_snmpd.stop();
-            QVERIFY(m_snmpd.start(freshEngine));
+            QVERIFY(m_snmpd.start(kFewObjects, freshEngine));
             QVERIFY(waitForSnmpd()); // on other sessions
             QCOMPARE(pollOnce(connector).state, LinkState::Live);
         }
