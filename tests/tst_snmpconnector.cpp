@@ -121,6 +121,16 @@ private slots:
         QCOMPARE(polled.count(), 2);
     }
 
+    // Each answer in time, but too many of them: the next poll must get its turn.
+    void endsAPollThatTakesTooLong()
+    {
+        m_agent->table.answersFirst = 1;
+        m_agent->answerAfter = 400;
+        const PollResult result = pollOnce(settingsFor(address()));
+        QCOMPARE(result.state, LinkState::Lost);
+        QVERIFY2(result.message.contains("too slowly"), qPrintable(result.message));
+    }
+
     void oneSilentAgentDelaysNoOther()
     {
         SnmpAgent silent;
@@ -170,6 +180,12 @@ private slots:
         m_agent->table.setError = SnmpNoAccess;
         result = sendOnce(settingsFor(address()), CommandKind::SelfTest);
         QCOMPARE(result.outcome, CommandOutcome::Refused);
+
+        // The second of two settings is the one that is not accepted.
+        m_agent->table.setError = SnmpBadValue;
+        m_agent->table.setErrorIndex = 2;
+        result = sendOnce(settingsFor(address()), CommandKind::SelfTest);
+        QVERIFY2(result.message.contains("33.1.7.1.0"), qPrintable(result.message));
 
         m_agent->table.setError = SnmpNoError;
         m_agent->table.onSet = [this](const SnmpVariable&) { m_agent->table.load("7.3.0 i 5"); };

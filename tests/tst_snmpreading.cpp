@@ -203,6 +203,11 @@ private slots:
 
         table.load("1.3.6.1.2.1.1.3.0 i 100"); // or at once when the agent has restarted
         pollOnce(table, restarted, 1);
+        // It may be another one now, which takes one object at a time.
+        SnmpMemory weaker = restarted;
+        table.silentAbove = 1;
+        QCOMPARE(pollOnce(table, weaker).state, LinkState::Live);
+        table.silentAbove = 1000;
         QVERIFY(pollOnce(table, restarted, 1).reading.ratedInputVoltage);
     }
 
@@ -239,6 +244,12 @@ private slots:
         const auto onSet = [](const char* lines) { // what every SET does to the agent
             return [=](T& t) { t.onSet = [&t, lines](const SnmpVariable&) { t.load(lines); }; };
         };
+        const auto from = [](const char* before, const char* afterSet) {
+            return [=](T& t) {
+                t.load(before);
+                t.onSet = [&t, afterSet](const SnmpVariable&) { t.load(afterSet); };
+            };
+        };
         const Prepare silent = [](T& t) { t.setSilent = true; };
         const struct {
             const char *title, *name, *value;
@@ -262,7 +273,22 @@ private slots:
             {"standby of minutes", "standby", "5", none, O::Done, "300 s", 1, "8.4.0 i 300"},
             {"standby of hours", "standby", "120", none, O::Done, "20 s", 2,
              "8.3.0 i 7200\n8.2.0 i 20"},
-            {"wake-up", "wake-up", "", with("4.1.0 i 2"), O::Done, "", 1, "8.3.0 i 0"},
+            {"wake-up", "wake-up", "", from("4.1.0 i 2", "4.1.0 i 3"), O::Done, "is on", 1,
+             "8.3.0 i 0"},
+            {"wake-up is only noted", "wake-up", "", with("4.1.0 i 2"), O::NoAnswer, "no effect",
+             1},
+            {"wake-up of an output that is on", "wake-up", "", none, O::NoAnswer, "was on before",
+             1},
+            {"restart of an output that is off", "restart", "",
+             from("4.1.0 i 2\n8.4.0 i 0", "8.4.0 i 0"), O::NoAnswer, "was off before", 1},
+            {"restart brings the output on", "restart", "",
+             from("4.1.0 i 2\n8.4.0 i 0", "4.1.0 i 3\n8.4.0 i 0"), O::Done, "is on", 1},
+            {"countdown always reads 0", "shutdown", "", from("8.2.0 i 0", "8.2.0 i 0"),
+             O::NoAnswer, "no effect", 1},
+            {"countdown of another, unmoved", "shutdown", "", with("8.2.0 i 20"), O::NoAnswer,
+             "no effect", 1},
+            {"countdown of another, taken over", "shutdown", "", with("8.2.0 i 300"), O::Done,
+             "20 s", 1},
             {"off at once", "shutdown", "", onSet("4.1.0 i 2\n8.2.0 i -1"), O::Done, "off", 1},
             {"read-only community", "shutdown", "", [](T& t) { t.setError = SnmpNoAccess; },
              O::Refused, "community needs write access", 1, "8.2.0 i -1"},

@@ -1,5 +1,7 @@
 #include "snmpagent.h"
 
+#include <QTimer>
+
 namespace {
 
 enum Tag : quint8 {
@@ -163,6 +165,9 @@ void SnmpAgent::receive()
         m_socket.readDatagram(packet.bytes.data(), packet.bytes.size(), &packet.from, &packet.port);
         if (frozen)
             m_kept.push_back(packet);
+        else if (answerAfter > 0)
+            QTimer::singleShot(answerAfter, this,
+                               [this, packet] { answer(packet.bytes, packet.from, packet.port); });
         else
             answer(packet.bytes, packet.from, packet.port);
     }

@@ -25,6 +25,7 @@ public:
     QByteArray community = "public";
     bool frozen = false; // keeps what it is asked and answers when it thaws
     void thaw();
+    int answerAfter = 0; // ms
     // Datagrams to send in place of each good one; empty: the good one.
     std::function<QByteArrayList(const QByteArray& good)> spoil;
 

@@ -12,8 +12,23 @@ namespace {
 
 constexpr milliseconds kBetweenLooks{500};
 constexpr int kMostRounds = 30; // 15 s until a command that was accepted must show an effect
+constexpr int kMostRoundsOfWakeUp = 120; // a UPS takes its time to come on
 constexpr int kMostLockTries = 3;
-constexpr int kLongestReboot = 300; // s, limit of upsRebootWithDuration
+// A setting was sent, and nothing tells what became of it.
+constexpr CommandOutcome kResultUnknown = CommandOutcome::NoAnswer;
+constexpr int kLongestReboot = 300;    // s, limit of upsRebootWithDuration
+constexpr int kCountdownTolerance = 2; // s by which a countdown that goes on may seem to jump
+
+bool isOn(std::optional<qint64> source)
+{
+    return source && *source >= qint64(OutputSource::Utility) &&
+           *source <= qint64(OutputSource::Reducer);
+}
+
+bool isOff(std::optional<qint64> source)
+{
+    return source == qint64(OutputSource::None);
+}
 
 enum class Refusal { Access, Value, Failed };
 
@@ -80,6 +95,12 @@ std::optional<qint64> SnmpCommand::number(const SnmpOid& object) const
     return found == m_seen.end() ? std::nullopt : found->second.raw();
 }
 
+std::optional<qint64> SnmpCommand::numberBefore(const SnmpOid& object) const
+{
+    const auto found = m_before.find(object);
+    return found == m_before.end() ? std::nullopt : found->second.raw();
+}
+
 std::optional<SnmpRequest> SnmpCommand::next()
 {
     if (m_phase == Phase::Done)
@@ -94,6 +115,7 @@ std::optional<SnmpRequest> SnmpCommand::next()
     // One object at a time: version 1 and weak agents refuse the lot for one that is missing.
     request.retries = m_limits.retries;
     request.delay = m_delay;
+    m_sinceBefore += m_delay;
     request.variables = {{m_looks.front(), SnmpValue::null()}};
     m_delay = {};
     return request;
@@ -101,6 +123,7 @@ std::optional<SnmpRequest> SnmpCommand::next()
 
 void SnmpCommand::take(const SnmpReply& reply)
 {
+    m_sinceBefore = m_phase == Phase::Before ? milliseconds(0) : m_sinceBefore + reply.elapsed;
     if (reply.kind == SnmpReply::Kind::Refusal && m_phase != Phase::Undo)
         finish(CommandOutcome::Refused, reply.message);
     else if (m_phase == Phase::Set)
@@ -117,7 +140,7 @@ void SnmpCommand::takeLook(const SnmpReply& reply)
         if (m_phase == Phase::Before)
             finish(CommandOutcome::NoAnswer, m_result.message);
         else
-            finish(CommandOutcome::NoAnswer,
+            finish(kResultUnknown,
                    tr("The agent fell silent after the command was sent; it is not known whether "
                       "the device carried it out. It was not sent again."));
         return;
@@ -193,6 +216,7 @@ void SnmpCommand::prepareControl()
         }
         set(shutdownAfterDelay, m_command.shutdownDelay);
     }
+    m_wanted = static_cast<int>(m_settings.back().front().value.integer);
     for (const std::vector<SnmpVariable>& setting : m_settings)
         if (!seen(setting.front().oid))
             return finish(CommandOutcome::NotOffered,
@@ -229,7 +253,7 @@ void SnmpCommand::takeSet(const SnmpReply& reply)
         return;
     }
     if (!m_settings.empty())
-        return finish(CommandOutcome::NoAnswer,
+        return finish(kResultUnknown,
                       tr("No answer to the first step of the command; the shutdown was not sent."));
     m_phase = Phase::After;
     if (isTest())
@@ -242,16 +266,33 @@ void SnmpCommand::follow()
 {
     if (isTest() ? testShowsResult() : controlShowsResult())
         return;
-    if (++m_rounds >= kMostRounds || (isTest() && !seen(testResultsSummary)))
-        return finish(CommandOutcome::NoAnswer,
-                      m_unclear ? tr("No answer to the command, and the device shows no effect of "
-                                     "it. It was not sent again.")
-                                : tr("The agent accepted the command, but the device shows no "
-                                     "effect of it."));
+    const bool wakesUp = m_command.kind == CommandKind::WakeUp;
+    if (++m_rounds >= (wakesUp ? kMostRoundsOfWakeUp : kMostRounds) ||
+        (isTest() && !seen(testResultsSummary)))
+        return finishUnknown();
     if (isTest())
         look({testResultsSummary, testStartTime, testResultsDetail}, kBetweenLooks);
     else
         look({m_countdown, outputSource}, kBetweenLooks);
+}
+
+void SnmpCommand::finishUnknown()
+{
+    const std::optional<qint64> before = numberBefore(outputSource);
+    const bool wakesUp = m_command.kind == CommandKind::WakeUp;
+    if (m_unclear)
+        finish(kResultUnknown, tr("No answer to the command, and the device shows no effect of it. "
+                                  "It was not sent again."));
+    else if (!isTest() && (wakesUp ? isOn(before) : isOff(before)))
+        finish(kResultUnknown,
+               (wakesUp
+                    ? tr("The agent accepted the command, but the output was on before: nothing "
+                         "shows whether the device followed it.")
+                    : tr("The agent accepted the command, but the output was off before: "
+                         "nothing shows whether the device followed it.")));
+    else
+        finish(kResultUnknown,
+               tr("The agent accepted the command, but the device shows no effect of it."));
 }
 
 bool SnmpCommand::testShowsResult()
@@ -261,6 +302,8 @@ bool SnmpCommand::testShowsResult()
         return false;
     const bool inProgress = *result == InProgress;
     if (m_command.kind == CommandKind::CancelTest) {
+        if (numberBefore(testResultsSummary) != qint64(InProgress))
+            return false;
         if (!inProgress)
             finish(CommandOutcome::Done, tr("The test has ended."));
         return !inProgress;
@@ -270,8 +313,8 @@ bool SnmpCommand::testShowsResult()
         return true;
     }
     // A short test may have begun and ended between two looks.
-    const auto before = [this](const SnmpOid& object) { return m_before[object].raw(); };
-    if (result == before(testResultsSummary) && number(testStartTime) == before(testStartTime))
+    if (result == numberBefore(testResultsSummary) &&
+        number(testStartTime) == numberBefore(testStartTime))
         return false;
     const QString detail = cleanDeviceText(m_seen[testResultsDetail].octets);
     if (*result == DonePass || *result == DoneWarning)
@@ -287,22 +330,37 @@ bool SnmpCommand::testShowsResult()
 
 bool SnmpCommand::controlShowsResult()
 {
-    const std::optional<qint64> source = number(outputSource);
-    const bool outputOff = source == qint64(OutputSource::None);
-    const bool outputOn = source && *source >= qint64(OutputSource::Utility) &&
-                          *source <= qint64(OutputSource::Reducer);
-    if (m_command.kind == CommandKind::WakeUp ? outputOn : outputOff) {
-        finish(CommandOutcome::Done, outputOn ? tr("The output is on.") : tr("The output is off."));
-        return true;
-    }
-    // -1 reads as "no countdown"; agents that always read 0 prove nothing by it.
-    const std::optional<qint64> countdown = number(m_countdown);
-    const bool idle = !countdown || *countdown < 0 ||
-                      (*countdown == 0 && countdown == m_before[m_countdown].raw());
-    if (idle)
+    if (outputHasSwitched())
+        finish(CommandOutcome::Done,
+               isOn(number(outputSource)) ? tr("The output is on.") : tr("The output is off."));
+    else if (countdownHasBegun())
+        finish(CommandOutcome::Done,
+               tr("The countdown is running, %1 s left.").arg(*number(m_countdown)));
+    else
         return false;
-    finish(CommandOutcome::Done, tr("The countdown is running, %1 s left.").arg(*countdown));
     return true;
+}
+
+// An output that was off before a restart has to come on.
+bool SnmpCommand::outputHasSwitched() const
+{
+    const std::optional<qint64> before = numberBefore(outputSource);
+    const std::optional<qint64> now = number(outputSource);
+    const bool wantedOn = m_command.kind == CommandKind::WakeUp ||
+                          (m_command.kind == CommandKind::Restart && isOff(before));
+    return before && (wantedOn ? isOn(now) && !isOn(before) : isOff(now) && !isOff(before));
+}
+
+// -1 reads as "no countdown", and so does 0 in many agents. One that ran before must have jumped to
+// be ours.
+bool SnmpCommand::countdownHasBegun() const
+{
+    const std::optional<qint64> now = number(m_countdown);
+    const qint64 before = numberBefore(m_countdown).value_or(-1);
+    if (!now || *now <= 0 || *now > m_wanted || *now == before)
+        return false;
+    const qint64 goneOn = before - m_sinceBefore / std::chrono::seconds(1);
+    return before <= 0 || std::abs(*now - goneOn) > kCountdownTolerance;
 }
 
 void SnmpCommand::refuse(int errorStatus, const SnmpOid& object)

@@ -6,7 +6,8 @@
 //
 // A setting is sent once; after a silence it is looked at, not sent again. A test counts as done
 // when it has begun: a discharge test runs for hours, and how it ends is told by the alarms of the
-// readings. A countdown counts as done when the agent shows it running, or its effect.
+// readings. A countdown counts as done when the agent shows it running, or its effect; what was so
+// before the command proves nothing.
 
 #include "connectors/snmp/snmpdialogue.h"
 
@@ -43,6 +44,7 @@ private:
     void look(const std::vector<SnmpOid>& objects, std::chrono::milliseconds delay = {});
     bool seen(const SnmpOid& object) const;
     std::optional<qint64> number(const SnmpOid& object) const;
+    std::optional<qint64> numberBefore(const SnmpOid& object) const;
 
     void takeLook(const SnmpReply& reply);
     void prepareTest();
@@ -51,6 +53,9 @@ private:
     void follow();
     bool testShowsResult();
     bool controlShowsResult();
+    bool outputHasSwitched() const;
+    bool countdownHasBegun() const;
+    void finishUnknown();
     void refuse(int errorStatus, const SnmpOid& object);
     void finish(CommandOutcome outcome, const QString& message);
 
@@ -64,6 +69,8 @@ private:
     SnmpValues m_before;                              // as answered before the setting
     std::deque<std::vector<SnmpVariable>> m_settings; // one request each
     SnmpOid m_countdown;                              // the object whose countdown shows the result
+    int m_wanted = 0;                                 // s that it was set to
+    std::chrono::milliseconds m_sinceBefore{0};       // from the last look before the setting
     std::vector<SnmpVariable> m_undo;                 // to send when a later setting is refused
     bool m_unclear = false;                           // a setting was not answered
     int m_lockTries = 0;
