@@ -3,9 +3,8 @@
 #include "private/privatefile.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
-#include <QLockFile>
+
+#include <QSet>
 
 #include <algorithm>
 
@@ -16,29 +15,6 @@ struct Tr {
 };
 
 const char kByteOrderMark[] = "\xef\xbb\xbf";
-constexpr int kLockWait = 2000; // ms
-
-struct FileContent {
-    std::optional<QByteArray> bytes; // empty: there is no file
-    QString error;
-};
-
-FileContent readFile(const QString& path)
-{
-    QFile file(path);
-    if (!file.exists())
-        return {};
-    if (!QFileInfo(path).isFile())
-        return {std::nullopt, Tr::tr("%1 is not a file").arg(path)};
-    if (!file.open(QIODevice::ReadOnly))
-        return {std::nullopt, Tr::tr("cannot read %1: %2").arg(path, file.errorString())};
-    const QByteArray bytes = file.read(ConfigDocument::kMaxBytes + 1);
-    if (bytes.size() > ConfigDocument::kMaxBytes)
-        return {std::nullopt, Tr::tr("%1 is longer than %2 bytes; it is not read")
-                                  .arg(path)
-                                  .arg(ConfigDocument::kMaxBytes)};
-    return {bytes.isNull() ? QByteArray("") : bytes, {}};
-}
 
 QList<QByteArray> splitLines(const QByteArray& bytes)
 {
@@ -60,16 +36,17 @@ ConfigDocument::ConfigDocument(const QByteArray& bytes)
 {
     const bool marked = bytes.startsWith(kByteOrderMark);
     m_byteOrderMark = marked ? QByteArray(kByteOrderMark) : QByteArray();
-    m_lines = splitLines(bytes.mid(m_byteOrderMark.size()));
-    if (!m_lines.isEmpty() && m_lines.first().endsWith("\r\n"))
+    for (const QByteArray& line : splitLines(bytes.mid(m_byteOrderMark.size())))
+        m_lines += makeLine(line);
+    if (!m_lines.isEmpty() && m_lines.constFirst().bytes.endsWith("\r\n"))
         m_lineEnd = "\r\n";
-    parse();
+    index();
     m_faultsOnDisk = m_faults;
 }
 
 ConfigDocument ConfigDocument::load(const QString& path, const QByteArray& startText)
 {
-    const FileContent content = readFile(path);
+    const FileContent content = readBoundedFile(path, kMaxBytes);
     ConfigDocument document(content.bytes.value_or(startText));
     document.m_path = path;
     document.m_onDisk = content.bytes;
@@ -82,20 +59,27 @@ ConfigDocument ConfigDocument::load(const QString& path, const QByteArray& start
 
 QByteArray ConfigDocument::toBytes() const
 {
-    return m_byteOrderMark + m_lines.join();
+    QByteArray bytes = m_byteOrderMark;
+    for (const Line& line : m_lines)
+        bytes += line.bytes;
+    return bytes;
 }
 
 // Reading
 
-void ConfigDocument::parse()
+ConfigDocument::Line ConfigDocument::makeLine(const QByteArray& bytes)
 {
-    m_parsed.clear();
+    const int end = bytes.endsWith("\r\n") ? 2 : bytes.endsWith('\n') ? 1 : 0;
+    return {bytes, parseConfigLine(bytes.left(bytes.size() - end))};
+}
+
+void ConfigDocument::index()
+{
     m_sections.clear();
+    m_usable.clear();
     m_faults.clear();
     for (int i = 0; i < m_lines.size(); ++i) {
-        m_parsed += parseConfigLine(lineText(i));
-        const ConfigLine& line = m_parsed.constLast();
-        const ConfigSection id{line.type, line.name};
+        const ConfigLine& line = m_lines.at(i).parsed;
         switch (line.kind) {
         case ConfigLine::Kind::Blank:
         case ConfigLine::Kind::Comment:
@@ -105,22 +89,30 @@ void ConfigDocument::parse()
             break;
         case ConfigLine::Kind::FaultySection:
             addFault(i, Tr::tr("%1; the section is skipped").arg(line.fault));
-            m_sections += Section{id, i, {}, false};
+            m_sections += Section{{}, i, {}, false};
             break;
-        case ConfigLine::Kind::Section: {
-            const Section* earlier = find(id);
-            if (earlier)
-                addFault(i, Tr::tr("[%1] stands already in line %2; this section is skipped")
-                                .arg(QString::fromUtf8(configHeader(id.type, id.name)))
-                                .arg(earlier->header + 1));
-            m_sections += Section{id, i, {}, !earlier};
+        case ConfigLine::Kind::Section:
+            addSectionAt(i);
             break;
-        }
         case ConfigLine::Kind::Entry:
             addEntry(i);
             break;
         }
     }
+}
+
+void ConfigDocument::addSectionAt(int index)
+{
+    const ConfigLine& line = m_lines.at(index).parsed;
+    const ConfigSection id{line.type, line.name};
+    const Section* earlier = find(id);
+    if (earlier)
+        addFault(index, Tr::tr("[%1] stands already in line %2; this section is skipped")
+                            .arg(QString::fromUtf8(configHeader(id.type, id.name)))
+                            .arg(earlier->header + 1));
+    else
+        m_usable.insert({id.type, id.name}, m_sections.size());
+    m_sections += Section{id, index, {}, !earlier};
 }
 
 void ConfigDocument::addFault(int index, const QString& text)
@@ -141,29 +133,32 @@ void ConfigDocument::addEntry(int index)
     Section& section = m_sections.last();
     if (!section.usable)
         return;
-    const QString& key = m_parsed.at(index).key;
-    const auto same = [&](int other) { return m_parsed.at(other).key == key; };
+    const QString& key = m_lines.at(index).parsed.key;
+    const auto same = [&](int other) { return m_lines.at(other).parsed.key == key; };
     const auto earlier = std::find_if(section.entries.cbegin(), section.entries.cend(), same);
-    if (earlier == section.entries.cend())
-        section.entries += index;
-    else
+    if (earlier != section.entries.cend())
         addFault(
             index,
             Tr::tr("%1 stands already in line %2; the line is skipped").arg(key).arg(*earlier + 1));
+    else if (section.entries.size() < kMaxKeys)
+        section.entries += index;
+    else
+        addFault(index,
+                 Tr::tr("the section has more than %1 keys; the line is skipped").arg(kMaxKeys));
 }
 
 const ConfigDocument::Section* ConfigDocument::find(const ConfigSection& section) const
 {
-    const auto found = std::find_if(m_sections.cbegin(), m_sections.cend(),
-                                    [&](const Section& s) { return s.usable && s.id == section; });
-    return found == m_sections.cend() ? nullptr : &*found;
+    const auto found = m_usable.find({section.type, section.name});
+    return found == m_usable.end() ? nullptr : &m_sections.at(*found);
 }
 
 int ConfigDocument::entry(const ConfigSection& section, const QString& key) const
 {
+    const QString lower = key.toLower();
     if (const Section* found = find(section))
         for (int index : found->entries)
-            if (m_parsed.at(index).key == key.toLower())
+            if (m_lines.at(index).parsed.key == lower)
                 return index;
     return -1;
 }
@@ -187,14 +182,14 @@ QStringList ConfigDocument::keys(const ConfigSection& section) const
     QStringList result;
     if (const Section* found = find(section))
         for (int index : found->entries)
-            result += m_parsed.at(index).key;
+            result += m_lines.at(index).parsed.key;
     return result;
 }
 
 std::optional<QString> ConfigDocument::value(const ConfigSection& section, const QString& key) const
 {
     const int index = entry(section, key);
-    return index < 0 ? std::nullopt : std::optional<QString>(m_parsed.at(index).value);
+    return index < 0 ? std::nullopt : std::optional<QString>(m_lines.at(index).parsed.value);
 }
 
 int ConfigDocument::line(const ConfigSection& section) const
@@ -210,37 +205,32 @@ int ConfigDocument::line(const ConfigSection& section, const QString& key) const
 
 // Lines
 
-QByteArray ConfigDocument::lineText(int index) const
-{
-    const QByteArray& line = m_lines.at(index);
-    return line.left(line.size() - (line.endsWith("\r\n") ? 2 : line.endsWith('\n') ? 1 : 0));
-}
-
 void ConfigDocument::replaceInLine(int index, const QByteArray& text)
 {
-    const ConfigLine& parsed = m_parsed.at(index);
+    const ConfigLine& parsed = m_lines.at(index).parsed;
     QByteArray replacement = text;
-    QByteArray& line = m_lines[index];
+    QByteArray line = m_lines.at(index).bytes;
     if (line.at(parsed.begin - 1) == '=')
         replacement.prepend(' ');
     if (parsed.end < line.size() && line.at(parsed.end) == '#')
         replacement.append(' ');
     line.replace(parsed.begin, parsed.end - parsed.begin, replacement);
-    parse();
+    m_lines[index] = makeLine(line);
+    this->index();
 }
 
 void ConfigDocument::endLastLine()
 {
-    if (!m_lines.isEmpty() && !m_lines.last().endsWith('\n'))
-        m_lines.last() += m_lineEnd;
+    if (!m_lines.isEmpty() && !m_lines.constLast().bytes.endsWith('\n'))
+        m_lines.last().bytes += m_lineEnd;
 }
 
 void ConfigDocument::insertLines(int index, const QList<QByteArray>& lines)
 {
     endLastLine();
     for (int i = 0; i < lines.size(); ++i)
-        m_lines.insert(index + i, lines.at(i) + m_lineEnd);
-    parse();
+        m_lines.insert(index + i, makeLine(lines.at(i) + m_lineEnd));
+    this->index();
 }
 
 int ConfigDocument::lastEntry(const Section& section) const
@@ -251,7 +241,7 @@ int ConfigDocument::lastEntry(const Section& section) const
 ConfigDocument::Block ConfigDocument::block(const Section& section) const
 {
     const auto isComment = [this](int i) {
-        return m_parsed.at(i).kind == ConfigLine::Kind::Comment;
+        return m_lines.at(i).parsed.kind == ConfigLine::Kind::Comment;
     };
     Block result{section.header, lastEntry(section) + 1};
     while (result.begin > 0 && isComment(result.begin - 1))
@@ -262,7 +252,7 @@ ConfigDocument::Block ConfigDocument::block(const Section& section) const
     int end = result.end;
     while (end < m_lines.size() && isComment(end))
         ++end;
-    if (end == m_lines.size() || m_parsed.at(end).kind == ConfigLine::Kind::Blank)
+    if (end == m_lines.size() || m_lines.at(end).parsed.kind == ConfigLine::Kind::Blank)
         result.end = end;
     return result;
 }
@@ -277,11 +267,11 @@ void ConfigDocument::addSection(const ConfigSection& section)
     for (const Section& other : qAsConst(m_sections))
         if (other.usable && other.id.type == section.type)
             index = block(other).end;
-    const bool gap = index > 0 && m_parsed.at(index - 1).kind != ConfigLine::Kind::Blank;
+    const bool gap = index > 0 && m_lines.at(index - 1).parsed.kind != ConfigLine::Kind::Blank;
     QList<QByteArray> lines{'[' + configHeader(section.type, section.name) + ']'};
     if (gap)
         lines.prepend(QByteArray());
-    if (index < m_lines.size() && m_parsed.at(index).kind != ConfigLine::Kind::Blank)
+    if (index < m_lines.size() && m_lines.at(index).parsed.kind != ConfigLine::Kind::Blank)
         lines.append(QByteArray());
     insertLines(index, lines);
 }
@@ -292,11 +282,13 @@ bool ConfigDocument::removeSection(const ConfigSection& section)
     if (!found)
         return false;
     Block lines = block(*found);
-    const auto isBlank = [this](int i) { return m_parsed.at(i).kind == ConfigLine::Kind::Blank; };
+    const auto isBlank = [this](int i) {
+        return m_lines.at(i).parsed.kind == ConfigLine::Kind::Blank;
+    };
     while (lines.end < m_lines.size() && isBlank(lines.end))
         ++lines.end;
     m_lines.erase(m_lines.begin() + lines.begin, m_lines.begin() + lines.end);
-    parse();
+    index();
     return true;
 }
 
@@ -313,26 +305,30 @@ bool ConfigDocument::renameSection(const ConfigSection& section, const QString& 
 
 bool ConfigDocument::reorderSections(const QString& type, const QStringList& names)
 {
-    for (const QString& name : names)
-        if (!find({type, name}) || names.count(name) > 1)
-            return false;
     endLastLine();
-    QVector<Block> places;
-    QVector<QList<QByteArray>> contents;
+    QVector<Block> wanted;
+    QSet<int> headers;
     for (const QString& name : names) {
-        places += block(*find({type, name}));
-        contents += m_lines.mid(places.last().begin, places.last().end - places.last().begin);
+        const Section* section = find({type, name});
+        if (!section || headers.contains(section->header))
+            return false;
+        headers += section->header;
+        wanted += block(*section);
     }
+    QVector<Block> places = wanted;
     std::sort(places.begin(), places.end(),
               [](const Block& a, const Block& b) { return a.begin < b.begin; });
-    // From the end, so that the places before it keep their lines.
-    for (int i = places.size() - 1; i >= 0; --i) {
-        const Block& place = places.at(i);
-        m_lines.erase(m_lines.begin() + place.begin, m_lines.begin() + place.end);
-        for (int j = 0; j < contents.at(i).size(); ++j)
-            m_lines.insert(place.begin + j, contents.at(i).at(j));
+    QVector<Line> lines;
+    lines.reserve(m_lines.size());
+    int next = 0; // first line that is not yet in its new place
+    for (int i = 0; i < places.size(); ++i) {
+        lines += m_lines.mid(next, places.at(i).begin - next);
+        lines += m_lines.mid(wanted.at(i).begin, wanted.at(i).end - wanted.at(i).begin);
+        next = places.at(i).end;
     }
-    parse();
+    lines += m_lines.mid(next);
+    m_lines = lines;
+    index();
     return true;
 }
 
@@ -340,7 +336,7 @@ void ConfigDocument::setValue(const ConfigSection& section, const QString& key,
                               const QString& value)
 {
     const int index = entry(section, key);
-    if (index >= 0 && m_parsed.at(index).value == value)
+    if (index >= 0 && m_lines.at(index).parsed.value == value)
         return;
     if (index >= 0) {
         replaceInLine(index, configValue(value));
@@ -357,7 +353,7 @@ void ConfigDocument::removeValue(const ConfigSection& section, const QString& ke
     if (index < 0)
         return;
     m_lines.removeAt(index);
-    parse();
+    this->index();
 }
 
 // Saving
@@ -373,22 +369,16 @@ QString ConfigDocument::save()
             .arg(fault.line)
             .arg(fault.text);
     }
-    const QString folder = QFileInfo(m_path).absolutePath();
-    if (!makePrivateFolder(folder))
-        return Tr::tr("cannot make the folder %1").arg(folder);
-    QLockFile lock(m_path + QStringLiteral(".lock"));
-    if (!lock.tryLock(kLockWait))
-        return Tr::tr(
-                   "%1 is not written: another upsdesk is writing it, or its folder is read-only")
-            .arg(m_path);
-    const FileContent current = readFile(m_path);
-    if (current.bytes != m_onDisk || !current.error.isEmpty())
-        return Tr::tr("%1 is not written because it was changed by another program; read it again "
-                      "and repeat the change")
-            .arg(m_path);
-    const QByteArray bytes = toBytes();
-    const QString error = writePrivateFile(m_path, bytes);
-    if (error.isEmpty())
-        m_onDisk = bytes;
-    return error;
+    return withFileLock(m_path, [this] {
+        const FileContent current = readBoundedFile(m_path, kMaxBytes);
+        if (current.bytes != m_onDisk || !current.error.isEmpty())
+            return Tr::tr("%1 is not written because it was changed by another program; read it "
+                          "again and repeat the change")
+                .arg(m_path);
+        const QByteArray bytes = toBytes();
+        const QString error = writePrivateFile(m_path, bytes);
+        if (error.isEmpty())
+            m_onDisk = bytes;
+        return error;
+    });
 }

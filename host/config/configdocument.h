@@ -15,6 +15,7 @@
 #include "config/configfault.h"
 #include "config/configline.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <optional>
@@ -76,7 +77,14 @@ public:
     // lost. Returns the reason, empty when saved.
     QString save();
 
+    // Keys of one section beyond these are faults.
+    static constexpr int kMaxKeys = 500;
+
 private:
+    struct Line {
+        QByteArray bytes; // with its end
+        ConfigLine parsed;
+    };
     struct Section {
         ConfigSection id;
         int header = 0;       // index of its line
@@ -88,14 +96,16 @@ private:
         int end = 0;
     };
 
-    void parse();
+    static Line makeLine(const QByteArray& bytes);
+    // Finds sections and their entries again: after every change of lines.
+    void index();
+    void addSectionAt(int index);
     void addFault(int index, const QString& text);
     void addEntry(int index);
     const Section* find(const ConfigSection& section) const;
     int entry(const ConfigSection& section, const QString& key) const; // index, -1: none
     int lastEntry(const Section& section) const;
     Block block(const Section& section) const;
-    QByteArray lineText(int index) const; // without its end
     void replaceInLine(int index, const QByteArray& text);
     void insertLines(int index, const QList<QByteArray>& lines);
     void endLastLine();
@@ -106,10 +116,10 @@ private:
 
     QByteArray m_byteOrderMark;
     QByteArray m_lineEnd = "\n"; // for lines that are added
-    QList<QByteArray> m_lines;   // with their ends
+    QVector<Line> m_lines;
 
-    QVector<ConfigLine> m_parsed;
     QVector<Section> m_sections;
+    QHash<QPair<QString, QString>, int> m_usable; // type and name to index of the section
     ConfigFaults m_faults;
 };
 

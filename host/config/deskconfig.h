@@ -1,33 +1,21 @@
 #ifndef DESKCONFIG_H
 #define DESKCONFIG_H
 
-// What the configuration file means: devices, thresholds, operators, and where secrets are kept.
+// The user's configuration: read, edited on terms, saved.
 // May touch: Qt Core, the file system, addresses, names of readings.
 //
-//  [poll]        interval        1..3600 s, default 5; for devices without their own
-//  [thresholds]  charge-low, charge-critical, runtime-low, load-high, temperature-high: see
-//  Thresholds [session]     idle-logout     1..1440 min, default 10 [secrets]     store keychain
-//  (default) or file [operator "NAME"]  level      0..9
+//  [poll] [thresholds] [session] [window] [secrets]   the desk; keys, ranges and words:
+//  configkeys.cpp [operator "NAME"]  level      0..9
 //                     hash       as `upsdesk add-operator` writes it
 //  [device "NAME"]    address    sim:, nut:// or snmp://
-//                     user       account of a NUT server
-//                     interval   1..3600 s, default of [poll]
-//                     timeout    1..120 s, default 5
-//                     retries    0..10, default 1
-//                     shutdown-delay     0..86400 s, default 20
-//                     restart-duration   0..86400 s, default 60
-//                     shutdown-whole-ups yes or no (default)
-//                     seed       0..2147483647, default 1; simulator
 //                     scale.NAME factor above 0, see readingscale.h
+//                     and the keys of configkeys.cpp
 //
 // A value that is out of its range is replaced by its default, a device or operator that cannot be
 // used is left out; each is a fault of severity error. What is not known here is kept and warned
 // of.
 
-#include "config/configdocument.h"
-#include "config/desksettings.h"
-#include "config/operatoraccount.h"
-#include "connectors/devicesettings.h"
+#include "config/configcontent.h"
 
 #include <functional>
 
@@ -42,22 +30,17 @@ public:
 
     QString path() const { return m_document.path(); }
     // Syntax and meaning together, in the order of the lines.
-    const ConfigFaults& faults() const { return m_faults; }
-    const DeskSettings& settings() const { return m_settings; }
-    const QVector<DeviceSettings>& devices() const { return m_devices; } // in the file's order
-    const OperatorAccounts& operators() const { return m_operators; }
+    const ConfigFaults& faults() const { return m_content.faults; }
+    // The first that keeps the file from being written; null: it may be.
+    const ConfigFault* firstError() const;
+    const DeskSettings& settings() const { return m_content.settings; }
+    const QVector<DeviceSettings>& devices() const { return m_content.devices; } // as in the file
+    const DeviceSettings* device(const QString& name) const { return m_content.device(name); }
+    const OperatorAccounts& operators() const { return m_content.operators; }
     const ConfigDocument& document() const { return m_document; }
 
-    // Limits of a device's number by its key above, "interval" for one.
-    struct Range {
-        int minimum = 0;
-        int maximum = 0;
-        QString unit;
-    };
-    static Range deviceRange(const QString& key);
-
     // Longest name of a device or operator.
-    static constexpr int kMaxName = 100;
+    static constexpr int kMaxName = kMaxConfigName;
 
     // Edits. Each changes the document, not yet the file, and returns why it was refused; empty:
     // done. Values that equal their default get a line only where there is one already. Secrets in
@@ -74,20 +57,12 @@ public:
     QString save();
 
 private:
-    class Reader;
-
     // Makes the edit where it brings no new fault; says the first one otherwise.
     QString edit(const std::function<void(ConfigDocument&)>& change);
-    void evaluate();
-    int deviceIndex(const QString& name) const;
-    void writeDevice(ConfigDocument& document, const DeviceSettings& device) const;
 
     ConfigDocument m_document;
-    ConfigFaults m_faults;
+    ConfigContent m_content;
     ConfigFaults m_errorsAsLoaded;
-    DeskSettings m_settings;
-    QVector<DeviceSettings> m_devices;
-    OperatorAccounts m_operators;
 };
 
 #endif // DESKCONFIG_H

@@ -6,12 +6,15 @@
 
 #include "reading/thresholds.h"
 
+// Each in the order of its words in configkeys.cpp.
 enum class SecretsChoice { Keychain, File };
+enum class ThemeChoice { Light, Dark, System };
 
 struct DeskSettings {
     int pollInterval = 5; // s
     int idleLogout = 10;  // min
     Thresholds thresholds;
+    ThemeChoice theme = ThemeChoice::Light;
     SecretsChoice secrets = SecretsChoice::Keychain;
 };
 

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSaveFile>
 
 #include <unistd.h>
@@ -14,11 +15,41 @@ struct Tr {
     Q_DECLARE_TR_FUNCTIONS(PrivateFile)
 };
 
+constexpr int kLockWait = 500; // ms
 constexpr QFile::Permissions kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions kOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                                        QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
 
 } // namespace
+
+FileContent readBoundedFile(const QString& path, qint64 maxBytes)
+{
+    QFile file(path);
+    if (!file.exists())
+        return {};
+    if (!QFileInfo(path).isFile())
+        return {std::nullopt, Tr::tr("%1 is not a file").arg(path)};
+    if (!file.open(QIODevice::ReadOnly))
+        return {std::nullopt, Tr::tr("cannot read %1: %2").arg(path, file.errorString())};
+    const QByteArray bytes = file.read(maxBytes + 1);
+    if (bytes.size() > maxBytes)
+        return {std::nullopt,
+                Tr::tr("%1 is longer than %2 bytes; it is not read").arg(path).arg(maxBytes)};
+    return {bytes.isNull() ? QByteArray("") : bytes, {}};
+}
+
+QString withFileLock(const QString& path, const std::function<QString()>& change)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    if (!makePrivateFolder(folder))
+        return Tr::tr("cannot make the folder %1").arg(folder);
+    QLockFile lock(path + QStringLiteral(".lock"));
+    if (!lock.tryLock(kLockWait))
+        return Tr::tr(
+                   "%1 is not written: another upsdesk is writing it, or its folder is read-only")
+            .arg(path);
+    return change();
+}
 
 bool makePrivateFolder(const QString& folder)
 {

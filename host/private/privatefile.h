@@ -7,6 +7,21 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+#include <optional>
+
+struct FileContent {
+    std::optional<QByteArray> bytes; // empty: there is no file, or it cannot be used
+    QString error;                   // of one that cannot be used
+};
+
+// At most maxBytes are read: a longer file is an error.
+FileContent readBoundedFile(const QString& path, qint64 maxBytes);
+
+// Runs `change` while no other upsdesk writes the file; makes its folder first. Waits half a second
+// for the other one. Returns what `change` returns, or why it was not run.
+QString withFileLock(const QString& path, const std::function<QString()>& change);
+
 // Replaces the file in one step or not at all, mode 0600, with its folder where there is none
 // (0700). A symbolic link stays one: its target is replaced. Returns what went wrong, empty when
 // written.

@@ -1,6 +1,6 @@
 #include "window/deviceadvanced.h"
 
-#include "config/deskconfig.h"
+#include "config/configkeys.h"
 #include "window/scaletable.h"
 
 #include <QCheckBox>
@@ -55,12 +55,12 @@ DeviceAdvanced::DeviceAdvanced(QWidget* parent)
 
 QSpinBox* DeviceAdvanced::makeNumberField(const QString& key)
 {
-    const DeskConfig::Range range = DeskConfig::deviceRange(key);
+    const ConfigType& type = deviceKeyType(key);
     auto* field = new QSpinBox;
     field->setObjectName(key);
-    field->setRange(range.minimum, range.maximum);
-    if (!range.unit.isEmpty())
-        field->setSuffix(QLatin1Char(' ') + range.unit);
+    field->setRange(type.minimum, type.maximum);
+    if (*type.unit)
+        field->setSuffix(QLatin1Char(' ') + QString::fromUtf8(type.unit));
     return field;
 }
 

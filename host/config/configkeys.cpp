@@ -1,0 +1,225 @@
+#include "config/configkeys.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <type_traits>
+
+namespace {
+
+struct Tr {
+    Q_DECLARE_TR_FUNCTIONS(ConfigKeys)
+};
+
+constexpr int kMaxSeconds = 86400;
+constexpr int kMaxInterval = 3600; // s
+constexpr int kMaxUser = 255;
+
+// The value that a path of members leads to, as a QVariant: at<&DeskSettings::thresholds,
+// &Thresholds::loadHigh>.
+template <typename T, auto... path>
+struct Field {
+    using Value = std::decay_t<decltype((std::declval<T&>().*....*path))>;
+
+    static QVariant get(const T& object)
+    {
+        const Value& value = (object.*....*path);
+        if constexpr (std::is_enum_v<Value> || std::is_same_v<Value, quint32>)
+            return static_cast<int>(value);
+        else
+            return value;
+    }
+    static void set(T& object, const QVariant& value)
+    {
+        Value& target = (object.*....*path);
+        if constexpr (std::is_enum_v<Value> || std::is_same_v<Value, quint32>)
+            target = static_cast<Value>(value.toInt());
+        else
+            target = value.value<Value>();
+    }
+};
+
+template <typename T, auto... path>
+ConfigKey<T> key(const char* section, const char* name, const char* label, const ConfigType& type)
+{
+    return {section, name, label, type, &Field<T, path...>::get, &Field<T, path...>::set};
+}
+
+template <auto... path>
+ConfigKey<DeskSettings> desk(const char* section, const char* name, const char* label,
+                             const ConfigType& type)
+{
+    return key<DeskSettings, path...>(section, name, label, type);
+}
+
+template <auto... path>
+ConfigKey<DeviceSettings> device(const char* name, const char* label, const ConfigType& type)
+{
+    return key<DeviceSettings, path...>("", name, label, type);
+}
+
+} // namespace
+
+const std::vector<ConfigKey<DeskSettings>>& deskKeys()
+{
+    using D = DeskSettings;
+    using C = ConfigType;
+    static const std::vector<ConfigKey<D>> keys{
+        desk<&D::pollInterval>("poll", "interval", QT_TRANSLATE_NOOP("ConfigKeys", "&Poll every"),
+                               C::number(1, kMaxInterval, "s")),
+        desk<&D::thresholds, &Thresholds::chargeLow>(
+            "thresholds", "charge-low", QT_TRANSLATE_NOOP("ConfigKeys", "Battery &low below"),
+            C::number(1, 100, "%")),
+        desk<&D::thresholds, &Thresholds::chargeCritical>(
+            "thresholds", "charge-critical",
+            QT_TRANSLATE_NOOP("ConfigKeys", "Battery &critical below"), C::number(0, 100, "%")),
+        desk<&D::thresholds, &Thresholds::runtimeLow>(
+            "thresholds", "runtime-low", QT_TRANSLATE_NOOP("ConfigKeys", "Little time left &below"),
+            C::number(0, 1440, "min")),
+        desk<&D::thresholds, &Thresholds::loadHigh>(
+            "thresholds", "load-high", QT_TRANSLATE_NOOP("ConfigKeys", "&High load above"),
+            C::number(1, 200, "%")),
+        desk<&D::thresholds, &Thresholds::temperatureHigh>(
+            "thresholds", "temperature-high",
+            QT_TRANSLATE_NOOP("ConfigKeys", "Battery too &warm above"),
+            C::number(1, 150, "\u00b0C")),
+        desk<&D::idleLogout>("session", "idle-logout",
+                             QT_TRANSLATE_NOOP("ConfigKeys", "Log operators &out after"),
+                             C::number(1, 1440, "min")),
+        desk<&D::theme>("window", "theme", QT_TRANSLATE_NOOP("ConfigKeys", "&Theme"),
+                        C::choice({{"light", QT_TRANSLATE_NOOP("ConfigKeys", "Light")},
+                                   {"dark", QT_TRANSLATE_NOOP("ConfigKeys", "Dark")},
+                                   {"system", QT_TRANSLATE_NOOP("ConfigKeys", "As the desktop")}})),
+        desk<&D::secrets>(
+            "secrets", "store", QT_TRANSLATE_NOOP("ConfigKeys", "&Keep secrets in"),
+            C::choice(
+                {{"keychain", QT_TRANSLATE_NOOP("ConfigKeys", "the desktop's keychain")},
+                 {"file", QT_TRANSLATE_NOOP("ConfigKeys", "a file that only you can read")}})),
+    };
+    return keys;
+}
+
+const std::vector<ConfigKey<DeviceSettings>>& deviceKeys()
+{
+    using D = DeviceSettings;
+    using C = ConfigType;
+    static const std::vector<ConfigKey<D>> keys{
+        device<&D::user>("user", "", C::text(kMaxUser)),
+        device<&D::pollInterval>("interval", "", C::number(1, kMaxInterval, "s")),
+        device<&D::timeout>("timeout", "", C::number(1, 120, "s")),
+        device<&D::retries>("retries", "", C::number(0, 10)),
+        device<&D::shutdownDelay>("shutdown-delay", "", C::number(0, kMaxSeconds, "s")),
+        device<&D::restartDuration>("restart-duration", "", C::number(0, kMaxSeconds, "s")),
+        device<&D::shutdownWholeUps>("shutdown-whole-ups", "", C::yesNo()),
+        device<&D::seed>("seed", "", C::number(0, 2147483647)),
+    };
+    return keys;
+}
+
+const std::vector<ConfigKey<OperatorAccount>>& operatorKeys()
+{
+    using O = OperatorAccount;
+    static const std::vector<ConfigKey<O>> keys{
+        key<O, &O::level>("", "level", "", ConfigType::number(O::kMinLevel, O::kMaxLevel))};
+    return keys;
+}
+
+const ConfigType& deviceKeyType(const QString& name)
+{
+    const auto& keys = deviceKeys();
+    return std::find_if(keys.begin(), keys.end(),
+                        [&name](const auto& key) { return name == QLatin1String(key.name); })
+        ->type;
+}
+
+QString configLabel(const char* label)
+{
+    return Tr::tr(label);
+}
+
+bool hasControlCharacters(const QString& text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+// Types
+
+ConfigType ConfigType::number(int minimum, int maximum, const char* unit)
+{
+    return {Kind::Number, minimum, maximum, unit, {}};
+}
+
+ConfigType ConfigType::yesNo()
+{
+    return {Kind::Switch, 0, 0, "", {}};
+}
+
+ConfigType ConfigType::choice(const std::vector<ConfigWord>& words)
+{
+    return {Kind::Choice, 0, 0, "", words};
+}
+
+ConfigType ConfigType::text(int longest)
+{
+    return {Kind::Text, 0, longest, "", {}};
+}
+
+std::optional<QVariant> ConfigType::parse(const QString& text) const
+{
+    switch (kind) {
+    case Kind::Number: {
+        bool ok = false;
+        const int number = text.toInt(&ok);
+        return ok && number >= minimum && number <= maximum ? std::optional<QVariant>(number)
+                                                            : std::nullopt;
+    }
+    case Kind::Switch: {
+        const int index = QStringList{"no", "yes", "false", "true", "off", "on", "0", "1"}.indexOf(
+            text.toLower());
+        return index < 0 ? std::nullopt : std::optional<QVariant>(index % 2 == 1);
+    }
+    case Kind::Choice:
+        for (std::size_t i = 0; i < words.size(); ++i)
+            if (text == QLatin1String(words[i].word))
+                return static_cast<int>(i);
+        return std::nullopt;
+    case Kind::Text:
+        break;
+    }
+    return text.size() <= maximum && !hasControlCharacters(text) ? std::optional<QVariant>(text)
+                                                                 : std::nullopt;
+}
+
+QString ConfigType::format(const QVariant& value) const
+{
+    if (kind == Kind::Switch)
+        return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+    if (kind == Kind::Choice)
+        return QLatin1String(words[static_cast<std::size_t>(value.toInt())].word);
+    return value.toString();
+}
+
+QString ConfigType::description() const
+{
+    switch (kind) {
+    case Kind::Number:
+        return Tr::tr("a whole number from %1 to %2 %3")
+            .arg(minimum)
+            .arg(maximum)
+            .arg(QString::fromUtf8(unit))
+            .trimmed();
+    case Kind::Switch:
+        return Tr::tr("yes or no");
+    case Kind::Choice: {
+        QStringList names;
+        for (const ConfigWord& word : words)
+            names += QLatin1String(word.word);
+        const QString last = names.takeLast();
+        return Tr::tr("%1 or %2").arg(names.join(QStringLiteral(", ")), last);
+    }
+    case Kind::Text:
+        break;
+    }
+    return Tr::tr("a text of at most %1 characters").arg(maximum);
+}
