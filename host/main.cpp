@@ -1,5 +1,5 @@
 // upsdesk: watches UPSes and commands them. This file only chooses the mode.
-// May touch: the command line and the window rooms.
+// May touch: everything; it is where the rooms meet.
 
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QPalette>
 
 namespace {
 
@@ -31,7 +32,7 @@ void fallBackToOffscreen()
 struct WindowOptions {
     QStringList addresses;
     bool kiosk = false;
-    Theme theme = Theme::Light;
+    bool dark = false;
 };
 
 std::optional<WindowOptions> readOptions()
@@ -56,8 +57,17 @@ std::optional<WindowOptions> readOptions()
         QStringLiteral("[ADDRESS...]"));
     if (!readArguments(parser, QApplication::arguments()))
         return {};
-    return WindowOptions{parser.positionalArguments(), parser.isSet(kiosk),
-                         parser.isSet(dark) ? Theme::Dark : Theme::Light};
+    return WindowOptions{parser.positionalArguments(), parser.isSet(kiosk), parser.isSet(dark)};
+}
+
+Theme themeOf(ThemeChoice choice)
+{
+    constexpr int darkBelow = 128;
+    // Of the desktop, before a theme of ours has taken its place.
+    static const int lightness = QGuiApplication::palette().color(QPalette::Window).lightness();
+    const bool dark =
+        choice == ThemeChoice::System ? lightness < darkBelow : choice == ThemeChoice::Dark;
+    return dark ? Theme::Dark : Theme::Light;
 }
 
 // What is wrong in the configuration, for the operator; empty when nothing is.
@@ -84,8 +94,8 @@ int runWindow(const WindowOptions& options)
         devices << *settings;
     }
 
-    applyTheme(options.theme);
     const DeskConfig config = DeskConfig::load();
+    applyTheme(themeOf(options.dark ? ThemeChoice::Dark : config.settings().theme));
     OperatorSession session;
     ActivityWatch watch(session);
     Fleet fleet(makeConnector);
@@ -104,7 +114,7 @@ int runWindow(const WindowOptions& options)
     if (const QString faults = faultText(config); !faults.isEmpty())
         window.tell(faults, true);
 
-    WatchList list(fleet, config, SecretStore::make(config.settings().secrets));
+    WatchList list(fleet, config);
     QObject::connect(&list, &WatchList::secretsFailed, &window,
                      [&window](const QString& text) { window.tell(text, true); });
     QObject::connect(&list, &WatchList::changed, &session, [&] { follow(list.config()); });

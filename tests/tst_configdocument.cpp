@@ -4,8 +4,11 @@
 #include "config/configdocument.h"
 
 #include <QFile>
+#include <QLockFile>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <unistd.h>
 
 namespace {
 
@@ -167,6 +170,27 @@ private slots:
         QVERIFY(!(QFile::permissions(path) & others));
         QCOMPARE(QDir(folder.filePath("new")).entryList(QDir::Files | QDir::Hidden),
                  QStringList{"upsdesk.conf"});
+    }
+
+    void savingReplacesTheFileUnderALock()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath("upsdesk.conf");
+        ConfigDocument document = ConfigDocument::load(path);
+        document.setValue(kPoll, "interval", "5");
+        QCOMPARE(document.save(), QString());
+        // Another name for the file keeps the old content where the file is replaced in one step.
+        const QString other = folder.filePath("other");
+        QCOMPARE(::link(qPrintable(path), qPrintable(other)), 0);
+        document.setValue(kPoll, "interval", "6");
+        QCOMPARE(document.save(), QString());
+        QVERIFY(ConfigDocument::load(other).value(kPoll, "interval") == QString("5"));
+
+        QLockFile lock(path + ".lock");
+        QVERIFY(lock.lock());
+        document.setValue(kPoll, "interval", "7");
+        QVERIFY(document.save().contains("another upsdesk"));
+        QVERIFY(ConfigDocument::load(path).value(kPoll, "interval") == QString("6"));
     }
 
     void faultyFileIsNotWritten()

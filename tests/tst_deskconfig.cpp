@@ -140,6 +140,7 @@ private slots:
         DeviceSettings rack = config.devices().at(0);
         rack.name = "Rack 4";
         rack.scales = {{"input.current", 10.0}};
+        rack.user.clear();
         QCOMPARE(config.changeDevice("Rack 3", rack), QString());
         QCOMPARE(config.moveDevice(2, 0), QString());
         QCOMPARE(config.removeDevice("Desk"), QString());
@@ -155,6 +156,7 @@ private slots:
         QCOMPARE(again.devices().at(0).scales, added.scales); // to the last bit
         QCOMPARE(again.devices().at(1).scales, rack.scales);
         QCOMPARE(again.devices().at(1).retries, 2);
+        QCOMPARE(again.devices().at(1).user, QString());
         QCOMPARE(again.operators().size(), 1);
         QCOMPARE(again.operators().at(0).name, QString("bert"));
         QVERIFY(!again.document().toBytes().contains("sesame"));

@@ -249,8 +249,9 @@ void TestDeviceDialog::actionsReachFileAndFleet()
     QTemporaryDir folder;
     const QString path = folder.filePath("upsdesk.conf");
     Fleet fleet([](const DeviceSettings&) { return std::make_unique<ScriptedConnector>(); });
-    WatchList list(fleet, DeskConfig::load(path),
-                   std::make_unique<FileSecretStore>(folder.filePath("secrets")));
+    WatchList list(fleet, DeskConfig::load(path), [&](SecretsChoice) {
+        return std::make_unique<FileSecretStore>(folder.filePath("secrets"));
+    });
     list.load();
     QWidget window;
     auto* actions = new DeviceActions(

@@ -50,6 +50,8 @@ struct Desk {
         DeviceSettings settings;
         settings.address = *parseDeviceAddress(address).address;
         settings.name = address;
+        settings.shutdownDelay = 35;
+        settings.restartDuration = 95;
         return fleet.add(settings);
     }
 };
@@ -326,6 +328,8 @@ void TestFleet::commandIsFollowedToItsResult()
     const UpsCommand command = desk.connectors[0]->sent.first();
     QCOMPARE(command.kind, CommandKind::Standby);
     QCOMPARE(command.standbyMinutes, 2);
+    QCOMPARE(command.shutdownDelay, 35); // as configured
+    QCOMPARE(command.restartDuration, 95);
 
     emit second->commandFinished({command.id, CommandOutcome::Done, {}}); // not its device
     QCOMPARE(finished.size(), 0);

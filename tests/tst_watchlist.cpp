@@ -2,6 +2,7 @@
 // Touches a temporary folder.
 
 #include "fleet/watchlist.h"
+#include "private/passwordhash.h"
 #include "secrets/devicesecrets.h"
 #include "support/scriptedconnector.h"
 
@@ -20,6 +21,7 @@ public:
     struct Content {
         QMap<QString, QString> secrets;
         bool broken = false;
+        int calls = 0;
     };
 
     explicit ScriptedStore(const std::shared_ptr<Content>& content)
@@ -27,22 +29,43 @@ public:
     {}
 
 protected:
-    void run(Action action, const QString& key, const SecretText& secret,
-             const Callback& done) override
+    void carryOut(const Errands& errands, const Callback& done) override
     {
-        if (m_content->broken)
-            return done({Status::Failed, {}, "the keychain is broken"});
-        if (action == Action::Write)
-            m_content->secrets[key] = secret.toString();
-        else if (action == Action::Remove)
-            m_content->secrets.remove(key);
-        else if (!m_content->secrets.contains(key))
-            return done({Status::NotFound, {}, {}});
-        done({Status::Done, SecretText(m_content->secrets.value(key)), {}});
+        ++m_content->calls;
+        Results results;
+        for (const Errand& errand : errands)
+            results += m_content->broken
+                           ? SecretResult{Status::Failed, {}, "the keychain is broken"}
+                           : carryOutOne(errand);
+        done(results);
     }
 
 private:
+    SecretResult carryOutOne(const Errand& errand)
+    {
+        QMap<QString, QString>& secrets = m_content->secrets;
+        if (errand.action == Action::Write)
+            secrets[errand.key] = errand.secret.toString();
+        else if (errand.action == Action::Remove)
+            secrets.remove(errand.key);
+        else if (!secrets.contains(errand.key))
+            return {Status::NotFound, {}, {}};
+        return {Status::Done, SecretText(secrets.value(errand.key)), {}};
+    }
+
     const std::shared_ptr<Content> m_content;
+};
+
+class NotingConnector : public ScriptedConnector
+{
+public:
+    explicit NotingConnector(const std::function<void()>& note)
+        : m_note(note)
+    {}
+    void poll() override { m_note(); }
+
+private:
+    const std::function<void()> m_note;
 };
 
 const char kSecured[] = "snmp://anna@127.0.0.1?version=3";
@@ -58,7 +81,11 @@ DeviceSettings device(const QString& name, const QString& address = QStringLiter
 struct Desk {
     QTemporaryDir folder;
     std::shared_ptr<ScriptedStore::Content> store = std::make_shared<ScriptedStore::Content>();
-    Fleet fleet{[](const DeviceSettings&) { return std::make_unique<ScriptedConnector>(); }};
+    std::shared_ptr<ScriptedStore::Content> file = std::make_shared<ScriptedStore::Content>();
+    QVector<DeviceSettings> polled; // with what was known then
+    Fleet fleet{[this](const DeviceSettings& settings) {
+        return std::make_unique<NotingConnector>([this, settings] { polled += settings; });
+    }};
     std::unique_ptr<WatchList> list;
 
     QString path() const { return folder.filePath("upsdesk.conf"); }
@@ -76,7 +103,10 @@ struct Desk {
     {
         write(bytes);
         list = std::make_unique<WatchList>(fleet, DeskConfig::load(path()),
-                                           std::make_unique<ScriptedStore>(store));
+                                           [this](SecretsChoice choice) {
+                                               return std::make_unique<ScriptedStore>(
+                                                   choice == SecretsChoice::File ? file : store);
+                                           });
         list->load();
     }
 
@@ -117,6 +147,9 @@ private slots:
     void foreignFileRefuses();
     void secretsFollow();
     void secretsAreKept();
+    void secretsAreWaitedFor();
+    void secretsGoAlongToAnotherStore();
+    void foreignOperatorsCount();
 };
 
 using Change = std::function<QString(Desk&)>;
@@ -241,6 +274,68 @@ void TestWatchList::secretsAreKept()
 
     QCOMPARE(desk.list->remove(desk.list->find("B")), QString());
     QTRY_VERIFY(desk.store->secrets.isEmpty());
+}
+
+// Opened at once, a device whose secrets are on their way would be refused for nothing.
+void TestWatchList::secretsAreWaitedFor()
+{
+    for (bool known : {true, false}) {
+        Desk desk;
+        if (known)
+            desk.store->secrets = {{"device/A/auth", "authentic"}, {"device/A/priv", "privately"}};
+        desk.open(devices({"A", "B"}, kSecured));
+        desk.fleet.pollNow(desk.list->find("A"));
+        QTRY_COMPARE(desk.polled.size(), 1);
+        QCOMPARE(desk.store->calls, 1); // for both devices
+        QCOMPARE(desk.polled.first().name, QString("A"));
+        QCOMPARE(desk.polled.first().privSecret, QString(known ? "privately" : ""));
+    }
+}
+
+void TestWatchList::secretsGoAlongToAnotherStore()
+{
+    Desk desk;
+    desk.store->secrets = {{"device/A/auth", "authentic"}, {"device/A/priv", "privately"}};
+    const auto secrets = desk.store->secrets;
+    desk.open(devices({"A"}, kSecured));
+    QTRY_COMPARE(desk.list->find("A")->settings().privSecret, QString("privately"));
+    const auto choose = [&desk](SecretsChoice choice) {
+        return desk.list->edit("Settings", [choice](DeskConfig& config) {
+            DeskSettings settings = config.settings();
+            settings.secrets = choice;
+            return config.setSettings(settings);
+        });
+    };
+    QCOMPARE(choose(SecretsChoice::File), QString());
+    QTRY_COMPARE(desk.file->secrets, secrets);
+    QTRY_VERIFY(desk.store->secrets.isEmpty());
+
+    desk.store->broken = true; // the way back fails: nothing is lost
+    QCOMPARE(choose(SecretsChoice::Keychain), QString());
+    QSignalSpy failed(desk.list.get(), &WatchList::secretsFailed);
+    QTRY_COMPARE(failed.size(), 1);
+    QCOMPARE(desk.file->secrets, secrets);
+}
+
+void TestWatchList::foreignOperatorsCount()
+{
+    const QByteArray anna =
+        "[operator anna]\nlevel = 1\nhash = " + impossibleHash(HashLimits::minimal()).toLatin1() +
+        '\n';
+    Desk desk;
+    desk.open(devices({"A"}) + anna);
+    QCOMPARE(desk.list->operators().size(), 1);
+    desk.write(devices({"A", "B"})); // by hand
+    desk.list->readAgain();
+    QVERIFY(desk.list->operators().isEmpty());
+    QCOMPARE(desk.inFleet(), QString("A B"));
+    desk.write(devices({"A"}) + "nonsense\n" + anna); // faulty: devices stay, operators count
+    desk.list->readAgain();
+    QCOMPARE(desk.list->operators().size(), 1);
+    QCOMPARE(desk.inFleet(), QString("A B"));
+    QVERIFY(QFile::remove(desk.path()));
+    desk.list->readAgain();
+    QCOMPARE(desk.list->operators().size(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestWatchList)

@@ -77,8 +77,6 @@ int runCommand(const QStringList& arguments)
         return ExitUsage;
 
     request.command->id = 1;
-    request.command->shutdownDelay = settings->shutdownDelay;
-    request.command->restartDuration = settings->restartDuration;
     const QString question = QCoreApplication::translate("Command", "%1: %2?")
                                  .arg(settings->displayName(), commandSentence(*request.command));
     if (!parser.isSet(yes) && !isConfirmed(question))

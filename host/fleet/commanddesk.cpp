@@ -45,8 +45,6 @@ void CommandDesk::post(Device* device, int code, const QMap<QString, QVariant>& 
         return;
     }
     request.command->id = ++m_lastId;
-    request.command->shutdownDelay = device->settings().shutdownDelay;
-    request.command->restartDuration = device->settings().restartDuration;
     m_pending.insert(m_lastId, pending);
     emit sent(pending.device, pending.command);
     device->send(*request.command);

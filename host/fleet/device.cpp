@@ -3,6 +3,7 @@
 #include "reading/readingscale.h"
 #include "reading/sanitize.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -79,7 +80,14 @@ void Device::startPoll()
 void Device::hurry(qint64 atMs)
 {
     m_followUp = isPolling();
-    m_plan.hurry(atMs);
+    m_plan.hurry(std::max(atMs, m_heldUntilMs));
+}
+
+void Device::send(UpsCommand command)
+{
+    command.shutdownDelay = m_settings.shutdownDelay;
+    command.restartDuration = m_settings.restartDuration;
+    m_connector->send(command);
 }
 
 void Device::checkPollLimit()

@@ -61,12 +61,17 @@ public:
     // began before there was a reason to hurry (before a suspend, or a command), so another
     // follows.
     void hurry(qint64 atMs);
+    // Until that monotonic ms nothing hurries the device: what it needs is still to come. 0: it has
+    // come.
+    void hold(qint64 untilMs) { m_heldUntilMs = untilMs; }
+    bool isHeld() const { return m_heldUntilMs > 0; }
     // Ends a poll that the connector never answered.
     void checkPollLimit();
     // Notices a change of condition; to be called when time has passed, too.
     void noteCondition();
 
-    void send(const UpsCommand& command) { m_connector->send(command); }
+    // Sends it with the delays that are configured for this device.
+    void send(UpsCommand command);
 
 signals:
     void polled(); // one poll has ended, whatever it brought
@@ -89,7 +94,8 @@ private:
     QString m_conditionText;
     QDateTime m_conditionSince;
     qint64 m_pollStarted = -1; // boot ms; -1: no poll is under way
-    bool m_followUp = false;   // poll again when the one under way has ended
+    qint64 m_heldUntilMs = 0;
+    bool m_followUp = false; // poll again when the one under way has ended
 };
 
 #endif // DEVICE_H

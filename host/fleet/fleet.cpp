@@ -69,6 +69,8 @@ qint64 Fleet::newPlaceMs(const DeviceSettings& settings)
 Device* Fleet::add(const DeviceSettings& settings, qint64 holdMs)
 {
     m_devices.push_back(makeDevice(settings, newPlaceMs(settings) + holdMs));
+    if (holdMs > 0)
+        m_devices.back()->hold(m_clock.monotonicMs() + holdMs);
     emit deviceAdded(count() - 1);
     schedule();
     return m_devices.back().get();
@@ -112,6 +114,14 @@ void Fleet::pollNow(Device* device)
     m_lastOutOfTurnMs = std::max(m_clock.monotonicMs(), m_lastOutOfTurnMs + kOutOfTurnGapMs);
     device->hurry(m_lastOutOfTurnMs);
     schedule();
+}
+
+void Fleet::release(Device* device)
+{
+    if (!device->isHeld())
+        return;
+    device->hold(0);
+    pollNow(device);
 }
 
 void Fleet::setThresholds(const Thresholds& thresholds)

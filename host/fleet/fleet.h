@@ -30,7 +30,8 @@ public:
     int indexOf(const Device* device) const; // -1: not (or no longer) one of ours
 
     // The first polls of devices added together are spread over the interval; the very first
-    // device is polled at once. holdMs: leaves the first poll until so much later.
+    // device is polled at once. holdMs: leaves the first poll until so much later, or until the
+    // device is released.
     Device* add(const DeviceSettings& settings, qint64 holdMs = 0);
     void remove(int index);
     void move(int from, int to);
@@ -40,6 +41,8 @@ public:
 
     // Out of turn; where many ask for it together (secrets that arrive), one shortly after another.
     void pollNow(Device* device);
+    // What the device was held back for has come, or will not come.
+    void release(Device* device);
 
     // For all devices, those that are there and those to come.
     void setThresholds(const Thresholds& thresholds);

@@ -17,14 +17,6 @@ bool isSameInFile(const DeviceSettings& a, const DeviceSettings& b)
     return content(a) == content(b);
 }
 
-const DeviceSettings* findDevice(const QVector<DeviceSettings>& devices, const QString& name)
-{
-    const auto found =
-        std::find_if(devices.begin(), devices.end(),
-                     [&name](const DeviceSettings& device) { return device.name == name; });
-    return found != devices.end() ? found : nullptr;
-}
-
 // A NUT server is polled without its account, and a refusal that the next moment mends is a false
 // alarm.
 qint64 holdMs(const DeviceSettings& device)
@@ -35,30 +27,33 @@ qint64 holdMs(const DeviceSettings& device)
 
 } // namespace
 
-WatchList::WatchList(Fleet& fleet, const DeskConfig& config, std::unique_ptr<SecretStore> secrets,
+WatchList::WatchList(Fleet& fleet, const DeskConfig& config, const SecretKeeper::Maker& makeStore,
                      QObject* parent)
     : QObject(parent)
     , m_fleet(fleet)
     , m_config(config)
-    , m_secrets(std::move(secrets))
+    , m_operators(config.operators())
+    , m_secrets(makeStore, config.settings().secrets)
 {
-    connect(&fleet, &Fleet::deviceAboutToBeRemoved, this,
-            [this](int index) { m_configured.remove(m_fleet.at(index)); });
+    connect(&fleet, &Fleet::deviceAboutToBeRemoved, this, [this](int index) {
+        if (isConfigured(m_fleet.at(index)))
+            m_devices.remove(m_fleet.at(index)->settings().name);
+    });
+    connect(&m_secrets, &SecretKeeper::fetched, this, &WatchList::takeSecrets);
+    connect(&m_secrets, &SecretKeeper::renamed, this, &WatchList::fetchSecrets);
+    connect(&m_secrets, &SecretKeeper::failed, this, &WatchList::secretsFailed);
 }
 
 WatchList::~WatchList() = default;
 
 void WatchList::load()
 {
-    followFile();
+    follow(m_config);
 }
 
-Device* WatchList::find(const QString& name) const
+bool WatchList::isConfigured(const Device* device) const
 {
-    for (int i = 0; i < m_fleet.count(); ++i)
-        if (isConfigured(m_fleet.at(i)) && m_fleet.at(i)->settings().name == name)
-            return m_fleet.at(i);
-    return nullptr;
+    return find(device->settings().name) == device;
 }
 
 // Changes
@@ -68,9 +63,10 @@ QString WatchList::add(const DeviceSettings& device)
     const QString reason = save([&](DeskConfig& config) { return config.addDevice(device); });
     if (!reason.isEmpty())
         return reason;
-    keepSecrets({}, device);
+    m_secrets.keep({}, device);
     append(settingsOf(device.name, device));
     fetchSecrets();
+    emit edited(device.name, tr("Device added"));
     emit changed();
     return {};
 }
@@ -88,26 +84,30 @@ QString WatchList::change(Device* device, const DeviceSettings& settings)
     });
     if (!reason.isEmpty())
         return reason;
-    keepSecrets(before, settings);
-    replace(device, settingsOf(settings.name, settings));
+    const QString name = settings.name;
+    m_secrets.keep(before, settings);
+    replace(device, settingsOf(name, settings)); // ends the device, and settings that are its own
     fetchSecrets();
+    emit edited(name, !known || before.name == name
+                          ? tr("Device changed")
+                          : tr("Device changed, was \"%1\"").arg(before.name));
     emit changed();
     return {};
 }
 
 QString WatchList::remove(Device* device)
 {
+    const QString name = device->name();
     if (isConfigured(device)) {
         const DeviceSettings before = device->settings();
         const QString reason =
             save([&](DeskConfig& config) { return config.removeDevice(before.name); });
         if (!reason.isEmpty())
             return reason;
-        for (SecretPurpose purpose : neededSecrets(before))
-            m_secrets->remove(secretKey(before.name, purpose), this,
-                              [this](const SecretResult& result) { report(result); });
+        m_secrets.forget(before);
     }
     m_fleet.remove(m_fleet.indexOf(device));
+    emit edited(name, tr("Device removed"));
     emit changed();
     return {};
 }
@@ -131,12 +131,14 @@ QString WatchList::move(Device* device, int to)
     return {};
 }
 
-QString WatchList::edit(const Edit& edit)
+QString WatchList::edit(const QString& what, const Edit& edit)
 {
     const QString reason = save(edit);
-    if (reason.isEmpty())
-        followFile();
-    return reason;
+    if (!reason.isEmpty())
+        return reason;
+    follow(m_config);
+    emit edited({}, what);
+    return {};
 }
 
 QString WatchList::save(const Edit& edit)
@@ -147,28 +149,36 @@ QString WatchList::save(const Edit& edit)
         return refusal;
     const QString reason = edited.save();
     if (!reason.isEmpty())
-        return readAgain(reason);
+        return tellChange(reason);
     m_config = edited;
     return {};
 }
 
+void WatchList::readAgain()
+{
+    const DeskConfig onDisk = DeskConfig::load(m_config.path());
+    if (onDisk.document().isNew() || onDisk.document().toBytes() == m_config.document().toBytes())
+        return;
+    m_operators = onDisk.operators();
+    if (!onDisk.firstError())
+        follow(onDisk);
+}
+
 // Where another program has changed the file, its change stands and ours is to be repeated. A file
 // that is gone or faulty now does not take the devices off the list.
-QString WatchList::readAgain(const QString& reason)
+QString WatchList::tellChange(const QString& reason)
 {
     const DeskConfig onDisk = DeskConfig::load(m_config.path());
     if (onDisk.document().toBytes() == m_config.document().toBytes() ||
         (onDisk.document().isNew() && !m_config.document().isNew()))
         return reason;
-    for (const ConfigFault& fault : onDisk.faults())
-        if (fault.severity == ConfigSeverity::Error)
-            return tr("%1 was changed by another program and has faults now (line %2: %3); mend it "
-                      "with a text editor first")
-                .arg(onDisk.path())
-                .arg(fault.line)
-                .arg(fault.text);
-    m_config = onDisk;
-    followFile();
+    if (const ConfigFault* fault = onDisk.firstError())
+        return tr("%1 was changed by another program and has faults now (line %2: %3); mend it "
+                  "with a text editor first")
+            .arg(onDisk.path())
+            .arg(fault->line)
+            .arg(fault->text);
+    follow(onDisk);
     return tr("%1 was changed by another program and has been read again. Nothing else was "
               "changed; look at the devices and repeat the change")
         .arg(m_config.path());
@@ -178,48 +188,57 @@ QString WatchList::readAgain(const QString& reason)
 
 DeviceSettings WatchList::settingsOf(const QString& name, const DeviceSettings& secretsFrom) const
 {
-    const DeviceSettings* inFile = findDevice(m_config.devices(), name);
+    const DeviceSettings* inFile = m_config.device(name);
     DeviceSettings settings = inFile ? *inFile : secretsFrom;
     for (SecretPurpose purpose : neededSecrets(settings))
         setDeviceSecret(settings, purpose, deviceSecret(secretsFrom, purpose));
+    applySecretOverrides(settings);
     return settings;
 }
 
 int WatchList::configuredBefore(int index, const Device* except) const
 {
-    int number = 0;
+    int count = 0;
     for (int i = 0; i < index; ++i)
-        number += isConfigured(m_fleet.at(i)) && m_fleet.at(i) != except;
-    return number;
+        if (m_fleet.at(i) != except && isConfigured(m_fleet.at(i)))
+            ++count;
+    return count;
 }
 
 void WatchList::append(const DeviceSettings& settings)
 {
-    m_configured.insert(m_fleet.add(settings, holdMs(settings)));
+    put(m_fleet.add(settings, holdMs(settings)));
 }
 
 void WatchList::replace(Device* device, const DeviceSettings& settings)
 {
-    m_configured.insert(m_fleet.replace(m_fleet.indexOf(device), settings));
+    put(m_fleet.replace(m_fleet.indexOf(device), settings));
 }
 
-void WatchList::followFile()
+void WatchList::put(Device* device)
 {
-    const QVector<DeviceSettings> devices = m_config.devices();
+    m_devices.insert(device->settings().name, device);
+}
+
+void WatchList::follow(const DeskConfig& config)
+{
+    m_config = config;
+    m_operators = config.operators();
     for (int i = m_fleet.count() - 1; i >= 0; --i)
-        if (isConfigured(m_fleet.at(i)) && !findDevice(devices, m_fleet.at(i)->settings().name))
+        if (isConfigured(m_fleet.at(i)) && !m_config.device(m_fleet.at(i)->settings().name))
             m_fleet.remove(i);
-    for (const DeviceSettings& inFile : devices) {
+    for (const DeviceSettings& inFile : m_config.devices()) {
         Device* device = find(inFile.name);
-        if (!device) {
-            DeviceSettings settings = inFile;
-            applySecretOverrides(settings);
-            append(settings);
-        } else if (!isSameInFile(device->settings(), inFile)) {
+        if (!device)
+            append(settingsOf(inFile.name, inFile));
+        else if (!isSameInFile(device->settings(), inFile))
             replace(device, settingsOf(inFile.name, device->settings()));
-        }
     }
     orderAsInFile();
+    QVector<DeviceSettings> devices;
+    for (const Device* device : qAsConst(m_devices))
+        devices += device->settings();
+    m_secrets.use(m_config.settings().secrets, devices);
     fetchSecrets();
     emit changed();
 }
@@ -230,7 +249,10 @@ void WatchList::orderAsInFile()
     for (const DeviceSettings& inFile : m_config.devices()) {
         while (!isConfigured(m_fleet.at(index)))
             ++index;
-        m_fleet.move(m_fleet.indexOf(find(inFile.name)), index++);
+        Device* device = find(inFile.name);
+        if (m_fleet.at(index) != device)
+            m_fleet.move(m_fleet.indexOf(device), index);
+        ++index;
     }
 }
 
@@ -242,15 +264,11 @@ void WatchList::fetchSecrets()
     for (int i = 0; i < m_fleet.count(); ++i)
         if (isConfigured(m_fleet.at(i)) && lacksSecrets(m_fleet.at(i)->settings()))
             lacking += m_fleet.at(i)->settings();
-    if (lacking.isEmpty())
-        return;
-    readDeviceSecrets(*m_secrets, lacking, this,
-                      [this](const QVector<DeviceSettings>& devices, const QString& message) {
-                          takeSecrets(devices, message);
-                      });
+    if (!lacking.isEmpty())
+        m_secrets.fetch(lacking);
 }
 
-void WatchList::takeSecrets(const QVector<DeviceSettings>& devices, const QString& message)
+void WatchList::takeSecrets(const QVector<DeviceSettings>& devices)
 {
     for (const DeviceSettings& given : devices) {
         Device* device = find(given.name);
@@ -267,57 +285,7 @@ void WatchList::takeSecrets(const QVector<DeviceSettings>& devices, const QStrin
         }
         if (better)
             replace(device, settings);
-        else if (device->link() == LinkState::Connecting && !device->isPolling())
-            m_fleet.pollNow(device); // it was held back for them
+        else
+            m_fleet.release(device);
     }
-    if (!message.isEmpty())
-        emit secretsFailed(message);
-}
-
-// before: without a name where the file did not have the device.
-void WatchList::keepSecrets(const DeviceSettings& before, const DeviceSettings& now)
-{
-    const auto needed = neededSecrets(now);
-    const bool renamed = !before.name.isEmpty() && before.name != now.name;
-    for (SecretPurpose purpose : needed) {
-        const QString secret = deviceSecret(now, purpose);
-        const QString key = secretKey(now.name, purpose);
-        const QString oldKey = secretKey(before.name, purpose);
-        if (!secret.isEmpty() && secret != deviceSecret(before, purpose))
-            m_secrets->write(key, SecretText(secret), this,
-                             [this, renamed, oldKey](const SecretResult& result) {
-                                 report(result);
-                                 if (renamed && result.status == SecretResult::Status::Done)
-                                     m_secrets->remove(oldKey, this, [](const SecretResult&) {});
-                             });
-        else if (renamed)
-            moveSecret(oldKey, key);
-    }
-    for (SecretPurpose purpose : neededSecrets(before))
-        if (!needed.contains(purpose))
-            m_secrets->remove(secretKey(before.name, purpose), this,
-                              [this](const SecretResult& result) { report(result); });
-}
-
-// The old key goes only when the new one is there.
-void WatchList::moveSecret(const QString& from, const QString& to)
-{
-    m_secrets->read(from, this, [this, from, to](const SecretResult& found) {
-        report(found);
-        if (found.status != SecretResult::Status::Done)
-            return;
-        m_secrets->write(to, found.secret, this, [this, from](const SecretResult& written) {
-            report(written);
-            if (written.status != SecretResult::Status::Done)
-                return;
-            m_secrets->remove(from, this, [](const SecretResult&) {});
-            fetchSecrets(); // a first answer may still have been on its way under the old name
-        });
-    });
-}
-
-void WatchList::report(const SecretResult& result)
-{
-    if (result.status == SecretResult::Status::Failed)
-        emit secretsFailed(tr("A secret was not kept: %1").arg(result.message));
 }

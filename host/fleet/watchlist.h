@@ -6,9 +6,9 @@
 
 #include "config/deskconfig.h"
 #include "fleet/fleet.h"
-#include "secrets/secretstore.h"
+#include "secrets/secretkeeper.h"
 
-#include <QSet>
+#include <QHash>
 
 // Every change is written to the file first; where the file refuses, nothing else changes. The
 // fleet may hold devices beside those of the file (from the command line): they stay where they
@@ -20,12 +20,17 @@ class WatchList : public QObject
 public:
     using Edit = std::function<QString(DeskConfig&)>;
 
-    // The fleet must outlive the list.
-    WatchList(Fleet& fleet, const DeskConfig& config, std::unique_ptr<SecretStore> secrets,
-              QObject* parent = nullptr);
+    // The fleet must outlive the list. makeStore: of the secret store that the settings choose.
+    WatchList(Fleet& fleet, const DeskConfig& config,
+              const SecretKeeper::Maker& makeStore = SecretStore::make, QObject* parent = nullptr);
     ~WatchList() override;
 
     const DeskConfig& config() const { return m_config; }
+    // As the file names them at this moment, also while it has faults; where it is gone, as they
+    // were.
+    const OperatorAccounts& operators() const { return m_operators; }
+    // Reads the file where another program has changed it, and follows it unless it has faults.
+    void readAgain();
 
     // Adds the devices of the file to the fleet, at once. Secrets follow when the store answers;
     // until then, for at most kSecretsPatienceMs, an SNMPv3 agent is not asked without them.
@@ -33,45 +38,46 @@ public:
     static constexpr qint64 kSecretsPatienceMs = 10 * 1000;
 
     // The fleet's device for this name in the file, or null.
-    Device* find(const QString& name) const;
-    bool isConfigured(const Device* device) const { return m_configured.contains(device); }
+    Device* find(const QString& name) const { return m_devices.value(name); }
+    bool isConfigured(const Device* device) const;
 
     // Each returns why it was refused; empty: done and saved. A file that was changed by another
     // program meanwhile is read again, the fleet follows it, and the reason says so.
     QString add(const DeviceSettings& device);
-    // Replaces the device in the fleet, so that the pointer ends here; may rename it.
+    // Replaces the device in the fleet, so that the pointer ends here; may rename it. The settings
+    // may be those of the device itself.
     QString change(Device* device, const DeviceSettings& settings);
     QString remove(Device* device);
     QString move(Device* device, int to); // index in the fleet
-    // Any other edit of the configuration, on the same terms.
-    QString edit(const Edit& edit);
+    // Any other edit of the configuration, on the same terms. what: for the event list.
+    QString edit(const QString& what, const Edit& edit);
 
 signals:
     // The list or the configuration is another one; after the fleet's own signals.
     void changed();
+    // Somebody at this desk has changed the configuration; device: empty where it concerns none.
+    void edited(const QString& device, const QString& what);
     // Secrets could not be read or kept; plain text for the operator. Devices are watched without.
     void secretsFailed(const QString& message);
 
 private:
     QString save(const Edit& edit);
-    QString readAgain(const QString& reason);
-    void followFile();
+    QString tellChange(const QString& reason);
+    void follow(const DeskConfig& config);
     void orderAsInFile();
     void append(const DeviceSettings& settings);
     void replace(Device* device, const DeviceSettings& settings);
+    void put(Device* device);
     DeviceSettings settingsOf(const QString& name, const DeviceSettings& secretsFrom) const;
     int configuredBefore(int index, const Device* except) const;
-
     void fetchSecrets();
-    void takeSecrets(const QVector<DeviceSettings>& devices, const QString& message);
-    void keepSecrets(const DeviceSettings& before, const DeviceSettings& now);
-    void moveSecret(const QString& from, const QString& to);
-    void report(const SecretResult& result);
+    void takeSecrets(const QVector<DeviceSettings>& devices);
 
     Fleet& m_fleet;
     DeskConfig m_config;
-    const std::unique_ptr<SecretStore> m_secrets;
-    QSet<const Device*> m_configured;
+    OperatorAccounts m_operators;
+    SecretKeeper m_secrets;
+    QHash<QString, Device*> m_devices; // of the file, by name
 };
 
 #endif // WATCHLIST_H

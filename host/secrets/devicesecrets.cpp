@@ -1,7 +1,5 @@
 #include "secrets/devicesecrets.h"
 
-#include <QPointer>
-
 #include <algorithm>
 
 namespace {
@@ -24,42 +22,6 @@ constexpr Purpose kPurposes[] = {
 const Purpose& row(SecretPurpose purpose)
 {
     return kPurposes[static_cast<int>(purpose)];
-}
-
-// One run over all devices: asks for one secret after the other, so that a keychain that is locked
-// asks its own password once.
-struct Reading {
-    QPointer<SecretStore> store;
-    QObject* context;
-    SecretsReady ready;
-    QVector<DeviceSettings> devices;
-    struct Wanted {
-        int device;
-        SecretPurpose purpose;
-    };
-    QVector<Wanted> wanted;
-};
-
-void readNext(const std::shared_ptr<Reading>& reading)
-{
-    if (reading->wanted.isEmpty()) {
-        reading->ready(reading->devices, {});
-        return;
-    }
-    if (!reading->store)
-        return;
-    const Reading::Wanted wanted = reading->wanted.takeFirst();
-    const QString key = secretKey(reading->devices.at(wanted.device).name, wanted.purpose);
-    reading->store->read(key, reading->context, [reading, wanted](const SecretResult& result) {
-        if (result.status == SecretResult::Status::Failed) {
-            // The next one would fail for the same reason, perhaps after another time limit.
-            reading->ready(reading->devices, result.message);
-            return;
-        }
-        if (result.status == SecretResult::Status::Done)
-            reading->devices[wanted.device].*row(wanted.purpose).field = result.secret.toString();
-        readNext(reading);
-    });
 }
 
 } // namespace
@@ -113,16 +75,33 @@ void applySecretOverrides(DeviceSettings& device)
 void readDeviceSecrets(SecretStore& store, const QVector<DeviceSettings>& devices, QObject* context,
                        const SecretsReady& ready)
 {
-    const auto reading = std::make_shared<Reading>();
-    *reading = {&store, context, ready, devices, {}};
-    for (int i = 0; i < reading->devices.size(); ++i) {
-        DeviceSettings& device = reading->devices[i];
+    struct Wanted {
+        int device;
+        SecretPurpose purpose;
+    };
+    QVector<DeviceSettings> filled = devices;
+    QVector<Wanted> wanted;
+    SecretStore::Errands errands;
+    for (int i = 0; i < filled.size(); ++i) {
+        DeviceSettings& device = filled[i];
         applySecretOverrides(device);
-        for (SecretPurpose purpose : neededSecrets(device))
-            if (!device.name.isEmpty() && (device.*row(purpose).field).isEmpty())
-                reading->wanted += {i, purpose};
+        for (SecretPurpose purpose : neededSecrets(device)) {
+            if (device.name.isEmpty() || !deviceSecret(device, purpose).isEmpty())
+                continue;
+            wanted += {i, purpose};
+            errands += {SecretStore::Action::Read, secretKey(device.name, purpose), {}};
+        }
     }
-    // Later also where nothing is wanted, so that callers meet one order of events.
-    QMetaObject::invokeMethod(
-        context, [reading] { readNext(reading); }, Qt::QueuedConnection);
+    // Asks the store also where nothing is wanted, so that callers meet one order of events.
+    store.run(errands, context, [=](const SecretStore::Results& results) {
+        QVector<DeviceSettings> complete = filled;
+        QString message;
+        for (int i = 0; i < results.size(); ++i)
+            if (results.at(i).status == SecretResult::Status::Done)
+                setDeviceSecret(complete[wanted.at(i).device], wanted.at(i).purpose,
+                                results.at(i).secret.toString());
+            else if (results.at(i).status == SecretResult::Status::Failed)
+                message = results.at(i).message;
+        ready(complete, message);
+    });
 }

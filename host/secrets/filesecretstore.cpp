@@ -2,27 +2,21 @@
 
 #include "private/privatefile.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLockFile>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <sodium.h>
 
 namespace {
 
-constexpr int kLockWait = 1000; // ms
+using Action = SecretStore::Action;
+using Status = SecretResult::Status;
 
-SecretResult failure(const QString& message)
+SecretStore::Results failures(int count, const QString& message)
 {
-    return {SecretResult::Status::Failed, {}, message};
-}
-
-SecretResult done()
-{
-    return {SecretResult::Status::Done, {}, {}};
+    return SecretStore::Results(count, {Status::Failed, {}, message});
 }
 
 struct Content {
@@ -32,23 +26,18 @@ struct Content {
 
 Content load(const QString& path)
 {
-    QFile file(path);
-    if (!file.exists())
-        return {};
-    if (!QFileInfo(path).isFile())
-        return {{}, FileSecretStore::tr("%1 is not a file").arg(path)};
     if (!isPrivateFile(path))
         return {{},
                 FileSecretStore::tr("%1 is not used because others may read or write it; "
                                     "\"chmod 600\" ends that, then change the secrets in it")
                     .arg(path)};
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, FileSecretStore::tr("cannot read %1: %2").arg(path, file.errorString())};
-    QByteArray bytes = file.read(FileSecretStore::kMaxBytes + 1);
-    const QJsonDocument document = bytes.size() > FileSecretStore::kMaxBytes
-                                       ? QJsonDocument()
-                                       : QJsonDocument::fromJson(bytes);
-    sodium_memzero(bytes.data(), static_cast<size_t>(bytes.size()));
+    FileContent file = readBoundedFile(path, FileSecretStore::kMaxBytes);
+    if (!file.error.isEmpty())
+        return {{}, file.error};
+    if (!file.bytes)
+        return {};
+    const QJsonDocument document = QJsonDocument::fromJson(*file.bytes);
+    sodium_memzero(file.bytes->data(), static_cast<size_t>(file.bytes->size()));
     if (!document.isObject())
         return {
             {},
@@ -56,6 +45,37 @@ Content load(const QString& path)
                                 "and enter the secrets again")
                 .arg(path)};
     return {document.object(), {}};
+}
+
+QString store(const QString& path, const QJsonObject& secrets)
+{
+    QByteArray bytes = QJsonDocument(secrets).toJson();
+    const QString error = writePrivateFile(path, bytes);
+    sodium_memzero(bytes.data(), static_cast<size_t>(bytes.size()));
+    return error;
+}
+
+SecretResult carryOutOne(const SecretStore::Errand& errand, QJsonObject& secrets)
+{
+    if (errand.action == Action::Read) {
+        const QJsonValue value = secrets.value(errand.key);
+        if (!value.isString())
+            return {Status::NotFound, {}, {}};
+        return {Status::Done, SecretText(value.toString()), {}};
+    }
+    if (errand.action == Action::Remove || errand.secret.isEmpty())
+        secrets.remove(errand.key);
+    else
+        secrets.insert(errand.key, errand.secret.toString());
+    return {Status::Done, {}, {}};
+}
+
+SecretStore::Results carryOutAll(const SecretStore::Errands& errands, QJsonObject& secrets)
+{
+    SecretStore::Results results;
+    for (const SecretStore::Errand& errand : errands)
+        results += carryOutOne(errand, secrets);
+    return results;
 }
 
 } // namespace
@@ -71,44 +91,28 @@ FileSecretStore::FileSecretStore(const QString& path, QObject* parent)
     , m_path(path)
 {}
 
-void FileSecretStore::run(Action action, const QString& key, const SecretText& secret,
-                          const Callback& done)
+void FileSecretStore::carryOut(const Errands& errands, const Callback& done)
 {
-    done(action == Action::Read ? readKey(key) : change(key, secret));
-}
-
-SecretResult FileSecretStore::readKey(const QString& key) const
-{
-    const Content content = load(m_path);
-    if (!content.error.isEmpty())
-        return failure(content.error);
-    const QJsonValue value = content.secrets.value(key);
-    if (!value.isString())
-        return {SecretResult::Status::NotFound, {}, {}};
-    return {SecretResult::Status::Done, SecretText(value.toString()), {}};
-}
-
-SecretResult FileSecretStore::change(const QString& key, const SecretText& secret) const
-{
-    const QString folder = QFileInfo(m_path).absolutePath();
-    if (!makePrivateFolder(folder))
-        return failure(tr("cannot make the folder %1").arg(folder));
-    QLockFile lock(m_path + QStringLiteral(".lock"));
-    if (!lock.tryLock(kLockWait))
-        return failure(tr("%1 is not written: another upsdesk is writing it, or its folder is "
-                          "read-only")
-                           .arg(m_path));
+    const bool onlyReads = std::all_of(errands.begin(), errands.end(), [](const Errand& errand) {
+        return errand.action == Action::Read;
+    });
+    if (!onlyReads)
+        return done(change(errands));
     Content content = load(m_path);
-    if (!content.error.isEmpty())
-        return failure(content.error);
-    if (secret.isEmpty() && !content.secrets.contains(key))
-        return done();
-    if (secret.isEmpty())
-        content.secrets.remove(key);
-    else
-        content.secrets.insert(key, secret.toString());
-    QByteArray bytes = QJsonDocument(content.secrets).toJson();
-    const QString error = writePrivateFile(m_path, bytes);
-    sodium_memzero(bytes.data(), static_cast<size_t>(bytes.size()));
-    return error.isEmpty() ? done() : failure(error);
+    done(content.error.isEmpty() ? carryOutAll(errands, content.secrets)
+                                 : failures(errands.size(), content.error));
+}
+
+SecretStore::Results FileSecretStore::change(const Errands& errands) const
+{
+    Results results;
+    const QString error = withFileLock(m_path, [&] {
+        Content content = load(m_path);
+        if (!content.error.isEmpty())
+            return content.error;
+        const QJsonObject before = content.secrets;
+        results = carryOutAll(errands, content.secrets);
+        return content.secrets == before ? QString() : store(m_path, content.secrets);
+    });
+    return error.isEmpty() ? results : failures(errands.size(), error);
 }

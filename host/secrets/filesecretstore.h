@@ -15,18 +15,17 @@ public:
     static QString defaultPath();
 
     // A JSON object of texts. A file that others may read or write, or that is not such an object,
-    // is neither read nor overwritten: every call fails and says so.
+    // is neither read nor overwritten: every errand fails and says so. Errands that come together
+    // read the file once and write it once, all of them or none.
     explicit FileSecretStore(const QString& path = defaultPath(), QObject* parent = nullptr);
 
-    static constexpr qint64 kMaxBytes = 1024 * 1024;
+    static constexpr qint64 kMaxBytes = 4 * 1024 * 1024;
 
 protected:
-    void run(Action action, const QString& key, const SecretText& secret,
-             const Callback& done) override;
+    void carryOut(const Errands& errands, const Callback& done) override;
 
 private:
-    SecretResult readKey(const QString& key) const;
-    SecretResult change(const QString& key, const SecretText& secret) const; // empty: removes
+    Results change(const Errands& errands) const;
 
     QString m_path;
 };

@@ -103,6 +103,22 @@ std::unique_ptr<Job> makeWriter(const std::shared_ptr<KeychainCall>& call)
     return job;
 }
 
+void startJob(const SecretStore::Errand& errand, const std::shared_ptr<KeychainCall>& call)
+{
+    std::unique_ptr<QKeychain::Job> job;
+    if (errand.action == SecretStore::Action::Read) {
+        job = makeReader(call);
+    } else if (errand.action == SecretStore::Action::Remove || errand.secret.isEmpty()) {
+        job = makeWriter<QKeychain::DeletePasswordJob>(call);
+    } else {
+        auto writer = makeWriter<QKeychain::WritePasswordJob>(call);
+        writer->setTextData(errand.secret.toString());
+        job = std::move(writer);
+    }
+    job->setKey(errand.key);
+    job.release()->start(); // deletes itself when it has finished
+}
+
 } // namespace
 
 KeychainSecretStore::KeychainSecretStore(int timeLimit, QObject* parent)
@@ -112,34 +128,35 @@ KeychainSecretStore::KeychainSecretStore(int timeLimit, QObject* parent)
     qRegisterMetaType<SecretResult>();
 }
 
-void KeychainSecretStore::run(Action action, const QString& key, const SecretText& secret,
-                              const Callback& done)
+void KeychainSecretStore::carryOut(const Errands& errands, const Callback& done)
+{
+    next(errands, {}, done);
+}
+
+void KeychainSecretStore::next(const Errands& errands, const Results& results, const Callback& done)
+{
+    if (results.size() == errands.size())
+        return done(results);
+    ask(errands.at(results.size()), [=](const SecretResult& result) {
+        Results more = results;
+        const bool failed = result.status == SecretResult::Status::Failed;
+        more += failed ? Results(errands.size() - results.size(), result) : Results{result};
+        next(errands, more, done);
+    });
+}
+
+void KeychainSecretStore::ask(const Errand& errand, const Answer& answer)
 {
     const auto answered = std::make_shared<bool>(false);
-    const auto answer = [answered, done](const SecretResult& result) {
-        if (std::exchange(*answered, true))
-            return;
-        done(result);
+    const auto once = [answered, answer](const SecretResult& result) {
+        if (!std::exchange(*answered, true))
+            answer(result);
     };
     const auto call = std::make_shared<KeychainCall>();
-    connect(call.get(), &KeychainCall::finished, this, answer, Qt::QueuedConnection);
-    QTimer::singleShot(m_timeLimit, this, [answer] {
-        answer({SecretResult::Status::Failed, {}, withCure(tr("it does not answer"))});
+    connect(call.get(), &KeychainCall::finished, this, once, Qt::QueuedConnection);
+    QTimer::singleShot(m_timeLimit, this, [once] {
+        once({SecretResult::Status::Failed, {}, withCure(tr("it does not answer"))});
     });
-
-    const auto ask = [action, key, secret, call] {
-        std::unique_ptr<QKeychain::Job> job;
-        if (action == Action::Read) {
-            job = makeReader(call);
-        } else if (action == Action::Remove) {
-            job = makeWriter<QKeychain::DeletePasswordJob>(call);
-        } else {
-            auto writer = makeWriter<QKeychain::WritePasswordJob>(call);
-            writer->setTextData(secret.toString());
-            job = std::move(writer);
-        }
-        job->setKey(key);
-        job.release()->start(); // deletes itself when it has finished
-    };
-    QMetaObject::invokeMethod(KeychainThread::worker(), ask, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        KeychainThread::worker(), [errand, call] { startJob(errand, call); }, Qt::QueuedConnection);
 }

@@ -15,14 +15,18 @@ public:
     // ms; long enough to type the keychain's own password when it asks for it.
     static constexpr int kDefaultTimeLimit = 60 * 1000;
 
-    // A call that has no answer within the limit fails; what it asked for may still happen later.
+    // One errand after the other, so that a keychain that is locked asks its own password once. One
+    // that has no answer within the limit fails; what it asked for may still happen later.
     explicit KeychainSecretStore(int timeLimit = kDefaultTimeLimit, QObject* parent = nullptr);
 
 protected:
-    void run(Action action, const QString& key, const SecretText& secret,
-             const Callback& done) override;
+    void carryOut(const Errands& errands, const Callback& done) override;
 
 private:
+    using Answer = std::function<void(const SecretResult&)>;
+    void next(const Errands& errands, const Results& results, const Callback& done);
+    void ask(const Errand& errand, const Answer& answer);
+
     int m_timeLimit;
 };
 

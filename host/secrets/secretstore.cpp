@@ -5,32 +5,15 @@
 
 #include <QPointer>
 
-void SecretStore::read(const QString& key, QObject* context, const Callback& callback)
-{
-    start(Action::Read, key, {}, context, callback);
-}
-
-void SecretStore::write(const QString& key, const SecretText& secret, QObject* context,
-                        const Callback& callback)
-{
-    start(secret.isEmpty() ? Action::Remove : Action::Write, key, secret, context, callback);
-}
-
-void SecretStore::remove(const QString& key, QObject* context, const Callback& callback)
-{
-    start(Action::Remove, key, {}, context, callback);
-}
-
-void SecretStore::start(Action action, const QString& key, const SecretText& secret,
-                        QObject* context, const Callback& callback)
+void SecretStore::run(const Errands& errands, QObject* context, const Callback& callback)
 {
     const QPointer<QObject> receiver(context);
-    const Callback done = [receiver, callback](const SecretResult& result) {
+    const Callback done = [receiver, callback](const Results& results) {
         if (receiver)
-            callback(result);
+            callback(results);
     };
     QMetaObject::invokeMethod(
-        this, [=] { run(action, key, secret, done); }, Qt::QueuedConnection);
+        this, [this, errands, done] { carryOut(errands, done); }, Qt::QueuedConnection);
 }
 
 std::unique_ptr<SecretStore> SecretStore::make(SecretsChoice choice)

@@ -8,6 +8,7 @@
 #include "private/secrettext.h"
 
 #include <QObject>
+#include <QVector>
 
 #include <functional>
 #include <memory>
@@ -26,30 +27,30 @@ class SecretStore : public QObject
     Q_OBJECT
 
 public:
-    using Callback = std::function<void(const SecretResult&)>;
+    enum class Action { Read, Write, Remove };
+    struct Errand {
+        Action action = Action::Read;
+        QString key;
+        SecretText secret; // of Write
+    };
+    using Errands = QVector<Errand>;
+    using Results = QVector<SecretResult>; // one for each errand, in their order
+    using Callback = std::function<void(const Results&)>;
 
     using QObject::QObject;
 
-    // Each returns at once and calls back later, once, in the thread of `context`, which is the
-    // store's; never where `context` or the store is gone by then. An unknown key is NotFound for
-    // read, Done for remove. Writing an empty secret removes it.
-    void read(const QString& key, QObject* context, const Callback& callback);
-    void write(const QString& key, const SecretText& secret, QObject* context,
-               const Callback& callback);
-    void remove(const QString& key, QObject* context, const Callback& callback);
+    // Returns at once and calls back later, once, in the thread of `context`, which is the store's;
+    // never where `context` or the store is gone by then. An unknown key is NotFound for read, Done
+    // for remove. Writing an empty secret removes it. After one that failed the rest is not tried:
+    // it would fail for the same reason, perhaps after another time limit.
+    void run(const Errands& errands, QObject* context, const Callback& callback);
 
     // What the configuration chose.
     static std::unique_ptr<SecretStore> make(SecretsChoice choice);
 
 protected:
-    enum class Action { Read, Write, Remove };
     // Calls `done` at once or later, in this object's thread.
-    virtual void run(Action action, const QString& key, const SecretText& secret,
-                     const Callback& done) = 0;
-
-private:
-    void start(Action action, const QString& key, const SecretText& secret, QObject* context,
-               const Callback& callback);
+    virtual void carryOut(const Errands& errands, const Callback& done) = 0;
 };
 
 #endif // SECRETSTORE_H
