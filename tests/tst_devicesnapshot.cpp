@@ -226,6 +226,9 @@ void TestDeviceSnapshot::deviceNumber_data()
     QTest::newRow("decimal") << QByteArray("227.50") << 227.5;
     QTest::newRow("not known, -1") << QByteArray("-1.00") << absent;
     QTest::newRow("not known, 65535") << QByteArray("65535") << absent;
+    QTest::newRow("not known, 655350") << QByteArray("655350") << absent;
+    QTest::newRow("not known, 4294967295") << QByteArray("4294967295") << absent;
+    QTest::newRow("not known, -273") << QByteArray("-273") << absent;
     QTest::newRow("negative but real") << QByteArray("-12.5") << -12.5;
 }
 

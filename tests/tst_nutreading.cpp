@@ -134,6 +134,9 @@ private slots:
             {"OB CAL", S::Battery, B::SelfTest, {A::OnBattery, A::TestInProgress}},
             {"OL TEST", S::Utility, B::SelfTest, {A::TestInProgress}},
             {"OL BYPASS OVER", S::Bypass, B::Normal, {A::OnBypass, A::OutputOverload}},
+            {"OL BOOST", S::Booster, B::Normal, {}},
+            {"TRIM", S::Reducer, B::Unknown, {}},
+            {"BOOST", S::Booster, B::Unknown, {}},
             {"OL OFF", S::None, B::Normal, {A::OutputOff}},
             {"FSD OB LB",
              S::Battery,
@@ -150,6 +153,29 @@ private slots:
             QVERIFY2(r.batteryState == row.battery, row.status);
             QVERIFY2(r.alarms == row.alarms, row.status);
             QCOMPARE(r.notes.isEmpty(), r.outputSource != S::Other);
+        }
+    }
+
+    // Without a count of lines: what a name gives, where, and that it betrays the line.
+    void namesPerLine()
+    {
+        const struct {
+            const char* name;
+            const char* output;
+            const char* apparent;
+        } rows[] = {
+            {"ups.L1.realpower", "-: -/-/- V -/-/- A -/-/- Hz 7/-/- W -/-/- %", "-/-/-"},
+            {"ups.L2.load", "2: -/-/- V -/-/- A -/-/- Hz -/-/- W -/7/- %", "-/-/-"},
+            {"ups.L3.power", "3: -/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %", "-/-/7"},
+            {"output.L3.realpower", "3: -/-/- V -/-/- A -/-/- Hz -/-/7 W -/-/- %", "-/-/-"},
+            {"output.L2.power.percent", "2: -/-/- V -/-/- A -/-/- Hz -/-/- W -/7/- %", "-/-/-"},
+            {"output.L1.power", "-: -/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %", "7/-/-"},
+            {"ups.power", "-: -/-/- V -/-/- A -/-/- Hz -/-/- W -/-/- %", "7/-/-"},
+        };
+        for (const auto& row : rows) {
+            const UpsReading r = readingFromNut({{row.name, "7"}});
+            QCOMPARE(row.name + text(r.output), QString(row.name) + row.output);
+            QCOMPARE(row.name + text(r.output.apparentPower), QString(row.name) + row.apparent);
         }
     }
 

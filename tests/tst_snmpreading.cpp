@@ -110,8 +110,8 @@ private slots:
              "3: 229/230/231 V 6.5/6.6/6.7 A 49.9/50/50.1 Hz 1310/1320/1330 W -/-/- %"},
             {"longer index", "3", "3.2.0 i 1\n3.3.1.2.1.0 i 600\n3.3.1.3.1.0 i 224", "input",
              "1: 224/-/- V -/-/- A 60/-/- Hz -/-/- W -/-/- %"},
-            {"rows of zero identifiers are empty", "6.2", "6.2.1.2.1 o 0.0\n6.2.1.2.2 o 0",
-             "alarms", " "},
+            {"rows of zero identifiers are empty", "6", "6.2.1.2.1 o 0.0\n6.2.1.2.2 o 0", "alarms",
+             " "},
             {"alarm 24 and one beyond", "6.2",
              "6.2.1.2.1 o 1.3.6.1.2.1.33.1.6.3.24\n6.2.1.2.2 o 1.3.6.1.2.1.33.1.6.3.25", "alarms",
              "24 1.3.6.1.2.1.33.1.6.3.25"},
@@ -119,7 +119,14 @@ private slots:
              "16,19 1.3.6.1.4.1.99999.1.5"},
             {"no alarm table: states are alarms", "6", "4.1.0 i 5\n2.1.0 i 3", "alarms", "2,3 "},
             {"no alarm table: a test is no outage", "6", "4.1.0 i 5\n7.3.0 i 5", "alarms", "24 "},
-            {"an empty alarm table is believed", "6", "6.1.0 i 0\n4.1.0 i 5", "alarms", " "},
+            {"a test without mains is one", "6", "4.1.0 i 5\n7.3.0 i 5\n3.3.1.3.2 i 0", "alarms",
+             "2,24 "},
+            {"an empty alarm table hides no state", "6", "6.1.0 i 0\n4.1.0 i 4\n2.1.0 i 4",
+             "alarms", "4,9 "},
+            {"a served table only adds", "4.1.0", "4.1.0 i 2", "alarms",
+             "14,16 1.3.6.1.4.1.99999.1.5"},
+            {"more alarms than names", "6.1", "6.1.0 i 5", "alarms",
+             "16 1.3.6.1.4.1.99999.1.5,Alarms counted, but not named: 3"},
             {"beeper out of range", "9.8.0", "9.8.0 i 0", "beeper", "-"},
             {"no line counted, but voltage", "5.2.0", "5.2.0 i 0", "bypass",
              "3: 232/233/234 V 0.1/0.2/0.3 A 49.8/49.8/49.8 Hz 10/20/30 W -/-/- %"},
@@ -136,6 +143,26 @@ private slots:
             table.load(row.add);
             const QString found = describe(readingFromSnmp(table.objects))[row.what];
             QCOMPARE(row.name + (": " + found), row.name + QString(": ") + row.expected);
+        }
+    }
+
+    void alarmAges()
+    {
+        const struct {
+            const char* times; // agent's clock 100 s after its start
+            double age;        // -1: not known
+        } rows[] = {{"6.2.1.3.1 i 4000", 60},
+                    {"6.2.1.3.1 i 0", -1},
+                    {"6.2.1.3.1 i 10500", 0},
+                    {"6.2.1.3.1 i 20000", -1},
+                    {"6.2.1.3.2 i 4000", -1},
+                    {"6.2.1.2.9 o 1.3.6.1.2.1.33.1.6.3.5\n6.2.1.3.9 i 1000\n6.2.1.3.1 i 4000", 90}};
+        for (const auto& row : rows) {
+            SnmpTable table;
+            table.load("1.3.6.1.2.1.1.3.0 i 10000\n6.2.1.2.1 o 1.3.6.1.2.1.33.1.6.3.5");
+            table.load(row.times);
+            const UpsReading reading = readingFromSnmp(table.objects);
+            QVERIFY2(reading.alarmAges.value(Alarm::TemperatureBad, -1) == row.age, row.times);
         }
     }
 
@@ -220,6 +247,8 @@ private slots:
             const char* message;
         } rows[] = {
             {"", true, LinkState::Lost, "nothing at ups:161"},
+            {"4.1.0 i 3\n6.2.1.2.7 o 1.3.6.1.2.1.33.1.6.3.20", false, LinkState::Stale,
+             "lost contact with its UPS"},
             {"1.3.6.1.2.1.1.5.0 t p", false, LinkState::Refused, "not a UPS"},
             {"2.4.0 i 50", false, LinkState::Live, ""},
         };

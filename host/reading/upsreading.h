@@ -4,6 +4,7 @@
 // What is known of one UPS at one moment, in physical units, every value optional.
 // May touch: Qt Core. Knows no connector, no snapshot key and no widget.
 
+#include <QMap>
 #include <QMetaType>
 #include <QSet>
 #include <QString>
@@ -76,12 +77,13 @@ enum class Beeper { Disabled = 1, Enabled = 2, Muted = 3 };
 
 // One group of lines: input, output or bypass.
 struct LineReading {
-    std::optional<int> lines; // as the device says, not normalised; empty: it does not say
-    PhaseValues voltage;      // V RMS
-    PhaseValues current;      // A RMS
-    PhaseValues frequency;    // Hz; one frequency for all lines stands in each line
-    PhaseValues power;        // W, true power
-    PhaseValues load;         // % of rating; output only
+    std::optional<int> lines;  // as the device says, not normalised; empty: it does not say
+    PhaseValues voltage;       // V RMS
+    PhaseValues current;       // A RMS
+    PhaseValues frequency;     // Hz; one frequency for all lines stands in each line
+    PhaseValues power;         // W, true power
+    PhaseValues load;          // % of rating; output only
+    PhaseValues apparentPower; // VA; output only
 };
 
 struct UpsReading {
@@ -96,7 +98,8 @@ struct UpsReading {
 
     // Power path
     OutputSource outputSource = OutputSource::Other;
-    Value inputLineBads; // count of mains failures
+    bool saysMains = false; // the device itself says that mains are there, whatever feeds the load
+    Value inputLineBads;    // count of mains failures
     LineReading input;
     LineReading output;
     LineReading bypass;
@@ -113,10 +116,13 @@ struct UpsReading {
     Value lowTransferVoltage;  // V
     Value highTransferVoltage; // V
 
-    // Alarms that are active now, and texts of those that have no well-known meaning.
+    // Alarms that are active now, and those that have no well-known meaning: in the device's words,
+    // by the maker's identifier ("1.3.6.1.4.1.99999.1.5"), or how many it does not name at all.
     QSet<Alarm> alarms;
     QStringList alarmTexts;
     std::optional<int> alarmCount; // as the device counts them
+    // s since the device itself saw the alarm begin; not in it where it does not say.
+    QMap<Alarm, double> alarmAges;
 
     // Identity; plain, bounded, without control characters (see cleanDeviceText).
     QString model;

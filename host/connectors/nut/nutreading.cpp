@@ -1,5 +1,6 @@
 #include "connectors/nut/nutreading.h"
 
+#include "reading/derivedalarms.h"
 #include "reading/sanitize.h"
 
 #include <QCoreApplication>
@@ -57,27 +58,26 @@ constexpr TextRow kTexts[] = {
 struct GroupRow {
     LineReading UpsReading::*target;
     const char* prefix;
-    const char* totalPower; // asked before the group's own name
-    const char* totalLoad;  // output only
+    const char* unitPrefix; // many drivers name what leaves the unit after the unit itself
     const char* caption;
 };
 
 constexpr GroupRow kGroups[] = {
-    {&UpsReading::input, "input.", nullptr, nullptr, QT_TRANSLATE_NOOP("NutReading", "Input")},
-    {&UpsReading::output, "output.", "ups.realpower", "ups.load",
-     QT_TRANSLATE_NOOP("NutReading", "Output")},
-    {&UpsReading::bypass, "input.bypass.", nullptr, nullptr,
-     QT_TRANSLATE_NOOP("NutReading", "Bypass")},
+    {&UpsReading::input, "input.", nullptr, QT_TRANSLATE_NOOP("NutReading", "Input")},
+    {&UpsReading::output, "output.", "ups.", QT_TRANSLATE_NOOP("NutReading", "Output")},
+    {&UpsReading::bypass, "input.bypass.", nullptr, QT_TRANSLATE_NOOP("NutReading", "Bypass")},
 };
 
 constexpr int kLines = 3;
 constexpr const char* kLineToNeutral[kLines] = {"L1-N.voltage", "L2-N.voltage", "L3-N.voltage"};
 constexpr const char* kLineToLine[kLines] = {"L1-L2.voltage", "L2-L3.voltage", "L3-L1.voltage"};
 // What betrays a line when the device gives no count.
-constexpr const char* kSignsOfLine2[] = {"L2-N.voltage", "L2-L3.voltage", "L2.current",
-                                         "L2.realpower", "L2.power.percent"};
-constexpr const char* kSignsOfLine3[] = {"L3-N.voltage", "L3-L1.voltage", "L3.current",
-                                         "L3.realpower", "L3.power.percent"};
+constexpr const char* kSignsOfLine2[] = {"L2-N.voltage", "L2-L3.voltage",    "L2.current",
+                                         "L2.realpower", "L2.power.percent", "L2.power"};
+constexpr const char* kSignsOfLine3[] = {"L3-N.voltage", "L3-L1.voltage",    "L3.current",
+                                         "L3.realpower", "L3.power.percent", "L3.power"};
+constexpr const char* kUnitSignsOfLine2[] = {"L2.realpower", "L2.load", "L2.power"};
+constexpr const char* kUnitSignsOfLine3[] = {"L3.realpower", "L3.load", "L3.power"};
 
 struct SourceRow {
     OutputSource source;
@@ -91,7 +91,7 @@ constexpr SourceRow kSources[] = {
     {OutputSource::Reducer, {"TRIM"}},      {OutputSource::Utility, {"OL"}},
 };
 // Without one of these nothing is known of the power path, whatever else the status says.
-constexpr const char* kPathTokens[] = {"OL", "OB", "OFF", "BYPASS"};
+constexpr const char* kPathTokens[] = {"OL", "OB", "OFF", "BYPASS", "TRIM", "BOOST"};
 
 struct BatteryRow {
     BatteryState state;
@@ -156,10 +156,10 @@ public:
     {
         return name ? plausibleNumber(m_all.value(m_prefix + name)) : Value();
     }
-    // "L2.current" for ".current" of line 2 (index 1)
+    // "L2.current" for "current" of line 2 (index 1)
     Value ofLine(int index, const char* quantity) const
     {
-        return number((QByteArray("L") + char('1' + index) + quantity).constData());
+        return number((QByteArray("L") + char('1' + index) + '.' + quantity).constData());
     }
     template <size_t N>
     bool hasOneOf(const char* const (&names)[N]) const
@@ -173,15 +173,23 @@ private:
     const QByteArray m_prefix;
 };
 
-std::optional<int> lineCount(const Variables& group)
+// What is known of one group: by its own names, by those of the unit (of none for input and
+// bypass).
+struct GroupVariables {
+    Variables own;
+    Variables unit;
+};
+
+std::optional<int> lineCount(const GroupVariables& variables)
 {
     constexpr double kMostLines = 12;
+    const Variables& group = variables.own;
     const Value count = group.number("phases");
     if (count && *count >= 0 && *count <= kMostLines && *count == std::floor(*count))
         return static_cast<int>(*count);
-    if (group.hasOneOf(kSignsOfLine3))
+    if (group.hasOneOf(kSignsOfLine3) || variables.unit.hasOneOf(kUnitSignsOfLine3))
         return 3;
-    if (group.hasOneOf(kSignsOfLine2))
+    if (group.hasOneOf(kSignsOfLine2) || variables.unit.hasOneOf(kUnitSignsOfLine2))
         return 2;
     return std::nullopt;
 }
@@ -191,35 +199,41 @@ bool isEmpty(const PhaseValues& values)
     return std::none_of(values.begin(), values.end(), [](const Value& v) { return v.has_value(); });
 }
 
-// Quantities of several lines, each under the name of its line.
-void readLines(const Variables& group, int lines, LineReading& reading)
+Value firstOf(const Value& first, const Value& second)
 {
+    return first ? first : second;
+}
+
+// Quantities of several lines, each under the name of its line. "power" is apparent power.
+void readLines(const GroupVariables& variables, int lines, LineReading& reading)
+{
+    const auto& [own, unit] = variables;
     for (int i = 0; i < lines; ++i) {
-        reading.voltage[i] = group.number(kLineToNeutral[i]);
-        reading.current[i] = group.ofLine(i, ".current");
-        reading.frequency[i] = group.ofLine(i, ".frequency");
-        reading.power[i] = group.ofLine(i, ".realpower");
-        reading.load[i] = group.ofLine(i, ".power.percent");
+        reading.voltage[i] = own.number(kLineToNeutral[i]);
+        reading.current[i] = own.ofLine(i, "current");
+        reading.frequency[i] = own.ofLine(i, "frequency");
+        reading.power[i] = firstOf(own.ofLine(i, "realpower"), unit.ofLine(i, "realpower"));
+        reading.load[i] = firstOf(own.ofLine(i, "power.percent"), unit.ofLine(i, "load"));
+        reading.apparentPower[i] = firstOf(own.ofLine(i, "power"), unit.ofLine(i, "power"));
     }
 }
 
 // The names without a line: all of a single-phase group, and what remains when a group of several
 // lines does not tell them apart.
-void readTotals(const Variables& group, const Variables& all, const GroupRow& row,
-                LineReading& reading, QStringList& totals)
+void readTotals(const GroupVariables& variables, LineReading& reading, QStringList& totals)
 {
+    const auto& [own, unit] = variables;
     struct Total {
         PhaseValues& values;
         Value value;
         const char* caption;
     };
-    const Value ownPower = all.number(row.totalPower);
     const Total rows[] = {
-        {reading.voltage, group.number("voltage"), QT_TRANSLATE_NOOP("NutReading", "voltage")},
-        {reading.current, group.number("current"), QT_TRANSLATE_NOOP("NutReading", "current")},
-        {reading.power, ownPower ? ownPower : group.number("realpower"),
+        {reading.voltage, own.number("voltage"), QT_TRANSLATE_NOOP("NutReading", "voltage")},
+        {reading.current, own.number("current"), QT_TRANSLATE_NOOP("NutReading", "current")},
+        {reading.power, firstOf(unit.number("realpower"), own.number("realpower")),
          QT_TRANSLATE_NOOP("NutReading", "power")},
-        {reading.load, all.number(row.totalLoad), QT_TRANSLATE_NOOP("NutReading", "load")},
+        {reading.load, unit.number("load"), QT_TRANSLATE_NOOP("NutReading", "load")},
     };
     for (const Total& total : rows) {
         if (!total.value || !isEmpty(total.values))
@@ -231,33 +245,38 @@ void readTotals(const Variables& group, const Variables& all, const GroupRow& ro
 
 void readGroup(const NutVariables& variables, const GroupRow& row, UpsReading& reading)
 {
-    const Variables group(variables, row.prefix);
-    const Variables all(variables, "");
+    static const NutVariables none;
+    const GroupVariables names{Variables(variables, row.prefix),
+                               row.unitPrefix ? Variables(variables, row.unitPrefix)
+                                              : Variables(none, "")};
+    const Variables& group = names.own;
     LineReading& lines = reading.*row.target;
     const QString caption = Tr::tr(row.caption);
 
-    lines.lines = lineCount(group);
+    lines.lines = lineCount(names);
     const int count = std::min(std::max(lines.lines.value_or(1), 1), kLines);
     QStringList totals;
     if (count == 1) {
-        readTotals(group, all, row, lines, totals);
+        readTotals(names, lines, totals);
         totals.clear(); // with one line the total is the line
         LineReading named;
-        readLines(group, 1, named);
+        readLines(names, 1, named);
         for (PhaseValues LineReading::*quantity : {&LineReading::voltage, &LineReading::current,
                                                    &LineReading::power, &LineReading::load})
             if (isEmpty(lines.*quantity))
                 lines.*quantity = named.*quantity;
         lines.frequency = named.frequency;
+        const Value total = firstOf(names.unit.number("power"), names.own.number("power"));
+        lines.apparentPower[0] = firstOf(total, named.apparentPower[0]);
     } else {
-        readLines(group, count, lines);
+        readLines(names, count, lines);
         if (isEmpty(lines.voltage)) {
             for (int i = 0; i < count; ++i)
                 lines.voltage[i] = group.number(kLineToLine[i]);
             if (!isEmpty(lines.voltage))
                 reading.notes << Tr::tr("%1 voltages are line to line.").arg(caption);
         }
-        readTotals(group, all, row, lines, totals);
+        readTotals(names, lines, totals);
     }
     const Value frequency = group.number("frequency");
     for (int i = 0; i < count; ++i)
@@ -287,6 +306,7 @@ void readStatus(const NutVariables& variables, UpsReading& reading)
                               : Tr::tr("The UPS does not say where its power comes from."));
         return;
     }
+    reading.saysMains = tokens.contains("OL");
     for (const SourceRow& row : kSources) {
         if (hasAny(tokens, row.tokens)) {
             reading.outputSource = row.source;
@@ -391,5 +411,6 @@ UpsReading readingFromNut(const NutVariables& variables, const QByteArray& descr
     readStatus(variables, reading);
     readConditions(variables, reading);
     readEvents(variables, reading);
+    addDerivedAlarms(reading);
     return reading;
 }

@@ -10,7 +10,7 @@ using std::chrono::milliseconds;
 namespace {
 
 constexpr int kRowsPerBulk = 4;          // three lines and the object behind them
-constexpr std::size_t kMostColumns = 12; // of one request
+constexpr std::size_t kMostColumns = 13; // of one request: all that a poll walks
 constexpr int kMostRows = 64;            // of one column, far above what a UPS lists
 constexpr int kPollsToRemember = 60;
 
@@ -227,10 +227,22 @@ void SnmpPoll::finishWithValues()
     m_memory.proven = !restarted;
 
     if (hasUpsObjects(m_values))
-        finish(LinkState::Live);
+        finishWithReading();
     else
         finish(LinkState::Refused,
                tr("not a UPS: %1 answers SNMP but has no UPS-MIB objects").arg(m_limits.peer));
+}
+
+// A card that has lost its UPS goes on telling what it last heard; nothing of that is news.
+void SnmpPoll::finishWithReading()
+{
+    m_reading = readingFromSnmp(m_values);
+    if (!m_reading.alarms.contains(Alarm::CommunicationsLost))
+        return finish(LinkState::Live);
+    finish(LinkState::Stale,
+           tr("The agent at %1 answers, but has lost contact with its UPS; the values that it "
+              "repeats are not shown.")
+               .arg(m_limits.peer));
 }
 
 void SnmpPoll::finish(LinkState state, const QString& message)
@@ -246,7 +258,7 @@ PollResult SnmpPoll::result() const
     result.state = m_state;
     result.message = m_message;
     if (m_state == LinkState::Live)
-        result.reading = readingFromSnmp(m_values);
+        result.reading = m_reading;
     if (m_state != LinkState::Lost || !m_message.isEmpty())
         return result;
 

@@ -67,6 +67,7 @@ private:
     bool advance(Column& column, const SnmpVariable& variable);
     void finish(LinkState state, const QString& message = {});
     void finishWithValues();
+    void finishWithReading();
 
     Limits m_limits;
     SnmpMemory& m_memory;
@@ -79,6 +80,7 @@ private:
     std::chrono::milliseconds m_roundTrip{0};
     SnmpValues m_values;
     bool m_denied = false; // the agent has objects that it does not show us
+    UpsReading m_reading;
     LinkState m_state = LinkState::Lost;
     QString m_message;
 };

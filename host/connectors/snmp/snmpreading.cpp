@@ -2,6 +2,7 @@
 
 #include "connectors/snmp/upsmib.h"
 
+#include "reading/derivedalarms.h"
 #include "reading/sanitize.h"
 
 #include <QCoreApplication>
@@ -144,12 +145,15 @@ QString textOf(const SnmpValues& values, const SnmpOid& oid)
     return value.type == SnmpValue::Type::Text ? cleanDeviceText(value.octets) : QString();
 }
 
+// visit: what stands behind the column, at least one part, and the value.
 template <typename Visit>
 void forEachRow(const SnmpValues& values, const SnmpOid& column, Visit visit)
 {
     for (auto it = values.upper_bound(column); it != values.end() && isBelow(it->first, column);
          ++it)
-        visit(it->first[column.size()], it->second);
+        visit(SnmpOid(it->first.begin() + static_cast<std::ptrdiff_t>(column.size()),
+                      it->first.end()),
+              it->second);
 }
 
 // How many lines the rows show when the agent does not count them. A row without any number is no
@@ -190,11 +194,13 @@ LineReading linesOf(const SnmpValues& values, const LineGroupRow& group)
     for (const ColumnRow& column : group.columns) {
         PhaseValues& phases = lines.*column.member;
         // The first part behind the column is the line; some agents add a further ".0".
-        forEachRow(values, columnOid(group, column), [&](quint32 line, const SnmpValue& value) {
-            const Value raw = value.plausible();
-            if (line >= 1 && line <= 3 && raw)
-                phases[line - 1] = physical(*raw, column.unit);
-        });
+        forEachRow(values, columnOid(group, column),
+                   [&](const SnmpOid& row, const SnmpValue& value) {
+                       const quint32 line = row.front();
+                       const Value raw = value.plausible();
+                       if (line >= 1 && line <= 3 && raw)
+                           phases[line - 1] = physical(*raw, column.unit);
+                   });
     }
 
     const std::optional<int> counted = countedLines(values, group, lines);
@@ -229,53 +235,50 @@ BatteryState batteryStateOf(int status, int testResult, OutputSource source)
     return status == UpsMib::BatteryNormal ? BatteryState::Normal : BatteryState::Unknown;
 }
 
-// Agents without an alarm table tell these by their states alone; an outage must not pass without
-// an alarm on them. A battery test is none.
-void addAlarmsOfStates(int batteryStatus, int testResult, UpsReading& reading)
+// s since the agent saw the alarm of this row begin; empty where it was there before the agent.
+Value alarmAge(const SnmpValues& values, const SnmpOid& row)
 {
-    const bool test = testResult == UpsMib::InProgress;
-    const OutputSource source = reading.outputSource;
-    const struct {
-        Alarm alarm;
-        bool active;
-    } rows[] = {
-        {Alarm::OnBattery, source == OutputSource::Battery && !test},
-        {Alarm::OnBypass, source == OutputSource::Bypass},
-        {Alarm::OutputOff, source == OutputSource::None},
-        {Alarm::LowBattery, batteryStatus == UpsMib::BatteryLow},
-        {Alarm::DepletedBattery, batteryStatus == UpsMib::BatteryDepleted},
-        {Alarm::TestInProgress, test},
-    };
-    for (const auto& row : rows)
-        if (row.active)
-            reading.alarms.insert(row.alarm);
+    constexpr double kTicksPerSecond = 100;
+    constexpr double kRaisedMeanwhile = 10; // s; the table is read after the agent's clock
+    const auto raised = valueOf(values, UpsMib::alarmTime + row).raw();
+    const auto now = valueOf(values, UpsMib::sysUpTime).raw();
+    if (!raised || !now || *raised <= 0)
+        return {};
+    const double age = static_cast<double>(*now - *raised) / kTicksPerSecond;
+    return age >= -kRaisedMeanwhile ? Value(std::max(age, 0.0)) : Value();
 }
 
-// False where the agent serves neither the table nor its count.
-bool readAlarms(const SnmpValues& values, UpsReading& reading)
+void noteAlarm(Alarm alarm, const Value& age, UpsReading& reading)
+{
+    reading.alarms.insert(alarm);
+    if (age)
+        reading.alarmAges[alarm] = std::max(*age, reading.alarmAges.value(alarm));
+}
+
+// The alarms that the agent lists, and how many it counts beyond them.
+void readAlarms(const SnmpValues& values, UpsReading& reading)
 {
     using namespace UpsMib;
-    bool served = false;
-    if (const Value count = numberOf(values, alarmsPresent); count && *count >= 0 && *count < 1e6) {
-        reading.alarmCount = static_cast<int>(*count);
-        served = true;
-    }
-    forEachRow(values, alarmDescr, [&](quint32, const SnmpValue& value) {
-        served = true;
+    int listed = 0;
+    forEachRow(values, alarmDescr, [&](const SnmpOid& row, const SnmpValue& value) {
         const SnmpOid oid = value.identifier();
         if (std::all_of(oid.begin(), oid.end(), [](quint32 part) { return part == 0; }))
             return; // an empty row of a table of fixed size
+        ++listed;
         const quint32 number = isBelow(oid, wellKnownAlarms) ? oid[wellKnownAlarms.size()] : 0;
+        const QString text = cleanDeviceText(toText(oid));
         if (number >= 1 && number <= kLastWellKnownAlarm)
-            reading.alarms.insert(static_cast<Alarm>(number));
-        else if (!reading.alarmTexts.contains(toText(oid)))
-            reading.alarmTexts << toText(oid);
+            noteAlarm(static_cast<Alarm>(number), alarmAge(values, row), reading);
+        else if (!reading.alarmTexts.contains(text))
+            reading.alarmTexts << text;
     });
-    if (reading.alarmCount.value_or(0) > 0 && reading.alarms.isEmpty() &&
-        reading.alarmTexts.isEmpty())
-        reading.notes
-            << Tr::tr("The agent counts %1 alarms, but names none.").arg(*reading.alarmCount);
-    return served;
+    const Value count = numberOf(values, alarmsPresent);
+    if (!count || *count < 0 || *count >= 1e6)
+        return;
+    reading.alarmCount = static_cast<int>(*count);
+    if (*reading.alarmCount > listed)
+        reading.alarmTexts
+            << Tr::tr("Alarms counted, but not named: %1").arg(*reading.alarmCount - listed);
 }
 
 } // namespace
@@ -311,6 +314,7 @@ const std::vector<SnmpOid>& polledColumns()
             for (const ColumnRow& column : group.columns)
                 list.push_back(columnOid(group, column));
         list.push_back(UpsMib::alarmDescr);
+        list.push_back(UpsMib::alarmTime);
         return list;
     }();
     return oids;
@@ -348,12 +352,14 @@ UpsReading readingFromSnmp(const SnmpValues& values)
 
     const int status = codeOf(values, batteryStatus, 1, 4);
     const int testResult = codeOf(values, testResultsSummary, DonePass, NoTestsInitiated);
-    if (!readAlarms(values, reading))
-        addAlarmsOfStates(status, testResult, reading);
+    readAlarms(values, reading);
+    if (testResult == InProgress)
+        reading.alarms.insert(Alarm::TestInProgress);
     // The alarm of this name says the same thing; agents without an alarm table have only this.
     if (testResult == DoneError)
         reading.alarms.insert(Alarm::DiagnosticTestFailed);
     reading.batteryState = batteryStateOf(status, testResult, reading.outputSource);
+    addDerivedAlarms(reading);
 
     // Some agents keep the length of the last outage after it has ended.
     const bool onBattery =

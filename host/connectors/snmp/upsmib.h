@@ -28,6 +28,7 @@ inline const SnmpOid secondsOnBattery = scalar(2, 2);
 inline const SnmpOid outputSource = scalar(4, 1);
 inline const SnmpOid alarmsPresent = scalar(6, 1);
 inline const SnmpOid alarmDescr = objects + SnmpOid{6, 2, 1, 2}; // a column
+inline const SnmpOid alarmTime = objects + SnmpOid{6, 2, 1, 3};  // a column
 inline const SnmpOid testId = scalar(7, 1);
 inline const SnmpOid testSpinLock = scalar(7, 2);
 inline const SnmpOid testResultsSummary = scalar(7, 3);
