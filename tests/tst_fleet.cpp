@@ -18,6 +18,7 @@ class TestClock : public FleetClock
 public:
     qint64 monotonicMs() const override { return monotonic; }
     qint64 bootMs() const override { return monotonic + suspended; }
+    QDateTime now() const override { return QDateTime::fromMSecsSinceEpoch(bootMs()); }
 
     qint64 monotonic = 1000000;
     qint64 suspended = 0;
@@ -65,10 +66,14 @@ bool areSpread(QVector<qint64> placesMs)
     for (int i = 1; i < placesMs.size(); ++i)
         if (placesMs[i] - placesMs[i - 1] > 2 * even)
             return false;
-    return placesMs.last() - placesMs.first() <= 5000;
+    const qint64 width = placesMs.last() - placesMs.first();
+    return width >= 5000 - 2 * even && width <= 5000;
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(LinkState)
+Q_DECLARE_METATYPE(Urgency)
 
 class TestFleet : public QObject
 {
@@ -82,10 +87,14 @@ private slots:
     void oldReadingIsNeverLive();
     void suspendHurriesEveryDevice();
     void unansweredPollEnds();
-    void urgency_data();
-    void urgency();
-    void thresholds_data();
-    void thresholds();
+    void ageCountsFromTheQuestion();
+    void oneLostPollOfARareOneIsNoSilence();
+    void staleDevicesKeepTheirRate();
+    void onset();
+    void endlessTestIsAnOutage();
+    void thresholdsReachEveryDevice();
+    void conditions_data();
+    void conditions();
     void commandsAreChecked_data();
     void commandsAreChecked();
     void commandIsFollowedToItsResult();
@@ -106,6 +115,17 @@ void TestFleet::backOff()
     QCOMPARE(pauses.last(), qint64(60000)); // never gives up, never waits longer
     plan.succeeded(now);
     QVERIFY(plan.dueMs() - now <= 5000);
+
+    PollPlan rare(3600 * 1000, 0);
+    rare.failed(0);
+    QCOMPARE(rare.dueMs(), qint64(5000));
+    QVERIFY(!rare.isSilenceConfirmed());
+    rare.failed(5000);
+    QCOMPARE(rare.dueMs(), qint64(15000));
+    QVERIFY(rare.isSilenceConfirmed());
+    for (int i = 0; i < 40; ++i)
+        rare.failed(0);
+    QCOMPARE(rare.dueMs(), qint64(60000));
 }
 
 void TestFleet::goodAnswersKeepTheirPlace()
@@ -209,76 +229,246 @@ void TestFleet::unansweredPollEnds()
     Device* device = desk.add("nut://h/u");
     QTRY_VERIFY(device->isPolling());
     desk.clock.monotonic += 60000;
-    device->checkPollLimit();
-    QCOMPARE(device->link(), LinkState::Lost);
+    QTRY_COMPARE(device->link(), LinkState::Lost);
     QVERIFY(!device->isPolling());
 }
 
-void TestFleet::urgency_data()
+// An answer in flight while the machine sleeps tells of the time before.
+void TestFleet::ageCountsFromTheQuestion()
 {
-    QTest::addColumn<int>("link");
-    QTest::addColumn<int>("source");
-    QTest::addColumn<int>("alarm"); // 0: none
-    QTest::addColumn<int>("urgency");
-    const auto row = [](const char* name, LinkState link, OutputSource source, int alarm,
-                        Urgency urgency) {
-        QTest::newRow(name) << int(link) << int(source) << alarm << int(urgency);
+    Desk desk;
+    Device* device = desk.add("nut://h/u");
+    QTRY_COMPARE(desk.connectors[0]->polls, 1);
+    desk.clock.suspended += 8 * 3600 * 1000;
+    desk.connectors[0]->answer(LinkState::Live, onMains());
+    QCOMPARE(device->ageMs(), qint64(8 * 3600 * 1000));
+    QCOMPARE(device->link(), LinkState::Stale);
+}
+
+void TestFleet::oneLostPollOfARareOneIsNoSilence()
+{
+    Desk desk;
+    DeviceSettings settings;
+    settings.address = *parseDeviceAddress("nut://h/u").address;
+    settings.pollInterval = 3600;
+    settings.scales = {{"battery.charge", 0.5}};
+    Device* device = desk.fleet.add(settings);
+    desk.connectors[0]->answer(LinkState::Live, onMains());
+    QCOMPARE(device->reading()->charge, Value(40)); // scaled
+    desk.connectors[0]->answer(LinkState::Lost);
+    QCOMPARE(device->link(), LinkState::Live);
+    QCOMPARE(device->dueMs() - desk.clock.monotonic, qint64(5000));
+    desk.connectors[0]->answer(LinkState::Lost);
+    QCOMPARE(device->link(), LinkState::Lost);
+}
+
+void TestFleet::staleDevicesKeepTheirRate()
+{
+    Desk desk;
+    Device* device = desk.add("nut://h/u");
+    for (int i = 0; i < 5; ++i)
+        desk.connectors[0]->answer(LinkState::Stale);
+    QVERIFY(device->dueMs() - desk.clock.monotonic <= 5000);
+}
+
+void TestFleet::onset()
+{
+    Desk desk;
+    Device* device = desk.add("nut://h/u");
+    UpsReading reading = onMains();
+    QDateTime before = device->conditionSince();
+    // What comes after so many seconds, and whether it is a condition of its own.
+    const auto changes = [&](int seconds, LinkState state) {
+        desk.clock.monotonic += seconds * 1000;
+        desk.connectors[0]->answer(state, reading);
+        return std::exchange(before, device->conditionSince()) != before;
     };
-    const auto live = LinkState::Live;
-    row("on mains", live, OutputSource::Utility, 0, Urgency::Normal);
-    row("on battery", live, OutputSource::Battery, 2, Urgency::Alarm);
-    row("battery low", live, OutputSource::Battery, 3, Urgency::Critical);
-    row("overload on mains", live, OutputSource::Utility, 8, Urgency::Critical);
-    row("output off", live, OutputSource::None, 0, Urgency::Critical);
-    row("nobody says that it is on mains", live, OutputSource::Other, 0, Urgency::Alarm);
-    row("silence is an alarm", LinkState::Lost, OutputSource::Utility, 0, Urgency::Alarm);
-    row("stale is an alarm", LinkState::Stale, OutputSource::Utility, 0, Urgency::Alarm);
+    QVERIFY(changes(5, LinkState::Live));
+    reading.charge = 45;
+    QVERIFY(changes(5, LinkState::Live));
+    reading.charge = 43; // another number
+    QVERIFY(!changes(5, LinkState::Live));
+    QVERIFY(device->condition().text.contains("43 %"));
+    reading.charge = 51; // not clearly back
+    QVERIFY(!changes(5, LinkState::Live));
+    reading.charge = 53;
+    QVERIFY(changes(5, LinkState::Live));
+    reading.alarmTexts << "Fan 1 at 400/min";
+    QVERIFY(changes(5, LinkState::Live));
+    reading.alarmTexts = QStringList("Fan 1 at 300/min");
+    QVERIFY(!changes(5, LinkState::Live));
+    reading.alarms << Alarm::GeneralFault; // the same words, but now an alarm
+    QVERIFY(changes(5, LinkState::Live));
+    reading.outputSource = OutputSource::Battery;
+    QVERIFY(changes(5, LinkState::Live));
+
+    const QDateTime outage = before;
+    QVERIFY(changes(5, LinkState::Lost));
+    QVERIFY(changes(10, LinkState::Live));
+    QCOMPARE(before, outage); // it went on meanwhile
+    QVERIFY(changes(5, LinkState::Lost));
+    QVERIFY(changes(600, LinkState::Live));
+    QVERIFY(before > outage); // nobody knows
 }
 
-void TestFleet::urgency()
+void TestFleet::endlessTestIsAnOutage()
 {
-    QFETCH(int, link);
-    QFETCH(int, source);
-    QFETCH(int, alarm);
-    QFETCH(int, urgency);
-    UpsReading reading;
-    reading.outputSource = static_cast<OutputSource>(source);
-    if (alarm)
-        reading.alarms << static_cast<Alarm>(alarm);
-    const Condition condition = conditionOf(static_cast<LinkState>(link), &reading);
-    QCOMPARE(int(condition.urgency), urgency);
-    QCOMPARE(condition.text.contains("mains"),
-             link == int(LinkState::Live) && source == int(OutputSource::Utility));
+    Desk desk;
+    Device* device = desk.add("nut://h/u");
+    UpsReading reading = onMains();
+    reading.outputSource = OutputSource::Battery;
+    reading.alarms = {Alarm::TestInProgress};
+    reading.input.voltage[0] = 230;
+    const auto kindAfter = [&](int seconds) {
+        desk.clock.monotonic += seconds * 1000;
+        desk.connectors[0]->answer(LinkState::Live, reading);
+        return device->condition().kind;
+    };
+    QCOMPARE(kindAfter(0), ConditionKind::BatteryTest);
+    QCOMPARE(kindAfter(600), ConditionKind::BatteryTest);
+    QCOMPARE(kindAfter(1), ConditionKind::Battery);
+    QVERIFY(device->reading()->alarms.contains(Alarm::OnBattery));
+    reading.alarms.clear();
+    reading.outputSource = OutputSource::Utility;
+    QCOMPARE(kindAfter(5), ConditionKind::Mains);
+    reading.alarms = {Alarm::TestInProgress};
+    reading.outputSource = OutputSource::Battery;
+    QCOMPARE(kindAfter(5), ConditionKind::BatteryTest); // a test of its own
 }
 
-void TestFleet::thresholds_data()
+void TestFleet::thresholdsReachEveryDevice()
 {
-    QTest::addColumn<int>("source");
-    QTest::addColumn<double>("charge");
-    QTest::addColumn<double>("minutes");
-    QTest::addColumn<double>("load");
-    QTest::addColumn<int>("urgency");
-    const int mains = int(OutputSource::Utility);
-    const int battery = int(OutputSource::Battery);
-    QTest::newRow("nothing conspicuous") << mains << 51.0 << 1.0 << 79.0 << int(Urgency::Normal);
-    QTest::newRow("charge critical") << mains << 20.0 << 60.0 << 10.0 << int(Urgency::Critical);
-    QTest::newRow("time left on battery") << battery << 90.0 << 6.0 << 10.0 << int(Urgency::Alarm);
-    QTest::newRow("little time left") << battery << 90.0 << 5.0 << 10.0 << int(Urgency::Critical);
+    Desk desk;
+    Device* device = desk.add("nut://h/u");
+    desk.connectors[0]->answer(LinkState::Live, onMains());
+    QCOMPARE(device->condition().urgency, Urgency::Normal);
+    Thresholds strict;
+    strict.chargeLow = 90;
+    desk.fleet.setThresholds(strict);
+    QCOMPARE(device->condition().urgency, Urgency::Warning);
+    Device* later = desk.add("nut://h/u");
+    desk.connectors[1]->answer(LinkState::Live, onMains());
+    QCOMPARE(later->condition().urgency, Urgency::Warning);
 }
 
-void TestFleet::thresholds()
+void TestFleet::conditions_data()
 {
-    QFETCH(int, source);
-    QFETCH(double, charge);
-    QFETCH(double, minutes);
-    QFETCH(double, load);
-    QFETCH(int, urgency);
-    UpsReading reading;
-    reading.outputSource = static_cast<OutputSource>(source);
-    reading.charge = charge;
-    reading.runtime = minutes * 60;
-    reading.output.load[2] = load;
-    QCOMPARE(int(conditionOf(LinkState::Live, &reading).urgency), urgency);
+    using S = OutputSource;
+    using A = Alarm;
+    using R = UpsReading;
+    QTest::addColumn<LinkState>("link");
+    QTest::addColumn<UpsReading>("reading");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<Urgency>("urgency");
+    QTest::addColumn<QString>("alarms");
+    const auto linkRow = [](const char* name, LinkState link, const char* text, Urgency urgency) {
+        UpsReading reading = onMains();
+        reading.alarms << A::FanFailure; // of back then
+        QTest::newRow(name) << link << reading << text << urgency << QString();
+    };
+    linkRow("silence is an alarm", LinkState::Lost, "No answer", Urgency::Alarm);
+    linkRow("stale is an alarm", LinkState::Stale, "No new data", Urgency::Alarm);
+    linkRow("refused is an alarm", LinkState::Refused, "Refused", Urgency::Alarm);
+
+    const auto row = [](const char* name, S source, const std::function<void(R&)>& fill,
+                        const char* text, Urgency urgency, const char* alarms) {
+        UpsReading reading;
+        reading.outputSource = source;
+        fill(reading);
+        QTest::newRow(name) << LinkState::Live << reading << QString::fromUtf8(text) << urgency
+                            << QString::fromUtf8(alarms);
+    };
+    const auto nothing = [](R&) {};
+    row("on mains", S::Utility, nothing, "On mains", Urgency::Normal, "");
+    row("boosting", S::Booster, nothing, "On mains, boosting", Urgency::Notice, "");
+    row(
+        "off", S::None, [](R& r) { r.alarms = {A::OutputOff}; }, "Output off", Urgency::Critical,
+        "");
+    row("nobody says that it is on mains", S::Other, nothing, "Source unknown", Urgency::Alarm, "");
+    row(
+        "an outage says it all", S::Battery,
+        [](R& r) {
+            r.alarms = {A::OnBattery, A::InputBad, A::BypassBad};
+        },
+        "On battery", Urgency::Alarm, "Bypass fault");
+    row(
+        "no word twice", S::Battery,
+        [](R& r) {
+            r.alarms = {A::OnBattery, A::LowBattery};
+        },
+        "On battery, low", Urgency::Critical, "Battery low");
+    row(
+        "overload on mains", S::Utility, [](R& r) { r.alarms = {A::OutputOverload}; },
+        "On mains, Load overrun MAX-value", Urgency::Critical, "Load overrun MAX-value");
+    row(
+        "an alarm without a name", S::Utility, [](R& r) { r.alarmTexts << "1.3.6.1.4.1.9.5"; },
+        "On mains, Alarm 1.3.6.1.4.1.9.5", Urgency::Warning, "Alarm 1.3.6.1.4.1.9.5");
+    row(
+        "its own words come first", S::Utility,
+        [](R& r) {
+            r.alarms = {A::GeneralFault, A::BatteryBad};
+            r.alarmTexts << "Replace battery!";
+        },
+        "On mains, Replace battery!", Urgency::Alarm, "Replace battery!|Battery fault|UPS fault");
+    row(
+        "and are told beside worse", S::Battery, [](R& r) { r.alarmTexts << "Door open"; },
+        "On battery, Door open", Urgency::Alarm, "Door open");
+
+    const auto test = [](double volts, double rated) {
+        return [=](R& r) {
+            r.alarms = {A::TestInProgress, A::OnBattery};
+            r.ratedInputVoltage = rated;
+            r.input.voltage = {volts, 230, {}};
+        };
+    };
+    row("a test with mains", S::Battery, test(115, 230), "Battery test", Urgency::Notice, "");
+    row("a test with one line missing", S::Battery, test(114, 230), "On battery", Urgency::Alarm,
+        "A test is in progress");
+    row("a test, rating not known", S::Battery, test(80, 0), "Battery test", Urgency::Notice, "");
+    row(
+        "a test, voltage not known", S::Battery, [](R& r) { r.alarms = {A::TestInProgress}; },
+        "On battery", Urgency::Alarm, "A test is in progress");
+
+    row(
+        "just within every limit", S::Utility,
+        [](R& r) {
+            r.charge = 51;
+            r.runtime = 60;
+            r.output.load = {79, {}, 79};
+            r.input.load[0] = 100;
+            r.batteryTemperature = 39;
+        },
+        "On mains", Urgency::Normal, "");
+    row(
+        "charge low", S::Utility, [](R& r) { r.charge = 50; }, "On mains, battery at 50 %",
+        Urgency::Warning, "Battery at 50 %");
+    row(
+        "charge critical", S::Battery, [](R& r) { r.charge = 20; }, "On battery, 20 % left",
+        Urgency::Critical, "Battery at 20 %");
+    row(
+        "time left", S::Battery, [](R& r) { r.runtime = 301; }, "On battery", Urgency::Alarm, "");
+    row(
+        "little time left", S::Battery, [](R& r) { r.runtime = 300; },
+        "On battery, little time left", Urgency::Critical, "Little time left");
+    row(
+        "load of one line", S::Utility,
+        [](R& r) {
+            r.output.load = {10, 80, {}};
+        },
+        "On mains, load 80 %", Urgency::Warning, "Load 80 %");
+    row(
+        "battery hot", S::Utility, [](R& r) { r.batteryTemperature = 40; },
+        "On mains, battery at 40 °C", Urgency::Warning, "Battery at 40 °C");
+}
+
+void TestFleet::conditions()
+{
+    QFETCH(LinkState, link);
+    QFETCH(UpsReading, reading);
+    const Condition condition = conditionOf(link, &reading);
+    QTEST(condition.text, "text");
+    QTEST(condition.urgency, "urgency");
+    QTEST(condition.alarms.join('|'), "alarms");
 }
 
 void TestFleet::commandsAreChecked_data()

@@ -3,6 +3,7 @@
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
 #include "cli/onepoll.h"
+#include "config/deskconfig.h"
 #include "connectors/connectorfactory.h"
 #include "fleet/device.h"
 #include "reading/keynames.h"
@@ -42,6 +43,21 @@ QVector<QPair<int, QString>> alarmsOf(const Device& device)
     return alarms;
 }
 
+// With the zone, whatever the zone of the machine is.
+QString isoTime(const QDateTime& time)
+{
+    return time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
+}
+
+QJsonObject conditionJson(const Device& device)
+{
+    const Condition condition = device.condition();
+    return {{"urgency", urgencyName(condition)},
+            {"text", condition.text},
+            {"since", isoTime(device.conditionSince())},
+            {"alarms", QJsonArray::fromStringList(condition.alarms)}};
+}
+
 QJsonObject jsonOf(const Device& device)
 {
     QJsonArray alarms;
@@ -60,6 +76,7 @@ QJsonObject jsonOf(const Device& device)
     return {{"address", device.settings().address.text},
             {"state", linkStateName(device.link())},
             {"message", device.message()},
+            {"condition", conditionJson(device)},
             {"values", valuesOf(device.snapshot(SnapshotPage::Device))},
             {"alarms", alarms},
             {"alarmTexts", texts},
@@ -70,6 +87,8 @@ void printPlain(const Device& device)
 {
     printOut(device.address() + QStringLiteral(": ") + linkStateName(device.link()) +
              (device.message().isEmpty() ? QString() : QStringLiteral(", ") + device.message()));
+    const Condition condition = device.condition();
+    printOut(QStringLiteral("condition: %1 (%2)").arg(condition.text, urgencyName(condition)));
     const auto snapshot = device.snapshot(SnapshotPage::Device);
     for (auto it = snapshot.begin(); it != snapshot.end(); ++it)
         printOut(QStringLiteral("%1 %2").arg(keyName(it.key()), -32).arg(it.value().toString()));
@@ -108,6 +127,7 @@ int runProbe(const QStringList& arguments)
         return ExitUsage;
 
     Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
+    device.setThresholds(DeskConfig::load().settings().thresholds);
     pollOnce(device);
 
     if (parser.isSet(json))

@@ -52,9 +52,30 @@ qint64 Device::ageMs() const
     return m_reading ? m_clock.bootMs() - m_readingBootMs : -1;
 }
 
+// As long as a poll may take before the connector has to say that it failed.
+qint64 Device::pollLimitMs() const
+{
+    return m_settings.timeout * (m_settings.retries + 1) * kMsPerSecond;
+}
+
+// Readings are as old as the questions: with every poll at its limit, one may be this old before
+// the next one is in.
 qint64 Device::freshnessLimitMs() const
 {
-    return kServerMaxAgeMs + (m_settings.pollInterval + m_settings.timeout) * kMsPerSecond;
+    return kServerMaxAgeMs + m_settings.pollInterval * kMsPerSecond + 2 * pollLimitMs();
+}
+
+// What goes on like before after a silence as short as this, goes on.
+qint64 Device::shortGapMs() const
+{
+    return freshnessLimitMs() + m_settings.pollInterval * kMsPerSecond;
+}
+
+void Device::setThresholds(const Thresholds& thresholds)
+{
+    m_thresholds = thresholds;
+    m_past.limits = m_reading ? limitsBeyond(*m_reading, m_thresholds) : Limits();
+    noteCondition();
 }
 
 QMap<int, QVariant> Device::snapshot(SnapshotPage page) const
@@ -92,9 +113,7 @@ void Device::send(UpsCommand command)
 
 void Device::checkPollLimit()
 {
-    const qint64 limit =
-        m_settings.timeout * (m_settings.retries + 1) * kMsPerSecond + kPollSlackMs;
-    if (isPolling() && m_clock.bootMs() - m_pollStarted > limit) {
+    if (isPolling() && m_clock.bootMs() - m_pollStarted > pollLimitMs() + kPollSlackMs) {
         PollResult silence;
         silence.state = LinkState::Lost;
         silence.message = tr("The poll was not answered in time.");
@@ -104,9 +123,9 @@ void Device::checkPollLimit()
 
 void Device::takeResult(const PollResult& result)
 {
+    // An answer may have been under way for long: the machine may have slept meanwhile.
+    const qint64 asked = isPolling() ? m_pollStarted : m_clock.bootMs();
     m_pollStarted = -1;
-    m_link = result.state;
-    m_message = cleanDeviceText(result.message);
     // A silent driver is asked as often as a live one: its server answers, and it may be back soon.
     if (result.state == LinkState::Live || result.state == LinkState::Stale)
         m_plan.succeeded(m_clock.monotonicMs());
@@ -114,21 +133,48 @@ void Device::takeResult(const PollResult& result)
         m_plan.failed(m_clock.monotonicMs());
     if (std::exchange(m_followUp, false))
         m_plan.hurry(m_clock.monotonicMs());
-    if (result.state == LinkState::Live) {
-        m_reading = result.reading;
-        applyScales(*m_reading, m_settings.scales);
-        m_readingBootMs = m_clock.bootMs();
-        ++m_readingNumber;
+    const bool isConfirmed =
+        result.state != LinkState::Lost || m_link != LinkState::Live || m_plan.isSilenceConfirmed();
+    if (isConfirmed) {
+        m_link = result.state;
+        m_message = cleanDeviceText(result.message);
     }
+    if (result.state == LinkState::Live)
+        takeReading(result.reading, asked);
     noteCondition();
     emit polled();
 }
 
+void Device::takeReading(const UpsReading& reading, qint64 askedBootMs)
+{
+    m_reading = reading;
+    applyScales(*m_reading, m_settings.scales);
+    m_readingBootMs = askedBootMs;
+    ++m_readingNumber;
+    m_noticed.heardMs = askedBootMs;
+    m_past.limits = limitsBeyond(*m_reading, m_thresholds, m_past.limits);
+    if (!m_reading->alarms.contains(Alarm::TestInProgress))
+        m_testSinceMs = -1;
+    else if (m_testSinceMs < 0)
+        m_testSinceMs = askedBootMs;
+    m_past.testSeconds =
+        m_testSinceMs < 0 ? 0 : static_cast<double>(askedBootMs - m_testSinceMs) / kMsPerSecond;
+    // A test that does not end is an outage on every page.
+    if (m_reading->outputSource == OutputSource::Battery &&
+        !isExcusedByTest(*m_reading, m_past.testSeconds))
+        m_reading->alarms.insert(Alarm::OnBattery);
+}
+
 void Device::noteCondition()
 {
-    const QString text = condition().text;
-    if (text == m_conditionText)
+    const Condition now = condition();
+    if (m_noticed.since.isValid() && isSameCondition(now, m_noticed.condition))
         return;
-    m_conditionText = text;
-    m_conditionSince = m_clock.now();
+    const bool wasLive = isOfLiveDevice(m_noticed.condition.kind);
+    const bool isLive = isOfLiveDevice(now.kind);
+    if (wasLive && !isLive)
+        m_beforeGap = m_noticed;
+    const bool goesOn = isLive && !wasLive && isSameCondition(now, m_beforeGap.condition) &&
+                        m_readingBootMs - m_beforeGap.heardMs <= shortGapMs();
+    m_noticed = {now, goesOn ? m_beforeGap.since : m_clock.now(), m_readingBootMs};
 }

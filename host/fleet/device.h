@@ -42,12 +42,13 @@ public:
     // Counts good readings, so that a view knows a new one from one it has shown; 0 before the
     // first.
     qint64 readingNumber() const { return m_readingNumber; }
-    // ms since the last good reading; -1 before the first.
+    // ms since the poll began that brought the last good reading; -1 before the first.
     qint64 ageMs() const;
-    Condition condition() const { return conditionOf(link(), reading(), m_thresholds); }
-    void setThresholds(const Thresholds& thresholds) { m_thresholds = thresholds; }
-    // Since when the desk has seen the device in that condition.
-    QDateTime conditionSince() const { return m_conditionSince; }
+    Condition condition() const { return conditionOf(link(), reading(), m_thresholds, m_past); }
+    void setThresholds(const Thresholds& thresholds);
+    // Since when the desk has seen the device in that condition. A poll or two that failed in
+    // between do not make it a new one.
+    QDateTime conditionSince() const { return m_noticed.since; }
 
     // Empty before the first good reading: a view must not be fed with an empty snapshot.
     QMap<int, QVariant> snapshot(SnapshotPage page) const;
@@ -78,8 +79,17 @@ signals:
     void commandFinished(const CommandResult& result);
 
 private:
+    struct Noticed {
+        Condition condition;
+        QDateTime since;
+        qint64 heardMs = 0; // boot ms of the last good reading in it
+    };
+
     void takeResult(const PollResult& result);
+    void takeReading(const UpsReading& reading, qint64 askedBootMs);
+    qint64 pollLimitMs() const;
     qint64 freshnessLimitMs() const;
+    qint64 shortGapMs() const;
 
     DeviceSettings m_settings;
     std::unique_ptr<Connector> m_connector;
@@ -91,8 +101,10 @@ private:
     std::optional<UpsReading> m_reading;
     qint64 m_readingBootMs = 0;
     qint64 m_readingNumber = 0;
-    QString m_conditionText;
-    QDateTime m_conditionSince;
+    ConditionPast m_past;
+    qint64 m_testSinceMs = -1; // boot ms of the first reading that told of the test; -1: no test
+    Noticed m_noticed;
+    Noticed m_beforeGap;       // the last of the device while it was live
     qint64 m_pollStarted = -1; // boot ms; -1: no poll is under way
     qint64 m_heldUntilMs = 0;
     bool m_followUp = false; // poll again when the one under way has ended

@@ -17,8 +17,8 @@ void PollPlan::failed(qint64 nowMs)
     constexpr int doublingsToLongest = 16; // 1 ms doubled so often is over a minute
     const int doublings = std::min(m_failures, doublingsToLongest);
     ++m_failures;
-    const qint64 longest = std::max(kLongestPauseMs, m_interval);
-    m_due = nowMs + std::min(m_interval << doublings, longest);
+    const qint64 first = m_interval <= kLongestPauseMs ? m_interval : kQuickRetryMs;
+    m_due = nowMs + std::min(first << doublings, kLongestPauseMs);
 }
 
 qint64 PollPlan::placeAfter(qint64 nowMs) const

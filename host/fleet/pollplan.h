@@ -13,6 +13,8 @@ class PollPlan
 {
 public:
     static constexpr qint64 kLongestPauseMs = 60 * 1000;
+    // After the first failure of a device that is polled less often than once a minute.
+    static constexpr qint64 kQuickRetryMs = 5 * 1000;
 
     // intervalMs: between the starts of two polls, at least 1.
     PollPlan(qint64 intervalMs, qint64 firstDueMs);
@@ -23,8 +25,12 @@ public:
     // A good answer: the next poll keeps the device's place in the interval. After a late answer
     // the missed places are skipped, not caught up.
     void succeeded(qint64 nowMs);
-    // No good answer: the pause doubles from one interval up to a minute.
+    // No good answer: the pause doubles up to a minute, from one interval or, where that is longer
+    // than a minute, from a quick retry.
     void failed(qint64 nowMs);
+    // False after a single failure that a quick retry will put right or confirm: one lost packet
+    // must not count as an hour of silence.
+    bool isSilenceConfirmed() const { return m_interval <= kLongestPauseMs || m_failures > 1; }
     // Try then, where that is sooner than planned (machine awake, operator asks). The place stays.
     void hurry(qint64 atMs) { m_due = std::min(m_due, atMs); }
 

@@ -1,11 +1,15 @@
 #include "fleet/urgency.h"
 
+#include "reading/derivedalarms.h"
 #include "reading/devicesnapshot.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
+#include <QVector>
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -47,88 +51,253 @@ constexpr AlarmRank kRanks[] = {
 };
 static_assert(std::size(kRanks) == static_cast<int>(Alarm::TestInProgress));
 
-Condition supplyCondition(OutputSource source)
+struct StateRow {
+    ConditionKind kind;
+    Urgency urgency;
+    const char* text;
+};
+
+constexpr StateRow kStates[] = {
+    {ConditionKind::Connecting, Urgency::Notice, QT_TRANSLATE_NOOP("Urgency", "Connecting")},
+    {ConditionKind::Mains, Urgency::Normal, QT_TRANSLATE_NOOP("Urgency", "On mains")},
+    {ConditionKind::Boosting, Urgency::Notice, QT_TRANSLATE_NOOP("Urgency", "On mains, boosting")},
+    {ConditionKind::Reducing, Urgency::Notice, QT_TRANSLATE_NOOP("Urgency", "On mains, reducing")},
+    {ConditionKind::Battery, Urgency::Alarm, QT_TRANSLATE_NOOP("Urgency", "On battery")},
+    {ConditionKind::BatteryTest, Urgency::Notice, QT_TRANSLATE_NOOP("Urgency", "Battery test")},
+    {ConditionKind::Bypass, Urgency::Warning, QT_TRANSLATE_NOOP("Urgency", "On bypass")},
+    {ConditionKind::OutputOff, Urgency::Critical, QT_TRANSLATE_NOOP("Urgency", "Output off")},
+    {ConditionKind::SourceUnknown, Urgency::Alarm, QT_TRANSLATE_NOOP("Urgency", "Source unknown")},
+    {ConditionKind::Stale, Urgency::Alarm, QT_TRANSLATE_NOOP("Urgency", "No new data")},
+    {ConditionKind::Lost, Urgency::Alarm, QT_TRANSLATE_NOOP("Urgency", "No answer")},
+    {ConditionKind::Refused, Urgency::Alarm, QT_TRANSLATE_NOOP("Urgency", "Refused")},
+};
+static_assert(std::size(kStates) == static_cast<int>(ConditionKind::Refused) + 1);
+
+// By number of OutputSource.
+constexpr ConditionKind kKindOfSource[] = {
+    ConditionKind::SourceUnknown, ConditionKind::SourceUnknown, ConditionKind::OutputOff,
+    ConditionKind::Mains,         ConditionKind::Bypass,        ConditionKind::Battery,
+    ConditionKind::Boosting,      ConditionKind::Reducing,
+};
+
+// By number of LinkState; a live device is judged by its reading.
+constexpr ConditionKind kKindOfLink[] = {ConditionKind::Connecting, ConditionKind::Connecting,
+                                         ConditionKind::Stale, ConditionKind::Lost,
+                                         ConditionKind::Refused};
+
+// Alarms that a state says already.
+constexpr std::pair<ConditionKind, Alarm> kSaidByState[] = {
+    {ConditionKind::Battery, Alarm::OnBattery},
+    {ConditionKind::Battery, Alarm::InputBad},
+    {ConditionKind::BatteryTest, Alarm::OnBattery},
+    {ConditionKind::BatteryTest, Alarm::TestInProgress},
+    {ConditionKind::Bypass, Alarm::OnBypass},
+    {ConditionKind::OutputOff, Alarm::OutputOff},
+};
+
+// What follows "On battery" in place of the alarm's text, which would say the word again.
+constexpr std::pair<Alarm, const char*> kOfBattery[] = {
+    {Alarm::LowBattery, QT_TRANSLATE_NOOP("Urgency", "low")},
+    {Alarm::DepletedBattery, QT_TRANSLATE_NOOP("Urgency", "empty")},
+};
+
+struct LimitRow {
+    Limit limit;
+    Urgency urgency;
+    Value (*value)(const UpsReading& reading);
+    double (*bound)(const Thresholds& thresholds);
+    bool isUpper;  // beyond at or above the bound, else at or below
+    double margin; // by which a value has to be back
+    const char* text;
+    const char* after; // behind a state
+    const char* afterBattery;
+};
+
+constexpr double kSecondsPerMinute = 60;
+
+Value highestLoad(const UpsReading& reading)
 {
-    switch (source) {
-    case OutputSource::Utility:
-        return {Urgency::Normal, Tr::tr("On mains")};
-    case OutputSource::Booster:
-        return {Urgency::Notice, Tr::tr("On mains, boosting")};
-    case OutputSource::Reducer:
-        return {Urgency::Notice, Tr::tr("On mains, reducing")};
-    case OutputSource::Battery:
-        return {Urgency::Alarm, Tr::tr("On battery")};
-    case OutputSource::Bypass:
-        return {Urgency::Warning, Tr::tr("On bypass")};
-    case OutputSource::None:
-        return {Urgency::Critical, Tr::tr("Output off")};
-    case OutputSource::Other:
-        break;
+    return *std::max_element(reading.output.load.begin(), reading.output.load.end());
+}
+
+// Worst first.
+constexpr LimitRow kLimits[] = {
+    {Limit::RuntimeLow, Urgency::Critical, [](const UpsReading& r) { return r.runtime; },
+     [](const Thresholds& t) { return t.runtimeLow * kSecondsPerMinute; }, false, kSecondsPerMinute,
+     QT_TRANSLATE_NOOP("Urgency", "Little time left"),
+     QT_TRANSLATE_NOOP("Urgency", "little time left"),
+     QT_TRANSLATE_NOOP("Urgency", "little time left")},
+    {Limit::ChargeCritical, Urgency::Critical, [](const UpsReading& r) { return r.charge; },
+     [](const Thresholds& t) { return double(t.chargeCritical); }, false, 2,
+     QT_TRANSLATE_NOOP("Urgency", "Battery at %1 %"),
+     QT_TRANSLATE_NOOP("Urgency", "battery at %1 %"), QT_TRANSLATE_NOOP("Urgency", "%1 % left")},
+    {Limit::ChargeLow, Urgency::Warning, [](const UpsReading& r) { return r.charge; },
+     [](const Thresholds& t) { return double(t.chargeLow); }, false, 2,
+     QT_TRANSLATE_NOOP("Urgency", "Battery at %1 %"),
+     QT_TRANSLATE_NOOP("Urgency", "battery at %1 %"), QT_TRANSLATE_NOOP("Urgency", "%1 % left")},
+    {Limit::LoadHigh, Urgency::Warning, highestLoad,
+     [](const Thresholds& t) { return double(t.loadHigh); }, true, 2,
+     QT_TRANSLATE_NOOP("Urgency", "Load %1 %"), QT_TRANSLATE_NOOP("Urgency", "load %1 %"),
+     QT_TRANSLATE_NOOP("Urgency", "load %1 %")},
+    {Limit::TemperatureHigh, Urgency::Warning,
+     [](const UpsReading& r) { return r.batteryTemperature; },
+     [](const Thresholds& t) { return double(t.temperatureHigh); }, true, 1,
+     QT_TRANSLATE_NOOP("Urgency", "Battery at %1 \u00b0C"),
+     QT_TRANSLATE_NOOP("Urgency", "battery at %1 \u00b0C"),
+     QT_TRANSLATE_NOOP("Urgency", "battery at %1 \u00b0C")},
+};
+
+// Subjects: alarms by their own number, and beyond these.
+constexpr int kOwnWords = 100;
+constexpr int kLimitSubjects = 200;
+
+struct Finding {
+    Urgency urgency;
+    int subject;
+    QString text;  // by itself
+    QString after; // behind the state
+};
+
+// The device's own words. It has called them an alarm itself, or listed them without a rank.
+void findOwnWords(const UpsReading& reading, QVector<Finding>& findings)
+{
+    static const QRegularExpression identifier(QStringLiteral("^[0-9.]+$"));
+    const Urgency urgency =
+        reading.alarms.contains(Alarm::GeneralFault) ? Urgency::Alarm : Urgency::Warning;
+    for (const QString& words : reading.alarmTexts) {
+        const QString text =
+            identifier.match(words).hasMatch() ? Tr::tr("Alarm %1").arg(words) : words;
+        findings.append({urgency, kOwnWords, text, text});
     }
-    return {Urgency::Alarm, Tr::tr("Source unknown")};
 }
 
-// The worst finding beside the supply: an alarm, or a value beyond its threshold.
-std::optional<Condition> worstFinding(const UpsReading& reading, const Thresholds& limits)
+void findAlarms(const UpsReading& reading, ConditionKind kind, QVector<Finding>& findings)
 {
-    constexpr double secondsPerMinute = 60;
-    std::optional<Condition> worst;
-    const auto find = [&worst](Urgency urgency, const QString& text) {
-        if (!worst || urgency > worst->urgency)
-            worst = Condition{urgency, text};
-    };
-    if (const auto alarm = worstAlarm(reading.alarms))
-        find(urgencyOf(*alarm), alarmText(*alarm));
-    if (reading.charge && *reading.charge <= limits.chargeLow)
-        find(*reading.charge <= limits.chargeCritical ? Urgency::Critical : Urgency::Warning,
-             Tr::tr("battery at %1 %").arg(*reading.charge, 0, 'f', 0));
-    const bool isTest = reading.alarms.contains(Alarm::TestInProgress); // the mains are there
-    if (reading.outputSource == OutputSource::Battery && !isTest && reading.runtime &&
-        *reading.runtime <= limits.runtimeLow * secondsPerMinute)
-        find(Urgency::Critical, Tr::tr("little time left"));
-    for (const Value& load : reading.output.load)
-        if (load && *load >= limits.loadHigh)
-            find(Urgency::Warning, Tr::tr("load %1 %").arg(*load, 0, 'f', 0));
-    if (reading.batteryTemperature && *reading.batteryTemperature >= limits.temperatureHigh)
-        find(Urgency::Warning,
-             Tr::tr("battery at %1 \u00b0C").arg(*reading.batteryTemperature, 0, 'f', 0));
-    return worst;
+    const bool battery = kind == ConditionKind::Battery;
+    for (const AlarmRank& rank : kRanks) {
+        const auto said = std::make_pair(kind, rank.alarm);
+        if (!reading.alarms.contains(rank.alarm) ||
+            std::find(std::begin(kSaidByState), std::end(kSaidByState), said) !=
+                std::end(kSaidByState))
+            continue;
+        Finding finding{rank.urgency, static_cast<int>(rank.alarm), alarmText(rank.alarm), {}};
+        finding.after = finding.text;
+        for (const auto& [alarm, after] : kOfBattery)
+            if (battery && alarm == rank.alarm)
+                finding.after = Tr::tr(after);
+        findings.append(finding);
+    }
 }
 
-Condition liveCondition(const UpsReading& reading, const Thresholds& thresholds)
+void findLimits(const UpsReading& reading, ConditionKind kind, Limits limits,
+                QVector<Finding>& findings)
 {
-    Condition condition = supplyCondition(reading.outputSource);
-    const bool test = reading.batteryState == BatteryState::SelfTest &&
-                      reading.outputSource == OutputSource::Battery;
-    if (test)
-        condition = {Urgency::Notice, Tr::tr("Battery test")};
-    const auto finding = worstFinding(reading, thresholds);
-    if (!finding)
+    const bool battery = kind == ConditionKind::Battery;
+    for (const LimitRow& row : kLimits) {
+        const bool saidAlready =
+            row.limit == Limit::ChargeLow && limits.testFlag(Limit::ChargeCritical);
+        const bool matters =
+            row.limit != Limit::RuntimeLow || battery; // what is left of the mains?
+        if (!limits.testFlag(row.limit) || saidAlready || !matters)
+            continue;
+        const auto worded = [&](const char* text) {
+            const QString words = Tr::tr(text);
+            return words.contains(QLatin1String("%1"))
+                       ? words.arg(row.value(reading).value_or(0), 0, 'f', 0)
+                       : words;
+        };
+        findings.append({row.urgency, kLimitSubjects + static_cast<int>(row.limit),
+                         worded(row.text), worded(battery ? row.afterBattery : row.after)});
+    }
+}
+
+// Worst first; of equal urgency the device's own words, then alarms, then thresholds.
+QVector<Finding> findingsOf(const UpsReading& reading, ConditionKind kind, Limits limits)
+{
+    QVector<Finding> findings;
+    findOwnWords(reading, findings);
+    findAlarms(reading, kind, findings);
+    findLimits(reading, kind, limits, findings);
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const Finding& a, const Finding& b) { return a.urgency > b.urgency; });
+    return findings;
+}
+
+Condition stateCondition(ConditionKind kind)
+{
+    const StateRow& row = kStates[static_cast<int>(kind)];
+    Condition condition;
+    condition.kind = kind;
+    condition.urgency = row.urgency;
+    condition.state = Tr::tr(row.text);
+    condition.text = condition.state;
+    return condition;
+}
+
+Condition liveCondition(const UpsReading& reading, const Thresholds& thresholds,
+                        const ConditionPast& past)
+{
+    ConditionKind kind = kKindOfSource[static_cast<int>(reading.outputSource)];
+    if (isExcusedByTest(reading, past.testSeconds))
+        kind = ConditionKind::BatteryTest;
+    Condition condition = stateCondition(kind);
+    const auto findings = findingsOf(reading, kind, limitsBeyond(reading, thresholds, past.limits));
+    if (findings.isEmpty())
         return condition;
-    // What the supply says already is not said twice.
-    if (finding->urgency > condition.urgency)
-        condition = {finding->urgency, condition.text + QStringLiteral(", ") + finding->text};
+    for (const Finding& finding : findings)
+        condition.alarms << finding.text;
+    condition.alarmUrgency = findings.first().urgency;
+
+    // One line has room for one finding: the worst unless the state is worse, and else what only
+    // the device can put into words.
+    const auto* told = std::find_if(findings.begin(), findings.end(), [&](const Finding& f) {
+        return f.urgency >= condition.urgency || f.subject == kOwnWords;
+    });
+    if (told == findings.end())
+        return condition;
+    condition.text = condition.state + QStringLiteral(", ") + told->after;
+    condition.urgency = std::max(condition.urgency, told->urgency);
+    condition.subject = told->subject;
     return condition;
 }
 
 } // namespace
 
-Condition conditionOf(LinkState link, const UpsReading* reading, const Thresholds& thresholds)
+bool isSameCondition(const Condition& a, const Condition& b)
 {
-    switch (link) {
-    case LinkState::Connecting:
-        return {Urgency::Notice, Tr::tr("Connecting")};
-    case LinkState::Stale:
-        return {Urgency::Alarm, Tr::tr("No new data")};
-    case LinkState::Lost:
-        return {Urgency::Alarm, Tr::tr("No answer")};
-    case LinkState::Refused:
-        return {Urgency::Alarm, Tr::tr("Refused")};
-    case LinkState::Live:
-        break;
+    return a.kind == b.kind && a.urgency == b.urgency && a.subject == b.subject;
+}
+
+bool isOfLiveDevice(ConditionKind kind)
+{
+    return kind >= ConditionKind::Mains && kind <= ConditionKind::SourceUnknown;
+}
+
+Limits limitsBeyond(const UpsReading& reading, const Thresholds& thresholds, Limits before)
+{
+    Limits beyond;
+    for (const LimitRow& row : kLimits) {
+        const Value value = row.value(reading);
+        const double margin = before.testFlag(row.limit) ? row.margin : 0;
+        const double bound = row.bound(thresholds);
+        if (value && (row.isUpper ? *value > bound - margin : *value < bound + margin))
+            beyond |= row.limit;
+        if (value == Value(bound))
+            beyond |= row.limit;
     }
-    return reading ? liveCondition(*reading, thresholds)
-                   : Condition{Urgency::Notice, Tr::tr("Connecting")};
+    return beyond;
+}
+
+bool isExcusedByTest(const UpsReading& reading, double testSeconds)
+{
+    return isBatteryTest(reading) && testSeconds <= kLongestTest;
+}
+
+Condition conditionOf(LinkState link, const UpsReading* reading, const Thresholds& thresholds,
+                      const ConditionPast& past)
+{
+    return link == LinkState::Live && reading ? liveCondition(*reading, thresholds, past)
+                                              : stateCondition(kKindOfLink[static_cast<int>(link)]);
 }
 
 std::optional<Alarm> worstAlarm(const QSet<Alarm>& alarms)
@@ -144,4 +313,12 @@ Urgency urgencyOf(Alarm alarm)
     const auto* rank = std::find_if(std::begin(kRanks), std::end(kRanks),
                                     [alarm](const AlarmRank& r) { return r.alarm == alarm; });
     return rank != std::end(kRanks) ? rank->urgency : Urgency::Alarm;
+}
+
+QString urgencyName(const Condition& condition)
+{
+    static const char* const names[] = {"normal", "notice", "warning", "alarm", "critical"};
+    return QLatin1String(condition.kind == ConditionKind::Connecting
+                             ? "unknown"
+                             : names[static_cast<int>(condition.urgency)]);
 }
