@@ -11,11 +11,20 @@
 #include "window/activitywatch.h"
 #include "window/deviceactions.h"
 #include "window/mainwindow.h"
-#include "window/theme.h"
+#include "window/themechoice.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QPalette>
+#include <QIcon>
+
+static QIcon applicationIcon() // outside: the macro does not work in a namespace
+{
+    Q_INIT_RESOURCE(upsdesk);
+    QIcon icon;
+    for (const char* file : {":/upsdesk/upsdesk-48.png", ":/upsdesk/upsdesk-256.png"})
+        icon.addFile(QLatin1String(file));
+    return icon;
+}
 
 namespace {
 
@@ -60,16 +69,6 @@ std::optional<WindowOptions> readOptions()
     return WindowOptions{parser.positionalArguments(), parser.isSet(kiosk), parser.isSet(dark)};
 }
 
-Theme themeOf(ThemeChoice choice)
-{
-    constexpr int darkBelow = 128;
-    // Of the desktop, before a theme of ours has taken its place.
-    static const int lightness = QGuiApplication::palette().color(QPalette::Window).lightness();
-    const bool dark =
-        choice == ThemeChoice::System ? lightness < darkBelow : choice == ThemeChoice::Dark;
-    return dark ? Theme::Dark : Theme::Light;
-}
-
 // What is wrong in the configuration, for the operator; empty when nothing is.
 QString faultText(const DeskConfig& config)
 {
@@ -84,6 +83,42 @@ QString faultText(const DeskConfig& config)
            lines.join(QStringLiteral("; "));
 }
 
+// As it was left; a wall display leaves no traces, and is none of the desk's.
+void openWindow(MainWindow& window, const WindowOptions& options, const WindowState& state)
+{
+    if (options.kiosk)
+        return window.showFullScreen();
+    window.restore(state);
+    window.show();
+}
+
+// The menu's choice goes into the file; a change of the file, from wherever, dresses the window.
+void followTheme(MainWindow& window, WatchList& list, ThemeChoice shown)
+{
+    window.markTheme(shown);
+    const auto dress = [&window](ThemeChoice choice) {
+        applyThemeChoice(choice);
+        window.markTheme(choice);
+    };
+    auto inFile = std::make_shared<ThemeChoice>(list.config().settings().theme);
+    QObject::connect(&list, &WatchList::changed, &window, [&list, dress, inFile] {
+        const ThemeChoice now = list.config().settings().theme;
+        if (now != *inFile)
+            dress(now);
+        *inFile = now;
+    });
+    QObject::connect(&window, &MainWindow::themeChosen, &window, [&, dress](ThemeChoice choice) {
+        dress(choice);
+        const QString reason = list.edit(MainWindow::tr("Theme"), [choice](DeskConfig& edited) {
+            DeskSettings settings = edited.settings();
+            settings.theme = choice;
+            return edited.setSettings(settings);
+        });
+        if (!reason.isEmpty())
+            window.tell(reason, true);
+    });
+}
+
 int runWindow(const WindowOptions& options)
 {
     QVector<DeviceSettings> devices;
@@ -94,8 +129,10 @@ int runWindow(const WindowOptions& options)
         devices << *settings;
     }
 
+    const WindowState state = options.kiosk ? WindowState() : WindowState::load();
     const DeskConfig config = DeskConfig::load();
-    applyTheme(themeOf(options.dark ? ThemeChoice::Dark : config.settings().theme));
+    const ThemeChoice theme = options.dark ? ThemeChoice::Dark : config.settings().theme;
+    applyThemeChoice(theme);
     OperatorSession session;
     ActivityWatch watch(session);
     Fleet fleet(makeConnector);
@@ -118,6 +155,7 @@ int runWindow(const WindowOptions& options)
     QObject::connect(&list, &WatchList::secretsFailed, &window,
                      [&window](const QString& text) { window.tell(text, true); });
     QObject::connect(&list, &WatchList::changed, &session, [&] { follow(list.config()); });
+    followTheme(window, list, theme);
     if (!options.kiosk)
         window.setActions(new DeviceActions(fleet, list, makeConnector, &window));
     for (const DeviceSettings& settings : qAsConst(devices))
@@ -125,14 +163,14 @@ int runWindow(const WindowOptions& options)
     if (devices.isEmpty())
         list.load();
     if (fleet.count() == 0)
-        fleet.add(*settingsForAddress(QStringLiteral("sim:")));
+        window.setSimulation(fleet.add(*settingsForAddress(QStringLiteral("sim:"))));
     if (fleet.count() == 1 && !options.kiosk)
         window.openDevice(fleet.at(0));
-    if (options.kiosk)
-        window.showFullScreen();
-    else
-        window.show();
-    return QApplication::exec();
+    openWindow(window, options, state);
+    const int result = QApplication::exec();
+    if (!options.kiosk)
+        window.state().save();
+    return result;
 }
 
 } // namespace
@@ -152,6 +190,8 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication app(argc, argv);
+    QApplication::setWindowIcon(applicationIcon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("upsdesk"));
     if (isSubcommand(mode))
         return runSubcommand(QApplication::arguments());
     const auto options = readOptions();

@@ -79,6 +79,7 @@ struct ShownPage {
         window.resize(1024, 768);
         page->resize(window.size());
         window.show();
+        page->finishViews();
     }
     DevicePage* operator->() const { return page; }
 
@@ -166,6 +167,8 @@ void TestDevicePage::levelFollowsTheOperator()
     Device& simulated = desk.add("sim:");
     DevicePage realPage(real, desk.commands);
     DevicePage simulatedPage(simulated, desk.commands);
+    for (DevicePage* page : {&realPage, &simulatedPage})
+        page->finishViews();
     QVERIFY(!realPage.findChild<SetInfoForm*>()->isEnabled());
     QVERIFY(simulatedPage.findChild<SetInfoForm*>()->isEnabled());
     desk.who = {"anna", 1};
@@ -178,6 +181,7 @@ void TestDevicePage::confirmedCommandReachesTheConnector()
     Desk desk;
     Device& device = desk.add("sim:", "Rack 3");
     DevicePage page(device, desk.commands);
+    page.finishViews();
     QTimer::singleShot(0, [] {
         if (auto* box = qobject_cast<MsgBox*>(QApplication::activeModalWidget()))
             box->accept();
@@ -273,6 +277,7 @@ void TestDevicePage::wallDisplayCommandsNothing()
     OperatorSession session;
     MainWindow window(desk.fleet, desk.commands, desk.log, session, MainWindow::Mode::Kiosk);
     window.openDevice(&device);
+    window.currentPage()->finishViews();
     QVERIFY(!window.currentPage()->findChild<SetInfoForm*>()->isEnabled());
     desk.commands.post(&device, 1003, {});
     QVERIFY(desk.connectors[0]->sent.isEmpty());

@@ -26,16 +26,14 @@ ChildForm::ChildForm(CollectView* parent)
     , pre_lostflag(kLostFlagUnknown)
     , Tab_No(EnergyTab)
 {
-    rtData = new Energyline(this);
-    rtEvent = new RTEventForm(this);
-    rateInfo = new RateInfoForm(this);
-    setInfo = new SetInfoForm(this);
-
+    // A widget that changes its parent is styled anew with all that is in it: each page is handed
+    // over once, and the largest last.
     ui->setupUi(this);
     setAutoFillBackground(true);
-
+    rtData = new Energyline(nullptr);
+    rtEvent = new RTEventForm(nullptr);
+    setInfo = new SetInfoForm(nullptr);
     auto* rateInfoArea = new QScrollArea;
-    rateInfoArea->setWidget(rateInfo);
     rateInfoArea->setAutoFillBackground(true);
     rateInfoArea->setWidgetResizable(true);
 
@@ -43,6 +41,8 @@ ChildForm::ChildForm(CollectView* parent)
     ui->tabWidget->insertTab(AlarmTab, rtEvent, tr("RT-Alarm"));
     ui->tabWidget->insertTab(DetailTab, rateInfoArea, tr("Detail"));
     ui->tabWidget->insertTab(ControlTab, setInfo, tr("Control"));
+    rateInfo = new RateInfoForm(nullptr);
+    rateInfoArea->setWidget(rateInfo);
     // Renamed only now: setupUi connects the slot by the designer's name, style sheets use this
     // one.
     ui->tabWidget->setObjectName(QStringLiteral("devStacketTable"));

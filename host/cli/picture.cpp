@@ -102,6 +102,7 @@ int runPicture(const QStringList& arguments)
     page.resize(size);
     page.setAttribute(Qt::WA_DontShowOnScreen);
     page.show();
+    page.finishViews();
     page.showView(DevicePage::ChartView);
     QApplication::processEvents();
     for (int i = 0; i < kChartReadings; ++i) {

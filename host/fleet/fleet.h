@@ -24,6 +24,9 @@ public:
                    QObject* parent = nullptr);
     ~Fleet() override;
 
+    // What makes the connectors of its devices: to try settings in the same way.
+    const ConnectorMaker& connectorMaker() const { return m_maker; }
+
     int count() const { return static_cast<int>(m_devices.size()); }
     // index: 0 to count() - 1.
     Device* at(int index) const { return m_devices[static_cast<std::size_t>(index)].get(); }

@@ -285,21 +285,12 @@ void DeviceDialog::stopTest()
 void DeviceDialog::showTestResult()
 {
     const Device& device = m_test->device();
-    const QString condition = device.condition().text;
-    if (device.link() != LinkState::Live) {
-        const QString cause = device.message();
-        m_message->say(cause.isEmpty() ? condition : condition + QStringLiteral(": ") + cause,
-                       DialogMessage::Tone::Bad);
-    } else {
-        QStringList words{condition, tr("Battery %1").arg(chargeText(device.reading()))};
-        if (!device.reading()->model.isEmpty())
-            words.prepend(device.reading()->model);
-        QString text = tr("Live: %1").arg(words.join(QStringLiteral("  \u00b7  ")));
-        if (!device.settings().user.isEmpty())
-            text += QLatin1Char('\n') +
-                    tr("The server looks at user and password only when a command is sent.");
-        m_message->say(text, DialogMessage::Tone::Good);
-    }
+    QString text = testResultText(device);
+    const bool live = device.link() == LinkState::Live;
+    if (live && !device.settings().user.isEmpty())
+        text += QLatin1Char('\n') +
+                tr("The server looks at user and password only when a command is sent.");
+    m_message->say(text, live ? DialogMessage::Tone::Good : DialogMessage::Tone::Bad);
     stopTest();
 }
 

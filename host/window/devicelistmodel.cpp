@@ -105,14 +105,28 @@ QMap<Urgency, int> DeviceListModel::counts() const
     return counts;
 }
 
-QString DeviceListModel::countsText() const
+QVector<QPair<Urgency, QString>> DeviceListModel::countWords() const
 {
     const auto numbers = counts();
-    QStringList words;
+    QVector<QPair<Urgency, QString>> words;
     for (const CountWord& word : kCountWords)
         if (const int number = numbers.value(word.urgency))
-            words << tr(word.word).arg(number);
+            words << qMakePair(word.urgency, tr(word.word).arg(number));
+    return words;
+}
+
+QString DeviceListModel::countsText() const
+{
+    QStringList words;
+    for (const auto& count : countWords())
+        words << count.second;
     return words.join(QStringLiteral("  \u00b7  "));
+}
+
+QModelIndex DeviceListModel::indexOf(const Device* device) const
+{
+    const int row = device ? m_fleet.indexOf(device) : -1;
+    return row >= 0 && row < m_rows ? index(row) : QModelIndex();
 }
 
 Device* DeviceListModel::deviceAt(const QModelIndex& index)

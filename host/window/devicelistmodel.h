@@ -28,8 +28,11 @@ public:
 
     // Number of devices of each urgency, and the same in words, worst first.
     QMap<Urgency, int> counts() const;
+    QVector<QPair<Urgency, QString>> countWords() const; // "2 alarm"
     QString countsText() const;
 
+    // Invalid for a device that is not (or no longer) in the fleet, and for null.
+    QModelIndex indexOf(const Device* device) const;
     static Device* deviceAt(const QModelIndex& index);
 
 signals:

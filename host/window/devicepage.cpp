@@ -10,11 +10,14 @@
 #include "energyline.h"
 #include "rtdataform.h"
 
+#include <QEvent>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,6 +25,14 @@ namespace {
 constexpr QSize kWholeDiagram(760, 685);
 
 constexpr char kDiagramGround[] = "#e6e9f2";
+
+// Longer than a held key takes for its next stroke: a page that is only passed builds nothing.
+constexpr int kBeforeFirstPieceMs = 50;
+constexpr int kBetweenPiecesMs = 2;
+
+// Tabs of the device view.
+constexpr int kEnergyFlowTab = 0;
+constexpr int kControlTab = 3;
 
 enum ChartPage { SinglePhasePage, ThreePhasePage };
 
@@ -32,19 +43,43 @@ bool isThreePhase(const UpsReading& reading)
 }
 
 // A view keeps its least size, its own or a larger one, and scrolls where the window is smaller.
-QScrollArea* scrolled(QWidget* view, QSize leastSize)
+QScrollArea* makePlace()
 {
     auto* area = new QScrollArea;
     area->setObjectName(QStringLiteral("ViewArea"));
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
-    if (!leastSize.isEmpty())
-        view->setMinimumSize(leastSize);
-    area->setWidget(view);
     return area;
 }
 
 } // namespace
+
+const QVector<DevicePage::Page>& DevicePage::pages()
+{
+    static const QVector<Page> pages{
+        {QT_TR_NOOP("Energy flow"), DeviceView, kEnergyFlowTab},
+        {QT_TR_NOOP("Alarms"), DeviceView, 1},
+        {QT_TR_NOOP("Detail"), DeviceView, 2},
+        {QT_TR_NOOP("Control"), DeviceView, kControlTab},
+        {QT_TR_NOOP("Charts"), ChartView, -1},
+        {QT_TR_NOOP("Table"), TableView, -1},
+    };
+    return pages;
+}
+
+struct DevicePage::ViewRow {
+    const char* title;
+    QWidget* (DevicePage::*make)();
+    void (DevicePage::*feed)();
+    bool isMadeAhead; // it has something to gather before it is opened
+};
+
+// In the order of View.
+const DevicePage::ViewRow DevicePage::kViews[] = {
+    {QT_TR_NOOP("Device"), &DevicePage::makeDeviceView, &DevicePage::feedDeviceView, false},
+    {QT_TR_NOOP("Charts"), &DevicePage::makeCharts, &DevicePage::feedCharts, true},
+    {QT_TR_NOOP("Table"), &DevicePage::makeTable, &DevicePage::feedTable, false},
+};
 
 DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     : QWidget(parent)
@@ -54,18 +89,17 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     , m_band(new LinkBand)
     , m_viewTabs(new QTabBar)
     , m_stack(new QStackedWidget)
-    , m_view(new ChildForm)
-    , m_charts(new ChartForm(nullptr))
-    , m_table(new RTDataForm)
 {
     m_viewTabs->setObjectName(QStringLiteral("ViewTabs"));
     m_viewTabs->setExpanding(false);
     m_viewTabs->setDrawBase(false);
-    m_stack->addWidget(scrolled(m_view, kWholeDiagram));
-    m_stack->addWidget(scrolled(m_charts, {}));
-    m_stack->addWidget(m_table);
-    for (const QString& text : {tr("Device"), tr("Charts"), tr("Table")})
-        m_viewTabs->addTab(text);
+    for (const ViewRow& row : kViews) {
+        m_viewTabs->addTab(tr(row.title));
+        Building building;
+        building.place = makePlace();
+        m_stack->addWidget(building.place);
+        m_buildings << building;
+    }
     m_cover = new LinkCover(m_stack);
 
     auto* column = new QVBoxLayout(this);
@@ -76,31 +110,120 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     column->addWidget(m_viewTabs);
     column->addWidget(m_stack, 1);
 
-    // The theme's ground takes the place of the view's own, except under the diagram: its colours
-    // are made for a light one, and its idle wiring would vanish on white.
-    m_view->setStyleSheet(
-        QStringLiteral("* { background-color: %1; } Energyline { background: %2; }")
-            .arg(palette().color(QPalette::Window).name(), kDiagramGround));
-    m_view->findChild<Energyline*>()->setAttribute(Qt::WA_StyledBackground);
-    const QString name = device.name();
-    m_view->setName(name);
-    m_charts->setCurrentName(name);
-    m_table->setCurrentName(name);
-    m_table->InitRTDataFormInfo();
-    refreshOperator();
+    connect(&m_builder, &QTimer::timeout, this, &DevicePage::buildPiece);
+    connect(m_viewTabs, &QTabBar::currentChanged, this, &DevicePage::switchView);
+}
 
-    connect(m_viewTabs, &QTabBar::currentChanged, this, [this](int view) {
-        m_stack->setCurrentIndex(view);
-        refresh();
-    });
+// Making the views
+
+QWidget* DevicePage::makeDeviceView()
+{
+    m_view = new ChildForm;
+    m_view->findChild<Energyline*>()->setAttribute(Qt::WA_StyledBackground);
+    m_view->setName(m_device.name());
+    colorDeviceView();
+    refreshOperator();
     m_viewPages = m_view->findChild<QTabWidget*>(QStringLiteral("devStacketTable"));
+    m_viewPages->setCurrentIndex(m_tab);
     // The pages disagree about units: the one that becomes current gets a snapshot of its own.
-    connect(m_viewPages, &QTabWidget::currentChanged, this, &DevicePage::feedDeviceView);
+    connect(m_viewPages, &QTabWidget::currentChanged, this, [this](int tab) {
+        m_tab = tab;
+        feedDeviceView();
+        emit pageChanged(currentPage());
+    });
     connect(m_view, &CollectView::postDEvent, this,
             [this](int code, const QMap<QString, QVariant>& command) {
                 m_desk.post(&m_device, code, command);
             });
+    m_view->setMinimumSize(kWholeDiagram);
+    return m_view;
 }
+
+QWidget* DevicePage::makeCharts()
+{
+    m_charts = new ChartForm(nullptr);
+    m_charts->setCurrentName(m_device.name());
+    return m_charts;
+}
+
+QWidget* DevicePage::makeTable()
+{
+    m_table = new RTDataForm;
+    m_table->setCurrentName(m_device.name());
+    m_table->InitRTDataFormInfo();
+    return m_table;
+}
+
+void DevicePage::buildPiece()
+{
+    m_builder.setInterval(kBetweenPiecesMs);
+    if (buildPieceOf(m_stack->currentIndex()))
+        return;
+    for (int view = 0; view < m_buildings.size(); ++view)
+        if (kViews[view].isMadeAhead && buildPieceOf(view))
+            return;
+    m_builder.stop();
+}
+
+bool DevicePage::buildPieceOf(int view)
+{
+    Building& building = m_buildings[view];
+    if (building.isReady)
+        return false;
+    if (!building.widget) {
+        building.widget = (this->*kViews[view].make)();
+        return true;
+    }
+    if (!building.place->widget()) {
+        building.place->setWidget(building.widget);
+        return true;
+    }
+    building.isReady = true;
+    feed(view);
+    return true;
+}
+
+void DevicePage::finishViews()
+{
+    for (int view = 0; view < m_buildings.size(); ++view)
+        while (buildPieceOf(view)) {
+        }
+}
+
+// The theme's ground takes the place of the view's own, except under the diagram: its colours
+// are made for a light one, and its idle wiring would vanish on white.
+void DevicePage::colorDeviceView()
+{
+    const QColor ground = palette().color(QPalette::Window);
+    if (!m_view || ground == m_ground)
+        return;
+    m_ground = ground;
+    m_view->setStyleSheet(
+        QStringLiteral("* { background-color: %1; } Energyline { background: %2; }")
+            .arg(ground.name(), kDiagramGround));
+}
+
+void DevicePage::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colorDeviceView();
+}
+
+void DevicePage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    refresh();
+    m_builder.start(kBeforeFirstPieceMs);
+}
+
+void DevicePage::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    m_builder.stop();
+}
+
+// Choosing
 
 void DevicePage::showView(View view)
 {
@@ -109,43 +232,74 @@ void DevicePage::showView(View view)
 
 void DevicePage::showTab(int tab)
 {
-    m_viewPages->setCurrentIndex(tab);
+    m_tab = tab;
+    if (m_viewPages)
+        m_viewPages->setCurrentIndex(tab);
 }
+
+void DevicePage::showPage(int page)
+{
+    const Page wanted = pages().at(page);
+    if (wanted.tab >= 0)
+        showTab(wanted.tab);
+    showView(wanted.view);
+}
+
+int DevicePage::currentPage() const
+{
+    int number = 0;
+    for (const Page& page : pages()) {
+        if (page.view == m_viewTabs->currentIndex() && (page.tab < 0 || page.tab == m_tab))
+            return number;
+        ++number;
+    }
+    return 0;
+}
+
+int DevicePage::controlPage()
+{
+    const auto control = std::find_if(pages().begin(), pages().end(), [](const Page& page) {
+        return page.view == DeviceView && page.tab == kControlTab;
+    });
+    return static_cast<int>(control - pages().begin());
+}
+
+void DevicePage::switchView(int view)
+{
+    m_stack->setCurrentIndex(view);
+    refresh();
+    if (isVisible())
+        m_builder.start(kBetweenPiecesMs);
+    emit pageChanged(currentPage());
+}
+
+// Feeding
 
 void DevicePage::refreshOperator()
 {
-    m_view->setUserInfo(QString(), m_desk.levelFor(m_device));
-}
-
-void DevicePage::showEvent(QShowEvent* event)
-{
-    QWidget::showEvent(event);
-    refresh();
+    if (m_view)
+        m_view->setUserInfo(QString(), m_desk.levelFor(m_device));
 }
 
 void DevicePage::refresh()
 {
-    feedCharts();
-    switch (m_stack->currentIndex()) {
-    case DeviceView:
-        feedDeviceView();
-        break;
-    case TableView:
-        if (m_device.reading())
-            m_table->RefreshRTDataInfo(m_device.snapshot(SnapshotPage::Chart));
-        break;
-    default:
-        break;
-    }
+    for (int view = 0; view < m_buildings.size(); ++view)
+        if (kViews[view].isMadeAhead || view == m_stack->currentIndex())
+            feed(view);
     refreshAge();
+}
+
+void DevicePage::feed(int view)
+{
+    if (m_buildings.at(view).isReady && m_device.reading())
+        (this->*kViews[view].feed)();
 }
 
 void DevicePage::feedDeviceView()
 {
     if (!m_device.reading())
         return;
-    constexpr int energyFlowTab = 0;
-    const bool energyFlow = m_viewPages->currentIndex() == energyFlowTab;
+    const bool energyFlow = m_viewPages->currentIndex() == kEnergyFlowTab;
     m_view->flushData(
         m_device.snapshot(energyFlow ? SnapshotPage::EnergyFlow : SnapshotPage::Device));
     m_view->refreshData();
@@ -153,7 +307,7 @@ void DevicePage::feedDeviceView()
 
 void DevicePage::feedCharts()
 {
-    if (!m_device.reading() || m_device.readingNumber() == m_chartedReading)
+    if (m_device.readingNumber() == m_chartedReading)
         return;
     const int page = isThreePhase(*m_device.reading()) ? ThreePhasePage : SinglePhasePage;
     if (m_chartedReading < 0 || m_charts->getCurrentIndex() != page) {
@@ -162,6 +316,11 @@ void DevicePage::feedCharts()
     }
     m_chartedReading = m_device.readingNumber();
     m_charts->refreshFormInfo(m_device.snapshot(SnapshotPage::Chart));
+}
+
+void DevicePage::feedTable()
+{
+    m_table->RefreshRTDataInfo(m_device.snapshot(SnapshotPage::Chart));
 }
 
 void DevicePage::refreshAge()

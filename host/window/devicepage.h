@@ -6,6 +6,8 @@
 
 #include "fleet/commanddesk.h"
 
+#include <QTimer>
+#include <QVector>
 #include <QWidget>
 
 class ChartForm;
@@ -13,18 +15,28 @@ class ChildForm;
 class DeviceHeading;
 class LinkBand;
 class LinkCover;
-class QLabel;
+class QScrollArea;
 class QTabBar;
 class QStackedWidget;
 class QTabWidget;
 class RTDataForm;
 
+// The heading is there at once; the views are made when they are needed, in pieces that leave the
+// GUI thread free between them, and only while the page is on show.
 class DevicePage : public QWidget
 {
     Q_OBJECT
 
 public:
     enum View { DeviceView, ChartView, TableView };
+
+    // What can be opened by number: the tabs of the device view, then the other views.
+    struct Page {
+        const char* title;
+        View view;
+        int tab; // of the device view; -1: of another view
+    };
+    static const QVector<Page>& pages();
 
     // The device must outlive the page.
     DevicePage(Device& device, CommandDesk& desk, QWidget* parent = nullptr);
@@ -34,6 +46,10 @@ public:
     void showView(View view);
     // 0 energy flow, 1 alarms, 2 detail, 3 control.
     void showTab(int tab);
+    // The same by number in pages().
+    void showPage(int page);
+    int currentPage() const;
+    static int controlPage();
 
     // Shows what the device knows now; adds a sample to the charts when the reading is new.
     void refresh();
@@ -41,14 +57,42 @@ public:
     void refreshAge();
     // Somebody logged in or out.
     void refreshOperator();
+    // Makes all views now: for pictures and whoever else cannot wait for the pieces.
+    void finishViews();
+
+signals:
+    // Another page is on show, by the operator's choice or by showPage().
+    void pageChanged(int page);
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
-    // Gives the device view the snapshot of the page that is current there, then shows it.
+    struct ViewRow;
+    static const ViewRow kViews[];
+
+    // A view on its way: made, then put into its place, then fed.
+    struct Building {
+        QScrollArea* place = nullptr; // in the stack
+        QWidget* widget = nullptr;    // null: not begun
+        bool isReady = false;
+    };
+
+    QWidget* makeDeviceView();
+    QWidget* makeCharts();
+    QWidget* makeTable();
     void feedDeviceView();
     void feedCharts();
+    void feedTable();
+
+    void buildPiece();
+    // Takes the view one piece further; false: it is ready.
+    bool buildPieceOf(int view);
+    void feed(int view);
+    void switchView(int view);
+    void colorDeviceView();
 
     Device& m_device;
     CommandDesk& m_desk;
@@ -56,11 +100,15 @@ private:
     LinkBand* m_band;
     QTabBar* m_viewTabs;
     QStackedWidget* m_stack;
-    ChildForm* m_view;
-    QTabWidget* m_viewPages; // the device view's own tabs
-    ChartForm* m_charts;
-    RTDataForm* m_table;
     LinkCover* m_cover;
+    ChildForm* m_view = nullptr;
+    QTabWidget* m_viewPages = nullptr; // the device view's own tabs
+    ChartForm* m_charts = nullptr;
+    RTDataForm* m_table = nullptr;
+    QVector<Building> m_buildings; // in the order of kViews
+    QTimer m_builder;
+    QColor m_ground;              // of the device view, as last set
+    int m_tab = 0;                // of the device view, also while there is none yet
     qint64 m_chartedReading = -1; // number of the reading that the charts saw last
 };
 

@@ -1,32 +1,35 @@
 #include "window/mainwindow.h"
 
+#include "window/clipboardtext.h"
+#include "window/deskmenu.h"
 #include "window/deviceactions.h"
 #include "window/devicelistmodel.h"
 #include "window/devicepage.h"
-#include "window/devicerowdelegate.h"
-#include "window/devicesortmodel.h"
-#include "window/eventlistmodel.h"
+#include "window/eventdock.h"
+#include "window/firstrunstrip.h"
+#include "window/helpdialogs.h"
 #include "window/logindialog.h"
-#include "window/operatorbar.h"
 #include "window/overviewpage.h"
+#include "window/pagestack.h"
 #include "window/resultbanner.h"
+#include "window/sidepanel.h"
+#include "window/valuewords.h"
+#include "window/walldisplay.h"
 
-#include <QCheckBox>
-#include <QDockWidget>
-#include <QHeaderView>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
-#include <QStackedWidget>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr QSize kFirstSize(1240, 900);
+constexpr QSize kFirstSize(1240, 900); // where the screen has room
+constexpr int kFrame = 40;             // px that a window's title and borders may take
 constexpr int kSideWidth = 245;
 constexpr int kEventListHeight = 120;
 
@@ -40,213 +43,280 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorS
     , m_log(log)
     , m_session(session)
     , m_model(new DeviceListModel(fleet, this))
-    , m_sorted(new DeviceSortModel(this))
-    , m_list(new QListView)
-    , m_counts(new QLabel)
-    , m_pages(new QStackedWidget)
     , m_overview(new OverviewPage(*m_model))
-    , m_overviewButton(new QPushButton(tr("&All devices")))
+    , m_pages(nullptr)
     , m_banner(new ResultBanner)
+    , m_strip(new FirstRunStrip(fleet))
 {
     setWindowTitle(tr("upsdesk"));
-    resize(kFirstSize);
-    m_sorted->setSourceModel(m_model);
-
-    m_pages->addWidget(m_overview);
-    m_overviewButton->setObjectName(QStringLiteral("OverviewButton"));
+    if (mode == Mode::Kiosk)
+        setUpWall();
+    else
+        setUpDesk();
     connect(m_overview, &OverviewPage::deviceChosen, this, &MainWindow::openDevice);
-    connect(m_overviewButton, &QPushButton::clicked, this, &MainWindow::openOverview);
+    followFleet();
+    followCommands();
+    connect(&session, &OperatorSession::changed, this, &MainWindow::operatorChanged);
+    openOverview();
+    fitScreen();
+}
 
+MainWindow::~MainWindow() = default;
+
+// Building
+
+void MainWindow::setUpDesk()
+{
+    m_pages = new PageStack(m_desk, m_overview);
+    m_side = new SidePanel(*m_model, m_session);
+    connect(m_side, &SidePanel::overviewWanted, this, &MainWindow::openOverview);
+    connect(m_side, &SidePanel::loginWanted, this, &MainWindow::askWhoIsThere);
+    connect(m_side, &SidePanel::deviceSelected, this, [this](Device* device) {
+        if (device)
+            openDevice(device);
+        choiceChanged();
+    });
+
+    m_splitter = new QSplitter;
+    m_splitter->setObjectName(QStringLiteral("Splitter"));
+    m_splitter->addWidget(m_side);
+    m_splitter->addWidget(makeRightSide());
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes({kSideWidth, kFirstSize.width() - kSideWidth});
+    m_splitter->setChildrenCollapsible(false);
+    setCentralWidget(m_splitter);
+
+    m_events = new EventDock(m_log);
+    addDockWidget(Qt::BottomDockWidgetArea, m_events);
+    connect(m_events, &EventDock::cameUp, this,
+            [this] { resizeDocks({m_events}, {kEventListHeight}, Qt::Vertical); });
+    setUpMenu();
+}
+
+void MainWindow::setUpWall()
+{
+    m_desk.lock();
+    m_strip->offerNothing();
+    m_pages = new PageStack(m_desk, new WallDisplay(m_overview, *m_model));
+    m_wayBack = new QPushButton(tr("&All devices"));
+    m_wayBack->setObjectName(QStringLiteral("OverviewButton"));
+    connect(m_wayBack, &QPushButton::clicked, this, &MainWindow::openOverview);
+    connect(m_pages, &PageStack::currentChanged, m_wayBack,
+            [this] { m_wayBack->setVisible(currentPage()); });
+    setCentralWidget(makeRightSide());
+}
+
+QWidget* MainWindow::makeRightSide()
+{
     auto* right = new QWidget;
     auto* column = new QVBoxLayout(right);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    if (mode == Mode::Kiosk)
-        column->addWidget(m_overviewButton);
+    if (m_wayBack)
+        column->addWidget(m_wayBack);
+    column->addWidget(m_strip);
     column->addWidget(m_pages, 1);
     column->addWidget(m_banner);
+    return right;
+}
 
-    if (mode == Mode::Kiosk) {
-        constexpr double acrossTheRoom = 2.5;
-        m_overview->setLargestScale(acrossTheRoom);
-        // The way back, needed only on a device's page.
-        connect(m_pages, &QStackedWidget::currentChanged, m_overviewButton,
-                [this] { m_overviewButton->setVisible(currentPage()); });
-        m_overviewButton->hide();
-        for (QWidget* deskOnly : {static_cast<QWidget*>(m_list), static_cast<QWidget*>(m_counts)}) {
-            deskOnly->setParent(this);
-            deskOnly->hide();
-        }
-        desk.lock();
-        setCentralWidget(right);
-    } else {
-        auto* splitter = new QSplitter;
-        splitter->addWidget(makeSidePanel());
-        splitter->addWidget(right);
-        splitter->setStretchFactor(1, 1);
-        splitter->setSizes({kSideWidth, kFirstSize.width() - kSideWidth});
-        splitter->setChildrenCollapsible(false);
-        setCentralWidget(splitter);
-        addDockWidget(Qt::BottomDockWidgetArea, makeEventDock());
+struct MainWindow::ItemRow {
+    DeskMenu::Item item;
+    void (MainWindow::*act)();
+    void (MainWindow::*turn)(bool on); // of a switch
+};
+
+const MainWindow::ItemRow MainWindow::kItems[] = {
+    {DeskMenu::AllDevices, &MainWindow::openOverview, nullptr},
+    {DeskMenu::Filter, &MainWindow::findInList, nullptr},
+    {DeskMenu::ShowList, nullptr, &MainWindow::showList},
+    {DeskMenu::ShowEvents, nullptr, &MainWindow::showEvents},
+    {DeskMenu::FullScreen, nullptr, &MainWindow::showFull},
+    {DeskMenu::OpenDevice, &MainWindow::openSelected, nullptr},
+    {DeskMenu::TestConnection, &MainWindow::testConnection, nullptr},
+    {DeskMenu::PollNow, &MainWindow::pollNow, nullptr},
+    {DeskMenu::Commands, &MainWindow::openCommands, nullptr},
+    {DeskMenu::Copy, &MainWindow::copy, nullptr},
+    {DeskMenu::Shortcuts, &MainWindow::showHelpOnKeys, nullptr},
+    {DeskMenu::Places, &MainWindow::showHelpOnPlaces, nullptr},
+    {DeskMenu::About, &MainWindow::showHelpOnVersion, nullptr},
+};
+
+void MainWindow::setUpMenu()
+{
+    m_menu = new DeskMenu;
+    setMenuBar(m_menu);
+    m_menu->action(DeskMenu::ShowList)->setChecked(true);
+    m_menu->action(DeskMenu::ShowEvents)->setChecked(true);
+    for (const ItemRow& row : kItems) {
+        QAction* action = m_menu->action(row.item);
+        if (row.turn)
+            connect(action, &QAction::toggled, this, row.turn);
+        else
+            connect(action, &QAction::triggered, this, row.act);
     }
-    openOverview();
+    connect(m_menu->action(DeskMenu::Quit), &QAction::triggered, this, &QWidget::close);
+    m_menu->action(DeskMenu::FindDevices)->setVisible(false); // until there is a list to add to
+    connect(m_events, &EventDock::wantedChanged, m_menu->action(DeskMenu::ShowEvents),
+            &QAction::setChecked);
+    connect(m_menu, &DeskMenu::pageChosen, this, [this](int page) {
+        m_pages->setPage(page);
+        if (!currentPage())
+            openSelected();
+    });
+    connect(m_pages, &PageStack::pageChanged, m_menu, &DeskMenu::markPage);
+    connect(m_menu, &DeskMenu::themeChosen, this, &MainWindow::themeChosen);
+}
 
-    connect(&fleet, &Fleet::devicePolled, this, [this](Device* device) {
+void MainWindow::followFleet()
+{
+    connect(&m_fleet, &Fleet::devicePolled, this, [this](Device* device) {
         DevicePage* page = currentPage();
         if (page && &page->device() == device && page->isVisible())
             page->refresh();
     });
-    connect(&fleet, &Fleet::ticked, this, [this] {
-        m_list->viewport()->update(); // ages
+    connect(&m_fleet, &Fleet::ticked, this, [this] {
+        if (m_side)
+            m_side->refreshAges();
         m_overview->refreshAge();
         if (DevicePage* page = currentPage())
             page->refreshAge();
     });
-    connect(&fleet, &Fleet::deviceAboutToBeRemoved, this,
-            [this](int index) { forget(m_fleet.at(index)); });
-    connect(&fleet, &Fleet::deviceReplaced, this, [this](int index) {
+    connect(&m_fleet, &Fleet::deviceAboutToBeRemoved, this, [this](int index) {
+        m_reopenReplaced = m_pages->forget(m_fleet.at(index));
+        if (m_reopenReplaced)
+            openOverview();
+    });
+    connect(&m_fleet, &Fleet::deviceReplaced, this, [this](int index) {
         if (m_reopenReplaced)
             openDevice(m_fleet.at(index));
     });
-    connect(&desk, &CommandDesk::finished, this,
+}
+
+void MainWindow::followCommands()
+{
+    connect(&m_desk, &CommandDesk::finished, this,
             [this](const QString& device, const QString& command, const QString& outcome,
                    const QString& message, bool isBad) {
                 const QString head = QStringLiteral("%1: %2: %3").arg(device, command, outcome);
                 tell(message.isEmpty() ? head : head + QStringLiteral(". ") + message, isBad);
             });
-    connect(&desk, &CommandDesk::sent, this, [this](const QString& device, const QString& command) {
-        tell(tr("%1: %2: sent, waiting for the result").arg(device, command), false);
-    });
-    connect(&session, &OperatorSession::changed, this, &MainWindow::operatorChanged);
-}
-
-QWidget* MainWindow::makeSidePanel()
-{
-    auto* panel = new QWidget;
-    panel->setObjectName(QStringLiteral("SidePanel"));
-    panel->setMinimumWidth(200);
-
-    auto* filter = new QLineEdit;
-    filter->setPlaceholderText(tr("Filter by name, address or state"));
-    filter->setClearButtonEnabled(true);
-    connect(filter, &QLineEdit::textChanged, m_sorted,
-            &QSortFilterProxyModel::setFilterFixedString);
-
-    auto* worstFirst = new QCheckBox(tr("Worst first"));
-    connect(worstFirst, &QCheckBox::toggled, m_sorted, &DeviceSortModel::setWorstFirst);
-
-    m_list->setObjectName(QStringLiteral("DeviceList"));
-    m_list->setAccessibleName(tr("Devices"));
-    m_list->setModel(m_sorted);
-    m_list->setItemDelegate(new DeviceRowDelegate(m_list));
-    m_list->setUniformItemSizes(true);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& index) {
-                Device* device = index.isValid() ? DeviceListModel::deviceAt(index) : nullptr;
-                if (m_actions)
-                    m_actions->setCurrent(device);
-                if (device)
-                    openDevice(device);
+    connect(&m_desk, &CommandDesk::sent, this,
+            [this](const QString& device, const QString& command) {
+                tell(tr("%1: %2: sent, waiting for the result").arg(device, command), false);
             });
-
-    m_counts->setObjectName(QStringLiteral("CountsLabel"));
-    m_counts->setWordWrap(true);
-    connect(m_model, &DeviceListModel::refreshed, this,
-            [this] { m_counts->setText(m_model->countsText()); });
-    m_counts->setText(m_model->countsText());
-
-    auto* who = new OperatorBar(m_session);
-    connect(who, &OperatorBar::loginWanted, this, &MainWindow::askWhoIsThere);
-
-    auto* column = new QVBoxLayout(panel);
-    m_sideColumn = column;
-    column->setContentsMargins(0, 8, 0, 8);
-    auto* head = new QVBoxLayout;
-    head->setContentsMargins(8, 0, 8, 0);
-    head->addWidget(m_overviewButton);
-    head->addWidget(filter);
-    head->addWidget(worstFirst);
-    column->addLayout(head);
-    column->addWidget(m_list, 1);
-    auto* foot = new QVBoxLayout;
-    foot->setContentsMargins(8, 0, 8, 0);
-    foot->addWidget(m_counts);
-    foot->addWidget(who);
-    column->addLayout(foot);
-    return panel;
 }
 
 void MainWindow::setActions(DeviceActions* actions)
 {
     m_actions = actions;
-    constexpr int belowTheList = 2;
-    m_sideColumn->insertWidget(belowTheList, actions->makeButtons());
-    m_list->addActions(actions->actions());
-    m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_side->setActions(actions);
+    m_menu->addFirst(DeskMenu::FileMenu, {actions->addAction()});
+    m_menu->addFirst(DeskMenu::DeviceMenu,
+                     {actions->editAction(), actions->removeAction(), nullptr});
+    connect(m_strip, &FirstRunStrip::addWanted, actions, &DeviceActions::add);
     connect(actions, &DeviceActions::chosen, this, &MainWindow::openDevice);
     connect(actions, &DeviceActions::refused, this,
             [this](const QString& text) { tell(text, true); });
+    choiceChanged();
 }
 
-QDockWidget* MainWindow::makeEventDock()
+void MainWindow::setSimulation(Device* device)
 {
-    auto* view = new QTreeView;
-    view->setObjectName(QStringLiteral("EventList"));
-    view->setModel(new EventListModel(m_log, view));
-    view->setAccessibleName(tr("Events"));
-    view->setRootIsDecorated(false);
-    view->setUniformRowHeights(true);
-    view->setAlternatingRowColors(true);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->header()->setStretchLastSection(true);
-    constexpr int widths[] = {140, 90, 160, 190, 50, 60, 150}; // px
-    for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
-        view->setColumnWidth(column, widths[column]);
-
-    auto* dock = new QDockWidget(tr("Events"));
-    dock->setObjectName(QStringLiteral("EventDock"));
-    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
-    dock->setWidget(view);
-    dock->hide(); // shows itself with the first event
-    connect(&m_log, &EventLog::appended, dock, [this, dock] {
-        if (dock->isVisible())
-            return;
-        dock->show();
-        resizeDocks({dock}, {kEventListHeight}, Qt::Vertical);
-    });
-    return dock;
+    m_strip->setSimulation(device);
 }
+
+void MainWindow::markTheme(ThemeChoice choice)
+{
+    if (m_menu)
+        m_menu->markTheme(choice);
+}
+
+// Place and size
+
+void MainWindow::fitScreen()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QSize room = screen ? screen->availableSize() - QSize(kFrame, kFrame) : kFirstSize;
+    resize(kFirstSize.boundedTo(room));
+    if (room.width() < kFirstSize.width() || room.height() < kFirstSize.height())
+        setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void MainWindow::restore(const WindowState& state)
+{
+    m_pages->setPage(state.page);
+    restoreGeometry(state.geometry);
+    if (!m_menu)
+        return;
+    restoreState(state.docks);
+    m_splitter->restoreState(state.splitter);
+    m_side->setWorstFirst(state.worstFirst);
+    m_menu->action(DeskMenu::ShowList)->setChecked(state.showsList);
+    m_events->setWanted(state.showsEvents);
+    m_events->setVisible(state.showsEvents && m_log.count() > 0);
+    for (int i = 0; i < m_fleet.count(); ++i)
+        if (!state.device.isEmpty() && m_fleet.at(i)->name() == state.device)
+            return openDevice(m_fleet.at(i));
+}
+
+WindowState MainWindow::state() const
+{
+    WindowState state;
+    state.geometry = saveGeometry();
+    state.page = m_pages->page();
+    state.device = currentPage() ? currentPage()->device().name() : QString();
+    if (!m_menu)
+        return state;
+    state.docks = saveState();
+    state.splitter = m_splitter->saveState();
+    state.worstFirst = m_side->isWorstFirst();
+    state.showsList = m_menu->action(DeskMenu::ShowList)->isChecked();
+    state.showsEvents = m_events->isWanted();
+    return state;
+}
+
+// Choosing
 
 DevicePage* MainWindow::currentPage() const
 {
-    return qobject_cast<DevicePage*>(m_pages->currentWidget());
+    return m_pages->current();
 }
 
 void MainWindow::openOverview()
 {
-    m_pages->setCurrentWidget(m_overview);
+    m_pages->showOverview();
     m_overview->refreshAge();
-    m_list->setCurrentIndex({});
-    m_list->clearSelection();
+    if (m_side)
+        m_side->select(nullptr);
     setWindowTitle(tr("upsdesk"));
+    choiceChanged();
 }
 
 void MainWindow::openDevice(Device* device)
 {
     if (!device->reading())
         m_fleet.pollNow(device); // nobody opens a device to wait for its turn
-    DevicePage*& page = m_pageOf[device];
-    if (!page) {
-        page = new DevicePage(*device, m_desk);
-        m_pages->addWidget(page);
-    }
-    m_pages->setCurrentWidget(page);
-    const int row = m_fleet.indexOf(device);
-    const QModelIndex shown = m_sorted->mapFromSource(m_model->index(row));
-    if (shown.isValid() && shown != m_list->currentIndex())
-        m_list->setCurrentIndex(shown);
+    m_pages->showDevice(device);
+    if (m_side)
+        m_side->select(device);
     setWindowTitle(tr("%1 - upsdesk").arg(device->name()));
+    choiceChanged();
+}
+
+Device* MainWindow::chosenDevice() const
+{
+    if (const DevicePage* page = currentPage())
+        return &page->device();
+    return m_side ? m_side->selected() : nullptr;
+}
+
+void MainWindow::choiceChanged()
+{
+    if (m_actions)
+        m_actions->setCurrent(chosenDevice());
+    if (m_menu)
+        m_menu->enableDeviceItems(chosenDevice());
 }
 
 void MainWindow::tell(const QString& text, bool isBad)
@@ -261,6 +331,97 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
     else
         QMainWindow::keyPressEvent(event);
 }
+
+// What the menu does
+
+void MainWindow::findInList()
+{
+    m_menu->action(DeskMenu::ShowList)->setChecked(true);
+    m_side->findByText();
+}
+
+void MainWindow::pollNow()
+{
+    if (Device* device = chosenDevice())
+        m_fleet.pollNow(device);
+}
+
+void MainWindow::openSelected()
+{
+    if (Device* device = chosenDevice())
+        openDevice(device);
+}
+
+void MainWindow::openCommands()
+{
+    Device* device = chosenDevice();
+    if (!device)
+        return;
+    m_pages->setPage(DevicePage::controlPage());
+    openDevice(device);
+}
+
+void MainWindow::testConnection()
+{
+    const Device* device = chosenDevice();
+    if (!device)
+        return;
+    m_test = std::make_unique<ConnectionTest>(m_fleet.connectorMaker(), device->settings());
+    connect(m_test.get(), &ConnectionTest::finished, this, &MainWindow::reportTest);
+    tell(tr("%1: testing the connection \u2026").arg(device->name()), false);
+    m_test->start();
+}
+
+void MainWindow::reportTest()
+{
+    const Device& device = m_test->device();
+    tell(QStringLiteral("%1: %2").arg(device.name(), testResultText(device)),
+         device.link() != LinkState::Live);
+    m_test.release()->deleteLater(); // it is the one that is speaking
+}
+
+void MainWindow::copy()
+{
+    const auto* view = qobject_cast<QAbstractItemView*>(QApplication::focusWidget());
+    QString text = view ? selectedText(view) : QString();
+    if (text.isEmpty() && currentPage())
+        text = shownValues(currentPage());
+    if (!text.isEmpty())
+        QGuiApplication::clipboard()->setText(text);
+}
+
+void MainWindow::showList(bool shown)
+{
+    m_side->setVisible(shown);
+}
+
+void MainWindow::showEvents(bool shown)
+{
+    m_events->setWanted(shown);
+}
+
+void MainWindow::showFull(bool full)
+{
+    setWindowState(full ? windowState() | Qt::WindowFullScreen
+                        : windowState() & ~Qt::WindowFullScreen);
+}
+
+void MainWindow::showHelpOnKeys()
+{
+    showShortcuts(this, m_menu->shortcuts());
+}
+
+void MainWindow::showHelpOnPlaces()
+{
+    showPlaces(this);
+}
+
+void MainWindow::showHelpOnVersion()
+{
+    showAbout(this);
+}
+
+// Operators
 
 void MainWindow::askWhoIsThere()
 {
@@ -278,14 +439,6 @@ void MainWindow::operatorChanged()
     event.outcome = m_session.isLoggedIn() ? tr("level %1").arg(m_session.level()) : tr("done");
     m_log.append(event);
     m_lastOperator = m_session.name();
-    for (DevicePage* page : qAsConst(m_pageOf))
+    for (DevicePage* page : m_pages->kept())
         page->refreshOperator();
-}
-
-void MainWindow::forget(const Device* device)
-{
-    m_reopenReplaced = currentPage() && &currentPage()->device() == device;
-    delete m_pageOf.take(device);
-    if (!currentPage())
-        openOverview();
 }

@@ -3,27 +3,29 @@
 
 // The desk: device list at the left, the chosen device or all of them at the right, events below.
 // As a wall display: nothing but the devices, and no commands.
-// May touch: the fleet, the command desk and the views through device pages; no connector.
+// May touch: the fleet, the command desk and the views through device pages; connectors by their
+// base class, to test one.
 
+#include "config/desksettings.h"
 #include "fleet/commanddesk.h"
+#include "fleet/connectiontest.h"
 #include "operators/operatorsession.h"
+#include "window/windowstate.h"
 
-#include <QHash>
 #include <QMainWindow>
 
+class DeskMenu;
 class DeviceActions;
 class DeviceListModel;
 class DevicePage;
-class DeviceSortModel;
+class EventDock;
+class FirstRunStrip;
 class OverviewPage;
-class QDockWidget;
-class QLabel;
-class QListView;
-class QModelIndex;
-class QStackedWidget;
+class PageStack;
 class QPushButton;
-class QVBoxLayout;
+class QSplitter;
 class ResultBanner;
+class SidePanel;
 
 class MainWindow : public QMainWindow
 {
@@ -35,11 +37,21 @@ public:
     // All references must outlive the window.
     MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorSession& session,
                Mode mode = Mode::Desk, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // As it was left; what no longer fits the screen is made to fit. The device is opened if there
+    // is one of that name.
+    void restore(const WindowState& state);
+    WindowState state() const;
 
     // Opens the device's page; its page is made when it is opened for the first time.
     void openDevice(Device* device);
-    // What an operator can do to the list of devices: buttons below it, and its context menu.
+    // What an operator can do to the list of devices: buttons below it, menus, its context menu.
     void setActions(DeviceActions* actions);
+    // The device of a desk that has none: the strip above says that it is none of the operator's.
+    void setSimulation(Device* device);
+    // The choice that the menu shows.
+    void markTheme(ThemeChoice choice);
     // All devices as tiles.
     void openOverview();
     // The page on show, null before a device is chosen and on the overview.
@@ -47,15 +59,44 @@ public:
     // Something the operator should know that concerns no device.
     void tell(const QString& text, bool isBad);
 
+signals:
+    // In the menu; nothing is done about it here.
+    void themeChosen(ThemeChoice choice);
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QWidget* makeSidePanel();
-    QDockWidget* makeEventDock();
+    struct ItemRow;
+    static const ItemRow kItems[];
+
+    void setUpDesk();
+    void setUpWall();
+    QWidget* makeRightSide();
+    void setUpMenu();
+    void followFleet();
+    void followCommands();
+
+    // What the menu does
+    void findInList();
+    void pollNow();
+    void openSelected();
+    void openCommands();
+    void testConnection();
+    void copy();
+    void showList(bool shown);
+    void showEvents(bool shown);
+    void showFull(bool full);
+    void showHelpOnKeys();
+    void showHelpOnPlaces();
+    void showHelpOnVersion();
+
+    Device* chosenDevice() const;
+    void choiceChanged();
+    void reportTest();
     void askWhoIsThere();
     void operatorChanged();
-    void forget(const Device* device);
+    void fitScreen();
 
     Fleet& m_fleet;
     CommandDesk& m_desk;
@@ -63,16 +104,17 @@ private:
     OperatorSession& m_session;
     QString m_lastOperator;
     DeviceListModel* m_model;
-    DeviceSortModel* m_sorted;
-    QListView* m_list;
-    DeviceActions* m_actions = nullptr;
-    QVBoxLayout* m_sideColumn = nullptr;
-    QLabel* m_counts;
-    QStackedWidget* m_pages;
     OverviewPage* m_overview;
-    QPushButton* m_overviewButton;
+    PageStack* m_pages;
     ResultBanner* m_banner;
-    QHash<const Device*, DevicePage*> m_pageOf;
+    FirstRunStrip* m_strip;
+    DeskMenu* m_menu = nullptr; // these: at a desk only
+    SidePanel* m_side = nullptr;
+    QSplitter* m_splitter = nullptr;
+    EventDock* m_events = nullptr;
+    DeviceActions* m_actions = nullptr;
+    QPushButton* m_wayBack = nullptr; // on a wall only
+    std::unique_ptr<ConnectionTest> m_test;
     bool m_reopenReplaced = false; // the device that went last was the one on show
 };
 

@@ -58,6 +58,21 @@ void OverviewPage::refreshAge()
         m_tiles->viewport()->update();
 }
 
+void OverviewPage::setCountsShown(bool shown)
+{
+    m_counts->setVisible(shown);
+}
+
+void OverviewPage::showNextRows()
+{
+    QScrollBar* bar = m_tiles->verticalScrollBar();
+    // Whole rows: a tile that was cut off at the bottom comes again.
+    const int rows =
+        std::max(m_tiles->viewport()->height() / std::max(m_tiles->sizeHintForRow(0), 1), 1);
+    const int step = rows * m_tiles->sizeHintForRow(0);
+    bar->setValue(bar->value() >= bar->maximum() ? bar->minimum() : bar->value() + step);
+}
+
 void OverviewPage::showCounts()
 {
     m_counts->setText(m_model.countsText());

@@ -22,6 +22,10 @@ public:
 
     // How much larger than at a desk the tiles may grow while all of them find room; at least 1.
     void setLargestScale(double scale);
+    // The line of counts above the tiles; shown unless somebody else shows it larger.
+    void setCountsShown(bool shown);
+    // Scrolls to the rows below those on show; after the last ones to the first.
+    void showNextRows();
     // Time has passed: ages have grown.
     void refreshAge();
 

@@ -80,3 +80,16 @@ QString loadText(const UpsReading* reading)
     const PhaseValues& load = reading->output.load;
     return percent(*std::max_element(load.begin(), load.end())); // an absent value is the least
 }
+
+QString testResultText(const Device& device)
+{
+    const QString condition = device.condition().text;
+    if (device.link() != LinkState::Live) {
+        const QString cause = device.message();
+        return cause.isEmpty() ? condition : condition + QStringLiteral(": ") + cause;
+    }
+    QStringList words{condition, Tr::tr("Battery %1").arg(chargeText(device.reading()))};
+    if (!device.reading()->model.isEmpty())
+        words.prepend(device.reading()->model);
+    return Tr::tr("Live: %1").arg(words.join(QStringLiteral("  \u00b7  ")));
+}

@@ -19,4 +19,7 @@ QString runtimeText(const UpsReading* reading);
 // The highest load of all lines.
 QString loadText(const UpsReading* reading);
 
+// How a connection test ended: "Live: Model 7  ·  On mains  ·  Battery 87 %", or what is wrong.
+QString testResultText(const Device& device);
+
 #endif // VALUEWORDS_H

@@ -1,0 +1,67 @@
+#ifndef DESKMENU_H
+#define DESKMENU_H
+
+// The menu bar: every item with its shortcut, in one table. What an item does is its user's.
+// May touch: Qt Widgets, the titles of device pages, the names of themes.
+
+#include "config/desksettings.h"
+
+#include <QMap>
+#include <QMenuBar>
+
+class QActionGroup;
+
+class DeskMenu : public QMenuBar
+{
+    Q_OBJECT
+
+public:
+    enum Menu { FileMenu, ViewMenu, DeviceMenu, HelpMenu };
+    enum Item {
+        FindDevices,
+        Quit,
+        AllDevices,
+        Filter,
+        ShowList,
+        ShowEvents,
+        FullScreen,
+        OpenDevice,
+        TestConnection,
+        PollNow,
+        Commands,
+        Copy,
+        Shortcuts,
+        Places,
+        About
+    };
+
+    explicit DeskMenu(QWidget* parent = nullptr);
+
+    QAction* action(Item item) const { return m_actions.value(item); }
+    // Puts further actions first into a menu; a null one is a line.
+    void addFirst(Menu menu, const QList<QAction*>& actions);
+
+    // Which of DevicePage::pages() and which theme is marked; choosing is signalled.
+    void markPage(int page);
+    void markTheme(ThemeChoice choice);
+    void enableDeviceItems(bool on);
+
+    // All items that have a shortcut, as "Find devices", "Ctrl+F".
+    QVector<QPair<QString, QString>> shortcuts() const;
+
+signals:
+    void pageChosen(int page);
+    void themeChosen(ThemeChoice choice);
+
+private:
+    void addItems();
+    void addPages();
+    void addThemes();
+
+    QMap<Menu, QMenu*> m_menus;
+    QMap<Item, QAction*> m_actions;
+    QActionGroup* m_pages;
+    QActionGroup* m_themes;
+};
+
+#endif // DESKMENU_H

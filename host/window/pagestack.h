@@ -1,0 +1,47 @@
+#ifndef PAGESTACK_H
+#define PAGESTACK_H
+
+// The overview and the pages of the devices that were looked at last.
+// May touch: device pages, the command desk.
+
+#include "fleet/commanddesk.h"
+
+#include <QList>
+#include <QStackedWidget>
+
+class DevicePage;
+
+class PageStack : public QStackedWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kMostPages = 8; // the one that was left longest ago goes first
+
+    PageStack(CommandDesk& desk, QWidget* overview, QWidget* parent = nullptr);
+
+    void showOverview();
+    // At the page of DevicePage::pages() that was on show last, for whatever device.
+    void showDevice(Device* device);
+    // Null while the overview is on show.
+    DevicePage* current() const;
+    // The device is about to go. True: it was the one on show.
+    bool forget(const Device* device);
+    const QList<DevicePage*>& kept() const { return m_kept; } // the latest first
+
+    void setPage(int page);
+    int page() const { return m_page; }
+
+signals:
+    void pageChanged(int page);
+
+private:
+    DevicePage* pageOf(Device* device);
+
+    CommandDesk& m_desk;
+    QWidget* m_overview;
+    QList<DevicePage*> m_kept;
+    int m_page = 0;
+};
+
+#endif // PAGESTACK_H

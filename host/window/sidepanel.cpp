@@ -1,0 +1,140 @@
+#include "window/sidepanel.h"
+
+#include "window/deviceactions.h"
+#include "window/devicelistmodel.h"
+#include "window/devicerowdelegate.h"
+#include "window/devicesortmodel.h"
+#include "window/operatorbar.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+// px
+constexpr int kLeastWidth = 200;
+constexpr int kMargin = 8;
+
+} // namespace
+
+SidePanel::SidePanel(DeviceListModel& model, OperatorSession& session, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_sorted(new DeviceSortModel(this))
+    , m_list(new QListView)
+    , m_filter(new QLineEdit)
+    , m_worstFirst(new QCheckBox(tr("&Worst first")))
+    , m_counts(new QLabel)
+    , m_column(new QVBoxLayout(this))
+{
+    setObjectName(QStringLiteral("SidePanel"));
+    setMinimumWidth(kLeastWidth);
+    m_sorted->setSourceModel(&model);
+    setUpList();
+    m_column->setContentsMargins(0, kMargin, 0, kMargin);
+    m_column->addWidget(makeHead());
+    m_column->addWidget(m_list, 1);
+    m_column->addWidget(makeFoot(session));
+}
+
+QWidget* SidePanel::makeHead()
+{
+    auto* overview = new QPushButton(tr("&All devices"));
+    overview->setObjectName(QStringLiteral("OverviewButton"));
+    connect(overview, &QPushButton::clicked, this, &SidePanel::overviewWanted);
+
+    m_filter->setObjectName(QStringLiteral("FilterEdit"));
+    m_filter->setAccessibleName(tr("Filter"));
+    m_filter->setPlaceholderText(tr("Filter by name, address or state"));
+    m_filter->setClearButtonEnabled(true);
+    connect(m_filter, &QLineEdit::textChanged, m_sorted,
+            &QSortFilterProxyModel::setFilterFixedString);
+    m_worstFirst->setObjectName(QStringLiteral("WorstFirstBox"));
+    connect(m_worstFirst, &QCheckBox::toggled, m_sorted, &DeviceSortModel::setWorstFirst);
+
+    auto* head = new QWidget;
+    auto* column = new QVBoxLayout(head);
+    column->setContentsMargins(kMargin, 0, kMargin, 0);
+    column->addWidget(overview);
+    column->addWidget(m_filter);
+    column->addWidget(m_worstFirst);
+    return head;
+}
+
+QWidget* SidePanel::makeFoot(OperatorSession& session)
+{
+    m_counts->setObjectName(QStringLiteral("CountsLabel"));
+    m_counts->setWordWrap(true);
+    m_counts->setText(m_model.countsText());
+    connect(&m_model, &DeviceListModel::refreshed, this,
+            [this] { m_counts->setText(m_model.countsText()); });
+    auto* who = new OperatorBar(session);
+    connect(who, &OperatorBar::loginWanted, this, &SidePanel::loginWanted);
+
+    auto* foot = new QWidget;
+    auto* column = new QVBoxLayout(foot);
+    column->setContentsMargins(kMargin, 0, kMargin, 0);
+    column->addWidget(m_counts);
+    column->addWidget(who);
+    return foot;
+}
+
+void SidePanel::setUpList()
+{
+    m_list->setObjectName(QStringLiteral("DeviceList"));
+    m_list->setAccessibleName(tr("Devices"));
+    m_list->setModel(m_sorted);
+    m_list->setItemDelegate(new DeviceRowDelegate(m_list));
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this] { emit deviceSelected(selected()); });
+}
+
+void SidePanel::setActions(DeviceActions* actions)
+{
+    constexpr int belowTheList = 2;
+    m_column->insertWidget(belowTheList, actions->makeButtons());
+    m_list->addActions(actions->actions());
+    m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+Device* SidePanel::selected() const
+{
+    const QModelIndex index = m_list->currentIndex();
+    return index.isValid() ? DeviceListModel::deviceAt(index) : nullptr;
+}
+
+void SidePanel::select(Device* device)
+{
+    const QModelIndex shown = m_sorted->mapFromSource(m_model.indexOf(device));
+    if (shown != m_list->currentIndex())
+        m_list->setCurrentIndex(shown);
+    if (!shown.isValid())
+        m_list->clearSelection();
+}
+
+void SidePanel::findByText()
+{
+    m_filter->setFocus(Qt::ShortcutFocusReason);
+    m_filter->selectAll();
+}
+
+void SidePanel::refreshAges()
+{
+    m_list->viewport()->update();
+}
+
+void SidePanel::setWorstFirst(bool on)
+{
+    m_worstFirst->setChecked(on);
+}
+
+bool SidePanel::isWorstFirst() const
+{
+    return m_worstFirst->isChecked();
+}

@@ -1,0 +1,246 @@
+// The window around the devices: what is kept and remembered, what the menu does, how the first run
+// ends, and that opening a page waits for nothing.
+
+#include "fleet/commanddesk.h"
+#include "support/scriptedconnector.h"
+#include "window/deskmenu.h"
+#include "window/devicepage.h"
+#include "window/eventdock.h"
+#include "window/firstrunstrip.h"
+#include "window/mainwindow.h"
+#include "window/pagestack.h"
+
+#include "childform.h"
+
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QtMessageHandler testHandler = nullptr;
+
+// The offscreen platform complains of windows with a least size; all other warnings end the test,
+// as they do in the other programs.
+void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    const bool harmless = text.startsWith("This plugin does not support");
+    if (!harmless)
+        testHandler(type == QtWarningMsg ? QtFatalMsg : type, context, text);
+}
+
+struct Desk {
+    Device* add(const QString& address, const QString& name = QString())
+    {
+        DeviceSettings settings;
+        settings.address = *parseDeviceAddress(address).address;
+        settings.name = name;
+        return fleet.add(settings);
+    }
+    QAction* item(DeskMenu::Item item) const { return window.findChild<DeskMenu*>()->action(item); }
+    QString shown() const
+    {
+        return window.currentPage() ? window.currentPage()->device().name() : QString();
+    }
+
+    QVector<ScriptedConnector*> connectors;
+    Fleet fleet{[this](const DeviceSettings&) {
+        auto connector = std::make_unique<ScriptedConnector>();
+        connectors << connector.get();
+        return connector;
+    }};
+    EventLog log;
+    CommandDesk commands{fleet, log, [] { return CommandDesk::Operator{}; }};
+    OperatorSession session;
+    MainWindow window{fleet, commands, log, session};
+};
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void viewsComeWhenAPageIsOnShow();
+    void latestPagesAreKept();
+    void pageStaysWithTheNextDevice();
+    void firstRunEnds_data();
+    void firstRunEnds();
+    void stateIsRemembered();
+    void eventsStayClosed();
+    void menuActs();
+};
+
+void TestMainWindow::initTestCase()
+{
+    qunsetenv("QT_FATAL_WARNINGS");
+    testHandler = qInstallMessageHandler(passOn);
+}
+
+void TestMainWindow::viewsComeWhenAPageIsOnShow()
+{
+    Desk desk;
+    desk.window.show();
+    desk.window.openDevice(desk.add("nut://h/a"));
+    DevicePage* left = desk.window.currentPage();
+    QVERIFY(!left->findChild<ChildForm*>()); // the heading is there before anything has been built
+    desk.window.openDevice(desk.add("nut://h/b"));
+    QTRY_VERIFY(desk.window.currentPage()->findChild<ChildForm*>());
+    QVERIFY(!left->findChild<ChildForm*>()); // one that was only passed costs nothing
+}
+
+void TestMainWindow::latestPagesAreKept()
+{
+    Desk desk;
+    for (int i = 0; i < PageStack::kMostPages + 2; ++i)
+        desk.add("nut://h/u" + QString::number(i));
+    const auto open = [&desk](int device) { desk.window.openDevice(desk.fleet.at(device)); };
+    for (int i = 0; i < PageStack::kMostPages; ++i)
+        open(i);
+    DevicePage* second = desk.window.findChild<PageStack*>()->kept().at(PageStack::kMostPages - 2);
+    open(0); // looked at again: now the second is the oldest
+    QPointer<DevicePage> oldest(second);
+    open(PageStack::kMostPages);
+    QVERIFY(!oldest);
+    QCOMPARE(desk.window.findChildren<DevicePage*>().size(), int(PageStack::kMostPages));
+    QCOMPARE(desk.shown(), "u" + QString::number(PageStack::kMostPages));
+}
+
+void TestMainWindow::pageStaysWithTheNextDevice()
+{
+    Desk desk;
+    Device* a = desk.add("nut://h/a");
+    Device* b = desk.add("nut://h/b");
+    desk.window.openDevice(a);
+    desk.window.openDevice(b);
+    for (int page = 0; page < DevicePage::pages().size(); ++page) {
+        desk.window.currentPage()->showPage(page);
+        desk.window.openDevice(page % 2 ? b : a);
+        QCOMPARE(desk.window.currentPage()->currentPage(), page);
+        desk.window.currentPage()->finishViews();
+        QCOMPARE(desk.window.currentPage()->currentPage(), page);
+    }
+}
+
+void TestMainWindow::firstRunEnds_data()
+{
+    QTest::addColumn<QString>("added");
+    QTest::addColumn<bool>("ends");
+    QTest::newRow("a real device: the simulation goes") << "nut://h/a" << true;
+    QTest::newRow("a simulated one, on purpose: both stay") << "sim:outage" << false;
+}
+
+void TestMainWindow::firstRunEnds()
+{
+    QFETCH(QString, added);
+    QFETCH(bool, ends);
+    Desk desk;
+    desk.window.setSimulation(desk.add("sim:"));
+    const auto* strip = desk.window.findChild<FirstRunStrip*>();
+    QVERIFY(!strip->isHidden());
+    desk.add(added);
+    QCoreApplication::processEvents();
+    QCOMPARE(strip->isHidden(), ends);
+    QCOMPARE(desk.fleet.count(), ends ? 1 : 2);
+    while (desk.fleet.count() > 0)
+        desk.fleet.remove(0);
+    QCoreApplication::processEvents();
+    QVERIFY(!strip->isHidden()); // nothing to watch: the way to a device is offered again
+}
+
+void TestMainWindow::stateIsRemembered()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("upsdesk/window.ini");
+    const QString name = QString::fromUtf8("R\u00e4ck \"3\"; a=b");
+    QSize size;
+    {
+        Desk desk;
+        desk.add("nut://h/a");
+        desk.window.openDevice(desk.add("nut://h/b", name));
+        desk.window.setWindowState(Qt::WindowNoState);
+        desk.window.resize(700, 500);
+        size = desk.window.size();
+        desk.window.currentPage()->showPage(4);
+        desk.item(DeskMenu::ShowList)->setChecked(false);
+        desk.item(DeskMenu::ShowEvents)->setChecked(false);
+        desk.window.state().save(path);
+    }
+    Desk desk;
+    desk.add("nut://h/b", name);
+    desk.window.restore(WindowState::load(path));
+    QCOMPARE(desk.window.size(), size);
+    QCOMPARE(desk.shown(), name);
+    QCOMPARE(desk.window.currentPage()->currentPage(), 4);
+    QVERIFY(!desk.item(DeskMenu::ShowList)->isChecked());
+    QVERIFY(!desk.item(DeskMenu::ShowEvents)->isChecked());
+
+    QFile file(path); // somebody else's file: everything as on the first day
+    QVERIFY(file.open(QFile::WriteOnly));
+    file.write("page=99999999999\ngeometry=@ByteArray(\\x1\\x2)\nlist=perhaps\n\xff\xfe");
+    file.close();
+    Desk other;
+    other.window.restore(WindowState::load(path));
+    QVERIFY(other.window.width() <= 1240);
+}
+
+void TestMainWindow::eventsStayClosed()
+{
+    Desk desk;
+    desk.window.show();
+    auto* dock = desk.window.findChild<EventDock*>();
+    QVERIFY(!dock->isVisible());
+    desk.log.append({});
+    QVERIFY(dock->isVisible());
+    dock->close();
+    QVERIFY(!desk.item(DeskMenu::ShowEvents)->isChecked());
+    desk.log.append({});
+    QVERIFY(!dock->isVisible());
+    desk.item(DeskMenu::ShowEvents)->trigger();
+    QVERIFY(dock->isVisible());
+}
+
+void TestMainWindow::menuActs()
+{
+    Desk desk;
+    desk.window.show();
+    Device* device = desk.add("nut://h/a");
+    QVERIFY(!desk.item(DeskMenu::PollNow)->isEnabled());
+    desk.window.openDevice(device);
+    desk.connectors[0]->answer(LinkState::Live);
+    const int polls = desk.connectors[0]->polls;
+    desk.item(DeskMenu::PollNow)->trigger();
+    QTRY_COMPARE(desk.connectors[0]->polls, polls + 1);
+
+    desk.item(DeskMenu::TestConnection)->trigger();
+    QCOMPARE(desk.connectors.size(), 2);
+    desk.connectors[1]->answer(LinkState::Refused, {}, "unknown <b>UPS</b>");
+    bool told = false;
+    for (const QLabel* label : desk.window.findChildren<QLabel*>())
+        told |=
+            label->text().endsWith(": unknown <b>UPS</b>") && label->textFormat() == Qt::PlainText;
+    QVERIFY(told);
+
+    desk.item(DeskMenu::ShowList)->setChecked(false);
+    desk.item(DeskMenu::Filter)->trigger(); // brings the list back
+    auto* filter = desk.window.findChild<QLineEdit*>("FilterEdit");
+    QVERIFY(filter->isVisible());
+    QCOMPARE(desk.window.focusWidget(), filter);
+    desk.window.findChild<QListView*>("DeviceList")->setFocus();
+    desk.item(DeskMenu::Copy)->trigger();
+    QVERIFY(QGuiApplication::clipboard()->text().startsWith("a, "));
+
+    desk.item(DeskMenu::Commands)->trigger();
+    QCOMPARE(desk.window.currentPage()->currentPage(), DevicePage::controlPage());
+    desk.item(DeskMenu::AllDevices)->trigger();
+    QVERIFY(!desk.window.currentPage());
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"
