@@ -6,6 +6,7 @@
 #include "globalvar.h"
 #include "rtsinglegraphform.h"
 #include "rtthreegraphform.h"
+#include "support/recordingdevice.h"
 
 #include <QLabel>
 #include <QtTest>
@@ -55,6 +56,8 @@ class TestChartPages : public QObject
 
 private slots:
     void gauges();
+    void bands();
+    void unfedPageKeepsTheGaugesDefaults();
     void legendsAndCurves();
     void initialisation();
     void oddReadings();
@@ -90,6 +93,67 @@ void TestChartPages::gauges()
         QCOMPARE(gauge->getMaxValue(), row.top);
         QCOMPARE(gauge->accessibleDescription(), QString(row.told));
     }
+}
+
+// The colours of the bands at, below and above their limits: green, yellow, red.
+void TestChartPages::bands()
+{
+    RTSingleGraphForm single;
+    RTThreeGraphForm three;
+    const auto bandOf = [](QWidget& page, const char* gauge) {
+        auto* chart = child<DataChart>(page, gauge);
+        chart->resize(200, 150);
+        RecordingDevice recorder(chart->size());
+        chart->render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());
+        for (const PaintStep& step : recorder.stepsOf(PaintStep::Path)) {
+            const QGradient* gradient = step.brush.gradient();
+            const QColor colour = gradient ? gradient->stops().first().second : QColor();
+            for (const auto& [name, first] : {std::pair('g', QColor(138, 226, 52)),
+                                              {'y', QColor(255, 235, 69)},
+                                              {'r', QColor(238, 119, 34)}})
+                if (colour == first)
+                    return name;
+        }
+        return '-';
+    };
+    const struct {
+        QWidget& page;
+        const char* gauge;
+        int key;
+        QVector<int> values; // as stored
+        const char* bands;
+    } rows[] = {
+        {single, "widget_load", realdata_ChargeRemaining, {0, 29, 30, 60, 61, 100}, "rryygg"},
+        {three, "widget_load", realdata_ChargeRemaining, {29, 30, 60, 61}, "ryyg"},
+        {single, "widget_outload", realdata_OutputLoad_A, {99, 100, 120, 121, 160}, "gyyrr"},
+        {three, "widget_outload", realdata_OutputLoad_A, {99, 100, 120, 121}, "gyyr"},
+        {single, "widget_input_freq", realdata_InputFre_A, {399, 400, 600, 601}, "rggr"},
+        {single, "widget_out_freq", realdata_OutputFre, {399, 400, 600, 601}, "rggr"},
+        {single, "widget_by_freq", realdata_BypFre, {399, 400, 600, 601}, "rggr"},
+        {three, "widget_temp", realdata_BatTemp, {99, 100}, "gr"},
+        {three, "widget_batt_volt", realdata_BatVoltage, {3999, 4000}, "gg"},
+        {three, "widget_batt_curr", realdata_BatCurrent, {1999, 2000}, "gg"},
+    };
+    for (const auto& row : rows) {
+        QString bands;
+        for (const int value : row.values) {
+            single.RefreshRtSingleChartInfo({{row.key, value}});
+            three.RefreshRtChartInfo({{row.key, value}});
+            bands += bandOf(row.page, row.gauge);
+        }
+        QCOMPARE(row.gauge + bands, row.gauge + QString(row.bands));
+    }
+}
+
+void TestChartPages::unfedPageKeepsTheGaugesDefaults()
+{
+    DataChart gauge;
+    RTThreeGraphForm page;
+    for (const char* name :
+         {"widget_load", "widget_outload", "widget_temp", "widget_batt_volt", "widget_batt_curr"})
+        QCOMPARE(child<DataChart>(page, name)->getMaxValue(), gauge.getMaxValue());
+    page.RefreshRtChartInfo({});
+    QCOMPARE(child<DataChart>(page, "widget_load")->getMaxValue(), 100.0);
 }
 
 void TestChartPages::legendsAndCurves()

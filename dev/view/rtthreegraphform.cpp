@@ -100,7 +100,7 @@ RTThreeGraphForm::RTThreeGraphForm(QWidget* parent)
     ui->setupUi(this);
     for (const Gauge& row : kGauges)
         chartpage::setCaption(ui->*row.gauge, ui->*row.label, tr(row.caption));
-    configureGauges(0);
+    // The gauges keep their own scale and bands until values come: only these decide the scale.
 
     QMap<ThreeDynamicChart*, QStringList> names;
     for (const Trend& row : kTrends)
