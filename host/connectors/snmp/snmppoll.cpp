@@ -270,13 +270,12 @@ PollResult SnmpPoll::result() const
                 .arg(m_limits.peer)
                 .arg(waited);
     else if (m_limits.version == 3)
-        result.message =
-            tr("No answer within %1 s: wrong user or context, an agent without SNMPv3, "
-               "or nothing at %2")
-                .arg(waited)
-                .arg(m_limits.peer);
+        result.message = tr("Silent for %1 s: wrong user or context, an agent without SNMPv3, "
+                            "or nothing at %2")
+                             .arg(waited)
+                             .arg(m_limits.peer);
     else
-        result.message = tr("No answer within %1 s: wrong community, an agent without this SNMP "
+        result.message = tr("Silent for %1 s: wrong community, an agent without this SNMP "
                             "version, or nothing at %2")
                              .arg(waited)
                              .arg(m_limits.peer);
