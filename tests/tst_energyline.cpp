@@ -45,6 +45,7 @@ public:
         for (auto [name, flag] : flags)
             this->*flag = names.split(' ').contains(name);
     }
+    int paints = 0;
     QPointF middle() const { return QPoint(width() / 2, height() / 2); }
 
     // One layer of the page as primitives.
@@ -54,6 +55,13 @@ public:
         QPainter painter(&device);
         (this->*layer)(&painter);
         return kind < 0 ? device.steps() : device.stepsOf(PaintStep::Kind(kind));
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        ++paints;
+        Energyline::paintEvent(event);
     }
 };
 
@@ -156,6 +164,8 @@ void TestEnergyline::flowsBySource()
         const char* chargingFlows; // in boost or float charge
     } rows[] = {
         // On utility supply the battery's line shows while not charging.
+        {0, "None supply", "", ""},
+        {1, "Other supply", "", ""},
         {3, "Utility supply", "input-rec rec-bat rec-inv inv-load", "input-rec rec-inv inv-load"},
         {4, "Bypass supply", "byp-load", "input-rec rec-bat byp-load"},
         {5, "Battery supply", "bat-inv inv-load", "bat-inv inv-load"},
@@ -209,6 +219,10 @@ void TestEnergyline::animation()
     page.show();
     QTRY_VERIFY(page.m_offset < 0.0F); // without any new data
     page.timer->stop();
+    QCoreApplication::processEvents();
+    page.paints = 0;
+    page.advanceFlow();
+    QTRY_COMPARE(page.paints, 1); // each step shows
     page.m_offset = 0.0F;
     page.advanceFlow();
     QCOMPARE(page.m_offset, -0.4F);

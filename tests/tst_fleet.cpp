@@ -70,6 +70,87 @@ bool areSpread(QVector<qint64> placesMs)
     return width >= 5000 - 2 * even && width <= 5000;
 }
 
+void aTest(UpsReading& reading, double volts, double rated)
+{
+    reading.alarms = {Alarm::TestInProgress, Alarm::OnBattery};
+    reading.ratedInputVoltage = rated;
+    reading.input.voltage = {volts, 230, {}};
+}
+
+// What a live reading is called, and everything that is wrong beside it.
+using S = OutputSource;
+using A = Alarm;
+using U = Urgency;
+using R = UpsReading;
+const struct {
+    const char* name;
+    S source;
+    void (*fill)(R& reading);
+    const char* text;
+    U urgency;
+    const char* alarms;
+} kConditions[] = {
+    {"on mains", S::Utility, [](R&) {}, "On mains", U::Normal, ""},
+    {"boosting", S::Booster, [](R&) {}, "On mains, boosting", U::Notice, ""},
+    {"off", S::None, [](R& r) { r.alarms = {A::OutputOff}; }, "Output off", U::Critical, ""},
+    {"nobody says that it is on mains", S::Other, [](R&) {}, "Source unknown", U::Alarm, ""},
+    {"an outage says it all", S::Battery,
+     [](R& r) {
+         r.alarms = {A::OnBattery, A::InputBad, A::BypassBad};
+     },
+     "On battery", U::Alarm, "Bypass fault"},
+    {"no word twice", S::Battery,
+     [](R& r) {
+         r.alarms = {A::OnBattery, A::LowBattery};
+     },
+     "On battery, low", U::Critical, "Battery low"},
+    {"overload on mains", S::Utility, [](R& r) { r.alarms = {A::OutputOverload}; },
+     "On mains, Load overrun MAX-value", U::Critical, "Load overrun MAX-value"},
+    {"an alarm without a name", S::Utility, [](R& r) { r.alarmTexts << "1.3.6.1.4.1.9.5"; },
+     "On mains, Alarm 1.3.6.1.4.1.9.5", U::Warning, "Alarm 1.3.6.1.4.1.9.5"},
+    {"its own words come first", S::Utility,
+     [](R& r) {
+         r.alarms = {A::GeneralFault, A::BatteryBad};
+         r.alarmTexts << "Replace battery!";
+     },
+     "On mains, Replace battery!", U::Alarm, "Replace battery!|Battery fault|UPS fault"},
+    {"and are told beside worse", S::Battery, [](R& r) { r.alarmTexts << "Door open"; },
+     "On battery, Door open", U::Alarm, "Door open"},
+
+    {"a test with mains", S::Battery, [](R& r) { aTest(r, 115, 230); }, "Battery test", U::Notice,
+     ""},
+    {"a test with one line missing", S::Battery, [](R& r) { aTest(r, 114, 230); }, "On battery",
+     U::Alarm, "A test is in progress"},
+    {"a test, rating not known", S::Battery, [](R& r) { aTest(r, 80, 0); }, "Battery test",
+     U::Notice, ""},
+    {"a test, voltage not known", S::Battery, [](R& r) { r.alarms = {A::TestInProgress}; },
+     "On battery", U::Alarm, "A test is in progress"},
+
+    {"just within every limit", S::Utility,
+     [](R& r) {
+         r.charge = 51;
+         r.runtime = 60;
+         r.output.load = {79, {}, 79};
+         r.input.load[0] = 100;
+         r.batteryTemperature = 39;
+     },
+     "On mains", U::Normal, ""},
+    {"charge low", S::Utility, [](R& r) { r.charge = 50; }, "On mains, battery at 50 %", U::Warning,
+     "Battery at 50 %"},
+    {"charge critical", S::Battery, [](R& r) { r.charge = 20; }, "On battery, 20 % left",
+     U::Critical, "Battery at 20 %"},
+    {"time left", S::Battery, [](R& r) { r.runtime = 301; }, "On battery", U::Alarm, ""},
+    {"little time left", S::Battery, [](R& r) { r.runtime = 300; }, "On battery, little time left",
+     U::Critical, "Little time left"},
+    {"load of one line", S::Utility,
+     [](R& r) {
+         r.output.load = {10, 80, {}};
+     },
+     "On mains, load 80 %", U::Warning, "Load 80 %"},
+    {"battery hot", S::Utility, [](R& r) { r.batteryTemperature = 40; },
+     "On mains, battery at 40 °C", U::Warning, "Battery at 40 °C"},
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(LinkState)
@@ -353,112 +434,24 @@ void TestFleet::thresholdsReachEveryDevice()
 
 void TestFleet::conditions_data()
 {
-    using S = OutputSource;
-    using A = Alarm;
-    using R = UpsReading;
     QTest::addColumn<LinkState>("link");
     QTest::addColumn<UpsReading>("reading");
     QTest::addColumn<QString>("text");
     QTest::addColumn<Urgency>("urgency");
     QTest::addColumn<QString>("alarms");
-    const auto linkRow = [](const char* name, LinkState link, const char* text, Urgency urgency) {
-        UpsReading reading = onMains();
-        reading.alarms << A::FanFailure; // of back then
-        QTest::newRow(name) << link << reading << text << urgency << QString();
-    };
-    linkRow("silence is an alarm", LinkState::Lost, "No answer", Urgency::Alarm);
-    linkRow("stale is an alarm", LinkState::Stale, "No new data", Urgency::Alarm);
-    linkRow("refused is an alarm", LinkState::Refused, "Refused", Urgency::Alarm);
-
-    const auto row = [](const char* name, S source, const std::function<void(R&)>& fill,
-                        const char* text, Urgency urgency, const char* alarms) {
+    for (const auto& row : kConditions) {
         UpsReading reading;
-        reading.outputSource = source;
-        fill(reading);
-        QTest::newRow(name) << LinkState::Live << reading << QString::fromUtf8(text) << urgency
-                            << QString::fromUtf8(alarms);
-    };
-    const auto nothing = [](R&) {};
-    row("on mains", S::Utility, nothing, "On mains", Urgency::Normal, "");
-    row("boosting", S::Booster, nothing, "On mains, boosting", Urgency::Notice, "");
-    row(
-        "off", S::None, [](R& r) { r.alarms = {A::OutputOff}; }, "Output off", Urgency::Critical,
-        "");
-    row("nobody says that it is on mains", S::Other, nothing, "Source unknown", Urgency::Alarm, "");
-    row(
-        "an outage says it all", S::Battery,
-        [](R& r) {
-            r.alarms = {A::OnBattery, A::InputBad, A::BypassBad};
-        },
-        "On battery", Urgency::Alarm, "Bypass fault");
-    row(
-        "no word twice", S::Battery,
-        [](R& r) {
-            r.alarms = {A::OnBattery, A::LowBattery};
-        },
-        "On battery, low", Urgency::Critical, "Battery low");
-    row(
-        "overload on mains", S::Utility, [](R& r) { r.alarms = {A::OutputOverload}; },
-        "On mains, Load overrun MAX-value", Urgency::Critical, "Load overrun MAX-value");
-    row(
-        "an alarm without a name", S::Utility, [](R& r) { r.alarmTexts << "1.3.6.1.4.1.9.5"; },
-        "On mains, Alarm 1.3.6.1.4.1.9.5", Urgency::Warning, "Alarm 1.3.6.1.4.1.9.5");
-    row(
-        "its own words come first", S::Utility,
-        [](R& r) {
-            r.alarms = {A::GeneralFault, A::BatteryBad};
-            r.alarmTexts << "Replace battery!";
-        },
-        "On mains, Replace battery!", Urgency::Alarm, "Replace battery!|Battery fault|UPS fault");
-    row(
-        "and are told beside worse", S::Battery, [](R& r) { r.alarmTexts << "Door open"; },
-        "On battery, Door open", Urgency::Alarm, "Door open");
-
-    const auto test = [](double volts, double rated) {
-        return [=](R& r) {
-            r.alarms = {A::TestInProgress, A::OnBattery};
-            r.ratedInputVoltage = rated;
-            r.input.voltage = {volts, 230, {}};
-        };
-    };
-    row("a test with mains", S::Battery, test(115, 230), "Battery test", Urgency::Notice, "");
-    row("a test with one line missing", S::Battery, test(114, 230), "On battery", Urgency::Alarm,
-        "A test is in progress");
-    row("a test, rating not known", S::Battery, test(80, 0), "Battery test", Urgency::Notice, "");
-    row(
-        "a test, voltage not known", S::Battery, [](R& r) { r.alarms = {A::TestInProgress}; },
-        "On battery", Urgency::Alarm, "A test is in progress");
-
-    row(
-        "just within every limit", S::Utility,
-        [](R& r) {
-            r.charge = 51;
-            r.runtime = 60;
-            r.output.load = {79, {}, 79};
-            r.input.load[0] = 100;
-            r.batteryTemperature = 39;
-        },
-        "On mains", Urgency::Normal, "");
-    row(
-        "charge low", S::Utility, [](R& r) { r.charge = 50; }, "On mains, battery at 50 %",
-        Urgency::Warning, "Battery at 50 %");
-    row(
-        "charge critical", S::Battery, [](R& r) { r.charge = 20; }, "On battery, 20 % left",
-        Urgency::Critical, "Battery at 20 %");
-    row(
-        "time left", S::Battery, [](R& r) { r.runtime = 301; }, "On battery", Urgency::Alarm, "");
-    row(
-        "little time left", S::Battery, [](R& r) { r.runtime = 300; },
-        "On battery, little time left", Urgency::Critical, "Little time left");
-    row(
-        "load of one line", S::Utility,
-        [](R& r) {
-            r.output.load = {10, 80, {}};
-        },
-        "On mains, load 80 %", Urgency::Warning, "Load 80 %");
-    row(
-        "battery hot", S::Utility, [](R& r) { r.batteryTemperature = 40; },
-        "On mains, battery at 40 °C", Urgency::Warning, "Battery at 40 °C");
+        reading.outputSource = row.source;
+        row.fill(reading);
+        QTest::newRow(row.name) << LinkState::Live << reading << QString::fromUtf8(row.text)
+                                << row.urgency << QString::fromUtf8(row.alarms);
+    }
+    UpsReading before = onMains(); // what it was like while it was live
+    before.alarms << Alarm::FanFailure;
+    for (const auto& [link, text] : {std::pair(LinkState::Lost, "No answer"),
+                                     {LinkState::Stale, "No new data"},
+                                     {LinkState::Refused, "Refused"}})
+        QTest::newRow(text) << link << before << QString(text) << Urgency::Alarm << QString();
 }
 
 void TestFleet::conditions()

@@ -22,6 +22,7 @@ private slots:
             {"  UPS  \"Rack 3\"\t", Words{"UPS", "Rack 3"}},
             {R"(a "b \"c\" \\" \"d)", Words{"a", "b \"c\" \\", "\"d"}},
             {"a \"\xc3\xa4=\xff#[x]\"", Words{"a", "\xc3\xa4=\xff#[x]"}},
+            {"VAR ups a \"\"", Words{"VAR", "ups", "a", ""}},
             {"VAR ups a \"1", {}},
             {"VAR ups a \\", {}},
         };

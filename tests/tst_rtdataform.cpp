@@ -54,6 +54,7 @@ class TestRTDataForm : public QObject
 
 private slots:
     void everyValue();
+    void everyLabel();
     void blocksDecideAlone();
     void codesAndNumbers();
     void shortTableStaysShort();
@@ -78,6 +79,24 @@ void TestRTDataForm::everyValue()
         form.RefreshRTDataInfo(snapshot);
         QCOMPARE(form.column(2), QString(values));
     }
+}
+
+void TestRTDataForm::everyLabel()
+{
+    const QString battery =
+        QStringLiteral("Battery state, Time on battery(s), Remaining battery time(Min), "
+                       "Remaining battery capacity(%), Battery voltage(V), Battery current(A), "
+                       "Battery temperature(C), Number of mains failure, ");
+    const QString lines = QStringLiteral(
+        "Input voltage%1(V), Input current%1(A), Input frequency%1(Hz), Input power%1(W), "
+        "Output mode, Output frequency(Hz), "
+        "Output voltage%1(V), Output current%1(A), Output power%1(W), Output load%1(%), "
+        "Bypass frequency(Hz), Bypass voltage%1(V), Bypass current%1(A), Bypass power%1(W)");
+    Probe form;
+    form.RefreshRTDataInfo(distinctValues(1));
+    QCOMPARE(form.column(1), battery + lines.arg(QString()));
+    form.RefreshRTDataInfo(distinctValues(3));
+    QCOMPARE(form.column(1), battery + lines.arg(" R/S/T"));
 }
 
 void TestRTDataForm::blocksDecideAlone()
