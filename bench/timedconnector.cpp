@@ -1,11 +1,16 @@
 #include "timedconnector.h"
 
-TimedConnector::TimedConnector(std::unique_ptr<Connector> connector)
+#include "fleet/fleetclock.h"
+
+TimedConnector::TimedConnector(std::unique_ptr<Connector> connector, Polls& polls,
+                               std::function<qint64()> dueMs)
     : m_connector(std::move(connector))
+    , m_polls(polls)
+    , m_dueMs(std::move(dueMs))
 {
     connect(m_connector.get(), &Connector::polled, this, [this](const PollResult& result) {
-        polls.back().end = FleetClock::system().monotonicMs();
-        polls.back().state = result.state;
+        m_polls.back().end = FleetClock::system().monotonicMs();
+        m_polls.back().state = result.state;
         emit polled(result);
     });
     connect(m_connector.get(), &Connector::commandFinished, this, &Connector::commandFinished);
@@ -14,8 +19,8 @@ TimedConnector::TimedConnector(std::unique_ptr<Connector> connector)
 void TimedConnector::poll()
 {
     Poll poll;
-    poll.due = device->dueMs();
+    poll.due = m_dueMs();
     poll.start = FleetClock::system().monotonicMs();
-    polls.push_back(poll);
+    m_polls.push_back(poll);
     m_connector->poll();
 }

@@ -2,11 +2,11 @@
 #define TIMEDCONNECTOR_H
 
 // A connector that notes when its polls were due, began and ended.
-// May touch: connectors by their base class, the fleet's clock and devices.
+// May touch: connectors by their base class, the fleet's clock.
 
 #include "connectors/connector.h"
-#include "fleet/device.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -18,20 +18,22 @@ public:
     struct Poll { // ms on the monotonic clock
         qint64 due = 0;
         qint64 start = 0;
-        qint64 end = -1; // -1: under way
+        qint64 end = -1; // -1: under way, or broken off
         LinkState state = LinkState::Connecting;
     };
+    using Polls = std::vector<Poll>;
 
-    explicit TimedConnector(std::unique_ptr<Connector> connector);
+    // polls must outlive the connector; a device that is replaced goes on in the same list.
+    TimedConnector(std::unique_ptr<Connector> connector, Polls& polls,
+                   std::function<qint64()> dueMs);
 
     void poll() override;
     void send(const UpsCommand& command) override { m_connector->send(command); }
 
-    const Device* device = nullptr; // whose polls these are
-    std::vector<Poll> polls;
-
 private:
     std::unique_ptr<Connector> m_connector;
+    Polls& m_polls;
+    std::function<qint64()> m_dueMs;
 };
 
 #endif // TIMEDCONNECTOR_H
