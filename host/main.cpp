@@ -8,6 +8,7 @@
 #include "fleet/watchlist.h"
 #include "openfilelimit.h"
 #include "operators/operatorsession.h"
+#include "promptexit.h"
 #include "window/activitywatch.h"
 #include "window/deviceactions.h"
 #include "window/mainwindow.h"
@@ -183,7 +184,7 @@ int main(int argc, char** argv)
     const QString mode = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
     if (isSubcommand(mode) && !needsWidgets(mode)) {
         QCoreApplication app(argc, argv);
-        return runSubcommand(QCoreApplication::arguments());
+        return endPromptly(runSubcommand(QCoreApplication::arguments()));
     }
 
     fallBackToOffscreen();
@@ -193,7 +194,7 @@ int main(int argc, char** argv)
     QApplication::setWindowIcon(applicationIcon());
     QGuiApplication::setDesktopFileName(QStringLiteral("upsdesk"));
     if (isSubcommand(mode))
-        return runSubcommand(QApplication::arguments());
+        return endPromptly(runSubcommand(QApplication::arguments()));
     const auto options = readOptions();
-    return options ? runWindow(*options) : ExitUsage;
+    return endPromptly(options ? runWindow(*options) : ExitUsage);
 }
