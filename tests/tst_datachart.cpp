@@ -72,7 +72,7 @@ void TestDataChart::values()
         QCOMPARE(gauge.m_value, gauge.m_invalidValue ? 0.0 : value);
         QCOMPARE(gauge.m_currentValue, gauge.m_value); // jumps at once
         QCOMPARE(gauge.texts().last(), QString(text));
-        QCOMPARE(gauge.accessibleDescription(), text + QString(gauge.m_invalidValue ? "" : " V"));
+        QCOMPARE(gauge.accessibleName(), text + QString(gauge.m_invalidValue ? "" : " V"));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "chartpage.h"
 
 #include "datachart.h"
+#include "trendchart.h"
 
 #include <QLabel>
 #include <QPalette>
@@ -45,13 +46,29 @@ void setValue(DataChart* gauge, double value)
 void setCaption(DataChart* gauge, QLabel* label, const QString& caption)
 {
     label->setText(caption);
-    gauge->setAccessibleName(caption);
+    gauge->setCaption(caption);
 }
 
-void setPageColour(QWidget* page)
+void setPageLook(QWidget* page)
 {
-    page->setPalette(QPalette(QColor(205, 240, 255)));
+    constexpr int kPoints = 8;
+    const QPalette palette(QColor(205, 240, 255));
+    const QFont font(QStringLiteral("Microsoft YaHei"), kPoints);
+    // Flat enough that the lowest number of a scale keeps clear of the first time below it.
+    const QFont chartFont(QStringLiteral("Times New Roman"), kPoints);
+    page->setPalette(palette);
     page->setAutoFillBackground(true);
+    for (QWidget* part : page->findChildren<QWidget*>()) {
+        part->setPalette(palette);
+        if (!part->testAttribute(Qt::WA_SetFont))
+            part->setFont(qobject_cast<TrendChart*>(part) ? chartFont : font);
+    }
+}
+
+void showLegend(QLabel* label, const QLabel* caption, const QString& text)
+{
+    label->setText(text);
+    label->setAccessibleName(caption->text() + QLatin1Char(' ') + text);
 }
 
 double reading(const RealTimeBlock& values, int key, bool tenths)

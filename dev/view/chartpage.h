@@ -31,9 +31,12 @@ GaugeScale batteryTemperature();
 void setScale(DataChart* gauge, const GaugeScale& scale);
 // Paints as well: the gauge itself does not where "0" becomes "--".
 void setValue(DataChart* gauge, double value);
-// The caption is the gauge's name for assistive technology, too.
 void setCaption(DataChart* gauge, QLabel* label, const QString& caption);
-void setPageColour(QWidget* page);
+// Ground and texts of the page in its own colours, and its small font, on every part: where the
+// host's application has a style sheet, Qt passes neither on.
+void setPageLook(QWidget* page);
+// A legend entry; its accessible name says what the value is of.
+void showLegend(QLabel* label, const QLabel* caption, const QString& text);
 
 // A key in its unit, read unsigned. `tenths`: the device gives tenths.
 double reading(const RealTimeBlock& values, int key, bool tenths);

@@ -1,8 +1,8 @@
 #include "datachart.h"
 
+#include "paintersaver.h"
 #include "valuetext.h"
 
-#include <QPainter>
 #include <QRadialGradient>
 #include <QTimer>
 
@@ -15,18 +15,8 @@ namespace {
 constexpr int kArcDegrees = 160;
 constexpr int kArcStart = 10 * 16;
 constexpr int kArcSpan = kArcDegrees * 16;
-constexpr int kArcBottom = 10; // px between arc centre and lower edge
-
-struct PainterSaver {
-    explicit PainterSaver(QPainter* p)
-        : painter(p)
-    {
-        painter->save();
-    }
-    ~PainterSaver() { painter->restore(); }
-    Q_DISABLE_COPY(PainterSaver)
-    QPainter* painter;
-};
+constexpr int kArcBottom = 10;    // px between arc centre and lower edge
+constexpr double kArcShare = 0.7; // of the outer radius
 
 int truncated(double v)
 {
@@ -96,9 +86,16 @@ void DataChart::setRadioValue(QList<int> ratio, QList<int> values)
 
 void DataChart::tellValue()
 {
-    const QString told = m_invalidValue ? valueText() : valueText() + QLatin1Char(' ') + m_unitText;
-    if (told != accessibleDescription())
-        setAccessibleDescription(told);
+    QString told = m_caption.isEmpty() ? QString() : m_caption + QLatin1String(": ");
+    told += m_invalidValue ? valueText() : valueText() + QLatin1Char(' ') + m_unitText;
+    if (told != accessibleName())
+        setAccessibleName(told);
+}
+
+void DataChart::setCaption(const QString& caption)
+{
+    m_caption = caption;
+    tellValue();
 }
 
 QString DataChart::valueText() const
@@ -129,11 +126,19 @@ void DataChart::paintEvent(QPaintEvent*)
     drawTextRect(&painter);
 }
 
+int DataChart::heightForWidth(int width) const
+{
+    constexpr double kMarksShare = 0.06; // of the outer radius, outside the arc
+    const double reach = (kArcShare + kMarksShare) * (width / 2);
+    const double numbers = 1.5 * fontMetrics().height(); // the topmost ones, and their distance
+    return qMin(kHighestDial, qRound(kArcBottom + reach + numbers));
+}
+
 void DataChart::resetVariables()
 {
     m_outerRadius = qMin(height(), width() / 2);
     m_innerRadius = 0.85 * m_outerRadius;
-    m_colorPieRadius = 0.7 * m_outerRadius;
+    m_colorPieRadius = kArcShare * m_outerRadius;
     m_coverCircleRadius = 0.5 * m_colorPieRadius;
     m_longHand = m_outerRadius / 20.0;
     m_okHand = 0.7 * m_longHand;

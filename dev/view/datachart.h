@@ -30,7 +30,7 @@ public:
     // "0" becomes "--" or back it does not, and the caller has to update().
     void setValue(qreal v);
     // These four only store; the next paint shows them.
-    void setUnitText(QString unit); // spoken by assistive technology, not painted
+    void setUnitText(QString unit); // in the accessible name, not painted
     void setMaxValue(qreal v);
     void setMinValue(qreal v);
     // ratio: colour per band (0 green, 1 yellow, 2 red, 3 grey); values: upper limit per band.
@@ -38,6 +38,12 @@ public:
     // other number only the first limit counts. Where a list is too short, its last band goes on.
     void setRadioValue(QList<int> ratio, QList<int> values);
     qreal getMaxValue() { return m_maxValue; }
+    // The accessible name is the caption with the value and its unit.
+    void setCaption(const QString& caption);
+
+    // As high as the dial and its numbers are at that width, up to kHighestDial.
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -52,17 +58,20 @@ protected:
     double m_innerRadius = 0;
     double m_colorPieRadius = 0;
     double m_coverCircleRadius = 0;
-    double m_currentValue = 0; // what the arc is drawn for
-    double m_longHand = 0;     // major mark
-    double m_okHand = 0;       // minor mark
-    double m_shortHand = 0;    // kept for derived gauges
-    double m_space = 0;        // between arc and marks
-    bool m_bReverse = false;   // the last change lowered the value
+    double m_currentValue = 0;               // what the arc is drawn for
+    double m_longHand = 0;                   // major mark
+    double m_okHand = 0;                     // minor mark
+    double m_shortHand = 0;                  // kept for derived gauges
+    double m_space = 0;                      // between arc and marks
+    bool m_bReverse = false;                 // the last change lowered the value
+    static constexpr int kHighestDial = 120; // px
+
     QTimer* updateTimer;
     QTimer* refreshTimer = nullptr; // kept for derived gauges; never created
     QPointF m_center;
     QRectF m_pieRect;
     QString m_unitText;
+    QString m_caption;
     QList<int> m_ratio{0, 1, 2};
     QList<int> m_radioValue{1, 1, 1};
     QList<QColor> penColor; // kept for derived gauges

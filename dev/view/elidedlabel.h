@@ -3,13 +3,17 @@
 
 // A label for text from a device: one line of plain text, cut with "..." where it does not fit, the
 // rest in the tool tip. Whatever the text, the layout around it keeps its shape; text() stays the
-// full text. Inside the library only.
+// full text.
 // May touch: Qt Widgets only.
+
+#include "devview_export.h"
 
 #include <QLabel>
 
-class ElidedLabel : public QLabel
+class DEVVIEW_EXPORT ElidedLabel : public QLabel
 {
+    Q_OBJECT
+
 public:
     // minimumCharacters: a text of up to about this length is never cut.
     ElidedLabel(const QString& text, int minimumCharacters, QWidget* parent = nullptr);

@@ -1,11 +1,11 @@
 #include "energyline.h"
 
+#include "paintersaver.h"
 #include "valuetext.h"
 
 #include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPixmap>
 #include <QTimer>
 
@@ -40,21 +40,6 @@ constexpr QRectF kBatteryBody{-25.0, 80.0, 50.0, 75.0};
 // Charge and load are drawn right beside the captions of battery and load.
 constexpr QRectF kChargeText{25.0, 160.0, 50.0, 50.0};
 constexpr QRectF kLoadText{275.0, -62.5, 80.0, 25.0};
-
-class PainterSaver
-{
-public:
-    explicit PainterSaver(QPainter* painter)
-        : m_painter(painter)
-    {
-        m_painter->save();
-    }
-    ~PainterSaver() { m_painter->restore(); }
-    Q_DISABLE_COPY(PainterSaver)
-
-private:
-    QPainter* m_painter;
-};
 
 // Fractions are cut off, so that boxes, images and texts start on a pixel.
 QRect wholePixels(const QRectF& rect)
@@ -185,6 +170,7 @@ void Energyline::flushData(QMap<int, QVariant> map)
     const int supply = supplyOfSource(values[realdata_OutputSource]);
     ld_State = supply_mode.value(supply);
     takeFlows(supply, batteryStatus);
+    tellValues();
 }
 
 void Energyline::takeElectricalValues(const RealTimeBlock& values)
@@ -488,80 +474,85 @@ struct Energyline::PanelLine {
 struct Energyline::Panel {
     bool Energyline::*isOpen;
     QPointF origin; // of the title line
-    qreal frameHeight;
     const char* title;
     int count;
     PanelLine lines[6];
 };
 
+// clang-format off
+const Energyline::Panel Energyline::kPanels[] = {
+    // open while                    origin            title                  lines
+    {&Energyline::BYPASS_view_Flag,  {-365.0, -320.0}, QT_TR_NOOP("BYPASS"),  2,
+        {{QT_TR_NOOP("Voltage:"),      &Energyline::byp_Volt,         ""},
+         {QT_TR_NOOP("Frequency:"),    &Energyline::byp_Frenq,        " Hz"}}},
+    {&Energyline::INPUT_view_Flag,   {-365.0, 45.0},   QT_TR_NOOP("INPUT"),   3,
+        {{QT_TR_NOOP("Voltage:"),      &Energyline::ac_AVolt,         ""},
+         {QT_TR_NOOP("Current:"),      &Energyline::ac_ACur,          ""},
+         {QT_TR_NOOP("Frequency:"),    &Energyline::ac_Frenq,         " Hz"}}},
+    {&Energyline::UPS_view_Flag,     {-100.0, -320.0}, QT_TR_NOOP("UPS"),     3,
+        {{QT_TR_NOOP("Type:"),         &Energyline::ups_Type,         ""},
+         {QT_TR_NOOP("Name:"),         &Energyline::ups_Name,         ""},
+         {QT_TR_NOOP("Manufacturer:"), &Energyline::ups_Manufacturer, ""}}},
+    {&Energyline::LOAD_view_Flag,    {140.0, 45.0},    QT_TR_NOOP("LOAD"),    6,
+        {{QT_TR_NOOP("Voltage:"),      &Energyline::ld_Volt,          ""},
+         {QT_TR_NOOP("Current:"),      &Energyline::ld_Cur,           ""},
+         {QT_TR_NOOP("Frequency:"),    &Energyline::ld_Freq,          ""},
+         {QT_TR_NOOP("Active power:"), &Energyline::ld_ActPower,      ""},
+         {QT_TR_NOOP("Load percent:"), &Energyline::ld_Percent,       ""},
+         {QT_TR_NOOP("Status:"),       &Energyline::ld_State,         ""}}},
+    {&Energyline::BATTERY_view_Flag, {-365.0, 163.0},  QT_TR_NOOP("BATTERY"), 5,
+        {{QT_TR_NOOP("Voltage:"),      &Energyline::bat_Volt,         " V"},
+         {QT_TR_NOOP("Temperature:"),  &Energyline::bat_Temp,         " ℃"},
+         {QT_TR_NOOP("Remain time:"),  &Energyline::bat_Min,          " Min"},
+         {QT_TR_NOOP("Capacity:"),     &Energyline::bat_Cap,          " %"},
+         {QT_TR_NOOP("Status:"),       &Energyline::bat_State,        ""}}},
+};
+// clang-format on
+
 void Energyline::drawdate(QPainter* painter)
 {
-    static constexpr Panel kPanels[] = {
-        {&Energyline::BYPASS_view_Flag,
-         {-365.0, -320.0},
-         79.0,
-         QT_TR_NOOP("BYPASS"),
-         2,
-         {{QT_TR_NOOP("Voltage:"), &Energyline::byp_Volt, ""},
-          {QT_TR_NOOP("Frequency:"), &Energyline::byp_Frenq, " Hz"}}},
-        {&Energyline::INPUT_view_Flag,
-         {-365.0, 45.0},
-         104.0,
-         QT_TR_NOOP("INPUT"),
-         3,
-         {{QT_TR_NOOP("Voltage:"), &Energyline::ac_AVolt, ""},
-          {QT_TR_NOOP("Current:"), &Energyline::ac_ACur, ""},
-          {QT_TR_NOOP("Frequency:"), &Energyline::ac_Frenq, " Hz"}}},
-        {&Energyline::UPS_view_Flag,
-         {-100.0, -320.0},
-         104.0,
-         QT_TR_NOOP("UPS"),
-         3,
-         {{QT_TR_NOOP("Type:"), &Energyline::ups_Type, ""},
-          {QT_TR_NOOP("Name:"), &Energyline::ups_Name, ""},
-          {QT_TR_NOOP("Manufacturer:"), &Energyline::ups_Manufacturer, ""}}},
-        {&Energyline::LOAD_view_Flag,
-         {140.0, 45.0},
-         179.0,
-         QT_TR_NOOP("LOAD"),
-         6,
-         {{QT_TR_NOOP("Voltage:"), &Energyline::ld_Volt, ""},
-          {QT_TR_NOOP("Current:"), &Energyline::ld_Cur, ""},
-          {QT_TR_NOOP("Frequency:"), &Energyline::ld_Freq, ""},
-          {QT_TR_NOOP("Active power:"), &Energyline::ld_ActPower, ""},
-          {QT_TR_NOOP("Load percent:"), &Energyline::ld_Percent, ""},
-          {QT_TR_NOOP("Status:"), &Energyline::ld_State, ""}}},
-        {&Energyline::BATTERY_view_Flag,
-         {-365.0, 163.0},
-         154.0,
-         QT_TR_NOOP("BATTERY"),
-         5,
-         {{QT_TR_NOOP("Voltage:"), &Energyline::bat_Volt, " V"},
-          {QT_TR_NOOP("Temperature:"), &Energyline::bat_Temp, " ℃"},
-          {QT_TR_NOOP("Remain time:"), &Energyline::bat_Min, " Min"},
-          {QT_TR_NOOP("Capacity:"), &Energyline::bat_Cap, " %"},
-          {QT_TR_NOOP("Status:"), &Energyline::bat_State, ""}}},
-    };
-
     const PainterSaver saver(painter);
-    const QPointF c = centre();
     painter->setBrush(kPaleGrey);
     painter->setFont(textFont(11, QFont::Normal));
-    painter->setPen(kValueBlue);
-    drawTextLine(painter, kChargeText.translated(c), Qt::AlignJustify,
-                 bat_Cap + QLatin1String(" %"));
-    drawTextLine(painter, kLoadText.translated(c), Qt::AlignLeft, ld_Percent);
-
+    drawFigures(painter);
     for (const Panel& panel : kPanels) {
         if (this->*panel.isOpen)
             drawPanel(painter, panel);
     }
 }
 
+void Energyline::drawFigures(QPainter* painter)
+{
+    const QPointF c = centre();
+    painter->setPen(kValueBlue);
+    drawTextLine(painter, kChargeText.translated(c), Qt::AlignJustify,
+                 bat_Cap + QLatin1String(" %"));
+    drawTextLine(painter, kLoadText.translated(c), Qt::AlignLeft, ld_Percent);
+}
+
+QString Energyline::valueOf(const PanelLine& line) const
+{
+    return this->*line.value + QString::fromUtf8(line.unit);
+}
+
+// Open or closed, to whoever cannot see the diagram.
+void Energyline::tellValues()
+{
+    QStringList told;
+    for (const Panel& panel : kPanels) {
+        QStringList lines;
+        for (int i = 0; i < panel.count; ++i)
+            lines << tr(panel.lines[i].label) + QLatin1Char(' ') + valueOf(panel.lines[i]);
+        told << tr(panel.title) + QLatin1String(": ") + lines.join(QLatin1String(", "));
+    }
+    setAccessibleName(told.join(QLatin1String("; ")));
+}
+
 void Energyline::drawPanel(QPainter* painter, const Panel& panel)
 {
     constexpr QSizeF kLineSize{230.0, 25.0};
     constexpr qreal kFrameMargin = 10.0; // left and right of the lines
+    constexpr qreal kFrameFoot = 4.0;    // below the last line
     constexpr int kFrameRoundness = 5;   // per cent
     constexpr qreal kLabelGap = 6.0;     // least distance from a label to its value
 
@@ -571,7 +562,7 @@ void Energyline::drawPanel(QPainter* painter, const Panel& panel)
     };
 
     QRectF frame = titleLine.adjusted(-kFrameMargin, 0.0, kFrameMargin, 0.0);
-    frame.setHeight(panel.frameHeight);
+    frame.setHeight((1 + panel.count) * kLineSize.height() + kFrameFoot);
     painter->setPen(Qt::white);
     painter->drawRoundedRect(wholePixels(frame), kFrameRoundness, kFrameRoundness,
                              Qt::RelativeSize);
@@ -587,6 +578,6 @@ void Energyline::drawPanel(QPainter* painter, const Panel& panel)
         const PanelLine& line = panel.lines[i];
         const qreal taken = std::ceil(metrics.horizontalAdvance(tr(line.label)));
         drawTextLine(painter, lineAt(i).adjusted(taken + kLabelGap, 0.0, 0.0, 0.0), Qt::AlignRight,
-                     this->*line.value + QString::fromUtf8(line.unit));
+                     valueOf(line));
     }
 }

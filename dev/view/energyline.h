@@ -32,7 +32,7 @@ public:
 
     // Takes over a snapshot: keys 0 to 72 as int (missing: 0), 4000 to 4002 as text (missing:
     // empty). Sets every display string and the six flow flags. Does not repaint; the next
-    // animation step shows the new values.
+    // animation step shows the new values. The accessible name says what the panels show.
     void flushData(QMap<int, QVariant> map);
 
     // Inverts one of the panel flags; does not repaint.
@@ -129,12 +129,16 @@ protected:
 private:
     struct PanelLine;
     struct Panel;
+    static const Panel kPanels[];
 
     QPointF centre();
     void takeElectricalValues(const RealTimeBlock& values);
     void takeFlows(int supply, int batteryStatus);
     void drawBatteryFill(QPainter* painter);
+    void drawFigures(QPainter* painter);
     void drawPanel(QPainter* painter, const Panel& panel);
+    QString valueOf(const PanelLine& line) const;
+    void tellValues();
 };
 
 #endif // ENERGYLINE_H

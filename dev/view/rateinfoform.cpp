@@ -317,7 +317,9 @@ void RateInfoForm::RefreshRateInfo(QMap<int, QVariant> data)
         for (int i = 0; i < rows.size(); ++i) {
             if (panel.linesKey != kNoKey)
                 rows.at(i)->setLines(realData.value(panel.linesKey).toInt());
-            labels.at(i)->setText(getPvalue(rows.at(i)));
+            const QString value = getPvalue(rows.at(i));
+            labels.at(i)->setText(value);
+            labels.at(i)->setAccessibleName(rows.at(i)->strName + QLatin1Char(' ') + value);
         }
     }
 }

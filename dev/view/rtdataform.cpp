@@ -217,9 +217,9 @@ void RTDataForm::setupContentsInfo()
 
 void RTDataForm::InitRTData()
 {
-    setText(kFirstValueRow, ValueColumn, bat_fault.at(kNormalState));
+    setValue(kFirstValueRow, bat_fault.at(kNormalState));
     for (int row = kFirstValueRow + 1; row < kRowCount; ++row)
-        setText(row, ValueColumn, valuetext::whole(0));
+        setValue(row, valuetext::whole(0));
     for (int row : kRowsOfLongTable)
         ui->tableWidget->hideRow(row);
 }
@@ -249,17 +249,15 @@ void RTDataForm::Show_RTData_View(QMap<int, QVariant> data)
         for (const PhaseValue& line : block) {
             setText(line.row, LabelColumn,
                     rtDataArray.at(threePhase ? line.threeLabel : line.singleLabel));
-            setText(line.row, ValueColumn,
-                    valuetext::phases(values, threePhase, line.keyA, line.stride, line.format));
+            setValue(line.row,
+                     valuetext::phases(values, threePhase, line.keyA, line.stride, line.format));
         }
     };
 
-    setText(kBatteryStateRow, ValueColumn,
-            textOfCode(bat_fault, values[realdata_BatteryStatus], kNormalState));
-    setText(kOutputModeRow, ValueColumn,
-            textOfCode(supply_mode, values[realdata_OutputSource], kNoSupply));
+    setValue(kBatteryStateRow, textOfCode(bat_fault, values[realdata_BatteryStatus], kNormalState));
+    setValue(kOutputModeRow, textOfCode(supply_mode, values[realdata_OutputSource], kNoSupply));
     for (const SingleValue& line : kSingleValues)
-        setText(line.row, ValueColumn, line.format(values[line.key]));
+        setValue(line.row, line.format(values[line.key]));
 
     const bool inputThreePhase = isThreePhaseOnlyIfThree(values[realdata_InputNumLines]);
     isSinglePhase = !inputThreePhase;
@@ -280,6 +278,15 @@ void RTDataForm::Show_RTData_View(QMap<int, QVariant> data)
 void RTDataForm::setText(int row, int column, const QString& text)
 {
     ui->tableWidget->setItem(row, column, new QTableWidgetItem(text));
+}
+
+// The row's label, which has the unit, is told with the value.
+void RTDataForm::setValue(int row, const QString& text)
+{
+    setText(row, ValueColumn, text);
+    const QString label = ui->tableWidget->item(row, LabelColumn)->text();
+    ui->tableWidget->item(row, ValueColumn)
+        ->setData(Qt::AccessibleTextRole, QString(label + QLatin1String(": ") + text));
 }
 
 // The columns of phases S and T. The table has none since it joins the phases in one cell; the

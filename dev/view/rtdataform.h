@@ -49,6 +49,7 @@ private:
     void setupContentsInfo();
     void Show_RTData_View(QMap<int, QVariant> data);
     void setText(int row, int column, const QString& text);
+    void setValue(int row, const QString& text);
     void markPhaseColumns(bool shown);
 };
 

@@ -89,11 +89,12 @@ RTSingleGraphForm::RTSingleGraphForm(QWidget* parent)
     QStringList names;
     for (const Trend& row : kTrends) {
         (ui->*row.label)->setText(tr(row.caption));
+        chartpage::showLegend(ui->*row.value, ui->*row.label, (ui->*row.value)->text());
         names.append(tr(row.caption));
     }
     ui->widget_single->setSeriesNames(names);
-    ui->widget_single->setAccessibleName(ui->label_graphic->text());
-    chartpage::setPageColour(this);
+    ui->widget_single->setCaption(ui->label_graphic->text());
+    chartpage::setPageLook(this);
 }
 
 RTSingleGraphForm::~RTSingleGraphForm()
@@ -112,7 +113,7 @@ void RTSingleGraphForm::InitRtSingleChart()
     for (const Gauge& row : gauges())
         chartpage::setValue(ui->*row.gauge, 0);
     for (const Trend& row : kTrends)
-        (ui->*row.value)->setText(QStringLiteral("(0)"));
+        chartpage::showLegend(ui->*row.value, ui->*row.label, QStringLiteral("(0)"));
     ui->widget_single->initValue();
 }
 
@@ -131,7 +132,8 @@ void RTSingleGraphForm::Show_RtChart_View(QMap<int, QVariant> snapshot)
     int series = 0;
     for (const Trend& row : kTrends) {
         ui->widget_single->addData(series++, chartpage::reading(values, row.key, row.tenths));
-        (ui->*row.value)
-            ->setText(chartpage::legendText(tr("Current value:"), values, row.key, row.tenths));
+        chartpage::showLegend(
+            ui->*row.value, ui->*row.label,
+            chartpage::legendText(tr("Current value:"), values, row.key, row.tenths));
     }
 }

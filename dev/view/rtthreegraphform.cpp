@@ -103,15 +103,17 @@ RTThreeGraphForm::RTThreeGraphForm(QWidget* parent)
     // The gauges keep their own scale and bands until values come: only these decide the scale.
 
     QMap<ThreeDynamicChart*, QStringList> names;
-    for (const Trend& row : kTrends)
+    for (const Trend& row : kTrends) {
         names[ui->*row.chart].append((ui->*nameOf(row))->text());
+        chartpage::showLegend(ui->*row.value, ui->*row.label, (ui->*row.value)->text());
+    }
     ThreeDynamicChart* const charts[] = {ui->widget_in, ui->widget_out, ui->widget_bypass};
     int page = 0;
     for (ThreeDynamicChart* chart : charts) {
         chart->setSeriesNames(names.value(chart));
-        chart->setAccessibleName(ui->tabWidget->tabText(page++));
+        chart->setCaption(ui->tabWidget->tabText(page++));
     }
-    chartpage::setPageColour(this);
+    chartpage::setPageLook(this);
 }
 
 RTThreeGraphForm::~RTThreeGraphForm()
@@ -144,7 +146,7 @@ void RTThreeGraphForm::InitRtChart()
     for (const Gauge& row : kGauges)
         chartpage::setValue(ui->*row.gauge, 0);
     for (const Trend& row : kTrends) {
-        (ui->*row.value)->setText(QLatin1String(row.initial));
+        chartpage::showLegend(ui->*row.value, ui->*row.label, QLatin1String(row.initial));
         (ui->*row.chart)->initValue();
     }
 }
@@ -157,8 +159,8 @@ void RTThreeGraphForm::RefreshRtChartInfo(QMap<int, QVariant> snapshot)
         chartpage::setValue(ui->*row.gauge, chartpage::reading(values, row.key, row.tenths));
     for (const Trend& row : kTrends) {
         (ui->*row.chart)->addData(row.series, chartpage::reading(values, row.curveKey, row.tenths));
-        (ui->*row.value)
-            ->setText(
-                chartpage::legendText(tr("Current value:"), values, row.legendKey, row.tenths));
+        chartpage::showLegend(
+            ui->*row.value, ui->*row.label,
+            chartpage::legendText(tr("Current value:"), values, row.legendKey, row.tenths));
     }
 }

@@ -94,6 +94,12 @@ void TrendChart::setHorizontalLineColor(const QColor& colour)
     update();
 }
 
+void TrendChart::setCaption(const QString& caption)
+{
+    m_caption = caption;
+    tellLatest();
+}
+
 void TrendChart::setSeriesNames(const QStringList& names)
 {
     m_seriesNames = names;
@@ -111,7 +117,10 @@ void TrendChart::tellLatest()
                                                              : valuetext::outOfRange();
         values.append(name + QLatin1Char(' ') + number);
     }
-    setAccessibleDescription(values.join(QLatin1String(", ")));
+    const QString told = values.join(QLatin1String(", "));
+    setAccessibleName(m_caption.isEmpty() || told.isEmpty()
+                          ? m_caption + told
+                          : m_caption + QLatin1String(": ") + told);
 }
 
 // Works with the box of the last paint, before the new size is known.

@@ -34,7 +34,9 @@ public:
     bool getUseAntialiasing() const { return m_bUseAntialiasing; }
     // Stored for hosts; the grid is always black and dotted. Repaints.
     void setHorizontalLineColor(const QColor& colour);
-    // What assistive technology calls the series, by id; without names they are numbered.
+    // The accessible name: the caption, then the latest value of each series by its name; without
+    // names the series are numbered.
+    void setCaption(const QString& caption);
     void setSeriesNames(const QStringList& names);
 
     QSize sizeHint() const override { return {350, 350}; }
@@ -97,6 +99,7 @@ private:
     void drawGraph(QPainter* painter);
 
     const Look m_look;
+    QString m_caption;
     QStringList m_seriesNames;
     QMap<int, double> m_latest; // last value given per series, trimmed or not
 };

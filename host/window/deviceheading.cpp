@@ -1,14 +1,17 @@
 #include "window/deviceheading.h"
 
-#include "window/plainlabel.h"
 #include "window/urgencycolors.h"
 #include "window/valuewords.h"
+
+#include "elidedlabel.h"
 
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QVBoxLayout>
 
 namespace {
+
+constexpr int kShortestText = 1; // characters that are never cut
 
 // Today the time is enough; before, the day as well.
 QString sinceText(const QDateTime& since)
@@ -32,18 +35,18 @@ DeviceHeading::DeviceHeading(QWidget* parent)
     texts->setSpacing(2);
     auto* first = new QHBoxLayout;
     first->setSpacing(10);
-    m_name = new PlainLabel;
+    m_name = new ElidedLabel({}, kShortestText);
     m_name->setObjectName(QStringLiteral("HeadingName"));
-    m_condition = new PlainLabel;
+    m_condition = new ElidedLabel({}, kShortestText);
     m_condition->setObjectName(QStringLiteral("HeadingCondition"));
-    m_since = new PlainLabel;
+    m_since = new ElidedLabel({}, kShortestText);
     m_since->setObjectName(QStringLiteral("HeadingSmall"));
     first->addWidget(m_condition);
     first->addWidget(m_since);
     first->addStretch(1);
-    m_age = new PlainLabel;
+    m_age = new ElidedLabel({}, kShortestText);
     m_age->setObjectName(QStringLiteral("HeadingSmall"));
-    m_notes = new PlainLabel;
+    m_notes = new ElidedLabel({}, kShortestText);
     m_notes->setObjectName(QStringLiteral("HeadingSmall"));
     texts->addWidget(m_name);
     texts->addLayout(first);
@@ -80,22 +83,22 @@ void DeviceHeading::show(const Device& device)
 {
     const UpsReading* reading = device.reading();
     const Condition condition = device.condition();
-    m_name->setFullText(device.name());
-    m_condition->setFullText(condition.text);
+    m_name->setText(device.name());
+    m_condition->setText(condition.text);
     // Styling anew costs, and ages are told every second.
     const QString color = urgencyTextColor(condition.urgency, palette()).name();
     if (color != m_conditionColor) {
         m_conditionColor = color;
         m_condition->setStyleSheet(QStringLiteral("color: %1;").arg(color));
     }
-    m_since->setFullText(sinceText(device.conditionSince()));
-    m_age->setFullText(linkText(device.link(), device.ageMs()) + QStringLiteral("  \u00b7  ") +
-                       device.address());
+    m_since->setText(sinceText(device.conditionSince()));
+    m_age->setText(linkText(device.link(), device.ageMs()) + QStringLiteral("  \u00b7  ") +
+                   device.address());
     const QString notes =
         reading ? (readingNotes(*reading) + reading->alarmTexts).join(QStringLiteral("  \u00b7  "))
                 : QString();
     m_notes->setVisible(!notes.isEmpty());
-    m_notes->setFullText(notes);
+    m_notes->setText(notes);
     m_charge->setText(chargeText(reading));
     m_runtime->setText(runtimeText(reading));
     m_load->setText(loadText(reading));

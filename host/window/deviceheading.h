@@ -8,7 +8,7 @@
 
 #include <QFrame>
 
-class PlainLabel;
+class ElidedLabel;
 class QLabel;
 
 class DeviceHeading : public QFrame
@@ -23,12 +23,12 @@ public:
 private:
     QLabel* addFigure(const QString& caption);
 
-    PlainLabel* m_name;
-    PlainLabel* m_condition;
+    ElidedLabel* m_name;
+    ElidedLabel* m_condition;
     QString m_conditionColor;
-    PlainLabel* m_since;
-    PlainLabel* m_age;
-    PlainLabel* m_notes;
+    ElidedLabel* m_since;
+    ElidedLabel* m_age;
+    ElidedLabel* m_notes;
     QLabel* m_charge;
     QLabel* m_runtime;
     QLabel* m_load;

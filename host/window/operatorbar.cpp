@@ -1,14 +1,20 @@
 #include "window/operatorbar.h"
 
-#include "window/plainlabel.h"
+#include "elidedlabel.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
 
+namespace {
+
+constexpr int kShortestName = 6; // characters
+
+} // namespace
+
 OperatorBar::OperatorBar(OperatorSession& session, QWidget* parent)
     : QWidget(parent)
     , m_session(session)
-    , m_who(new PlainLabel)
+    , m_who(new ElidedLabel({}, kShortestName))
     , m_button(new QPushButton)
 {
     m_button->setObjectName(QStringLiteral("LoginButton"));
@@ -29,7 +35,7 @@ OperatorBar::OperatorBar(OperatorSession& session, QWidget* parent)
 void OperatorBar::refresh()
 {
     const bool loggedIn = m_session.isLoggedIn();
-    m_who->setFullText(loggedIn ? tr("%1, level %2").arg(m_session.name()).arg(m_session.level())
-                                : tr("Nobody is logged in"));
+    m_who->setText(loggedIn ? tr("%1, level %2").arg(m_session.name()).arg(m_session.level())
+                            : tr("Nobody is logged in"));
     m_button->setText(loggedIn ? tr("Log out") : tr("Log in"));
 }

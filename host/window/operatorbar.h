@@ -8,7 +8,7 @@
 
 #include <QWidget>
 
-class PlainLabel;
+class ElidedLabel;
 class QPushButton;
 
 class OperatorBar : public QWidget
@@ -25,7 +25,7 @@ private:
     void refresh();
 
     OperatorSession& m_session;
-    PlainLabel* m_who;
+    ElidedLabel* m_who;
     QPushButton* m_button;
 };
 
