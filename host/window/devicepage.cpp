@@ -3,6 +3,7 @@
 #include "window/deviceheading.h"
 #include "window/linkband.h"
 #include "window/linkcover.h"
+#include "window/theme.h"
 #include "window/valuewords.h"
 
 #include "chartform.h"
@@ -121,6 +122,7 @@ QWidget* DevicePage::makeDeviceView()
     m_view = new ChildForm;
     m_view->findChild<Energyline*>()->setAttribute(Qt::WA_StyledBackground);
     m_view->setName(m_device.name());
+    giveThemeGrounds(*m_view);
     colorDeviceView();
     refreshOperator();
     m_viewPages = m_view->findChild<QTabWidget*>(QStringLiteral("devStacketTable"));
@@ -143,6 +145,7 @@ QWidget* DevicePage::makeCharts()
 {
     m_charts = new ChartForm(nullptr);
     m_charts->setCurrentName(m_device.name());
+    giveThemeGrounds(*m_charts);
     return m_charts;
 }
 

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QWidget>
 
 namespace {
 
@@ -69,4 +70,12 @@ void applyTheme(Theme theme)
             styleSheet += QString::fromUtf8(file.readAll());
     }
     qApp->setStyleSheet(styleSheet);
+}
+
+void giveThemeGrounds(const QWidget& view)
+{
+    // By the names that the library gives them; the style sheets of the themes have these, too.
+    for (const char* name : {"basicTable", "PanelTitle", "label_table", "label_graphic"})
+        for (QWidget* part : view.findChildren<QWidget*>(QLatin1String(name)))
+            part->setStyleSheet(QString());
 }

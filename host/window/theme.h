@@ -11,4 +11,9 @@ enum class Theme { Light, Dark };
 
 void applyTheme(Theme theme);
 
+class QWidget;
+
+// Parts of the library's views that come with light grounds of their own get the theme's instead.
+void giveThemeGrounds(const QWidget& view);
+
 #endif // THEME_H

@@ -10,7 +10,6 @@
 
 class DeviceListModel;
 class OverviewPage;
-class PlainLabel;
 class QHBoxLayout;
 class QLabel;
 
