@@ -1,6 +1,7 @@
 // upsdesk: watches UPSes and commands them. This file only chooses the mode.
 // May touch: everything; it is where the rooms meet.
 
+#include "cli/cliparser.h"
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
 #include "config/deskconfig.h"
@@ -15,7 +16,6 @@
 #include "window/themechoice.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QIcon>
 
 static QIcon applicationIcon() // outside: the macro does not work in a namespace
@@ -47,11 +47,7 @@ struct WindowOptions {
 
 std::optional<WindowOptions> readOptions()
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QApplication::translate(
-        "main", "Watches uninterruptible power supplies.\n\nOther modes: probe, picture, command, "
-                "add-operator, check-config; each explains itself with --help."));
-    parser.addHelpOption();
+    CliParser parser((QString()));
     parser.addVersionOption();
     const QCommandLineOption kiosk(
         QStringLiteral("kiosk"),
@@ -59,14 +55,10 @@ std::optional<WindowOptions> readOptions()
     const QCommandLineOption dark(QStringLiteral("dark"),
                                   QApplication::translate("main", "Dark theme."));
     parser.addOptions({kiosk, dark});
-    parser.addPositionalArgument(
-        QStringLiteral("ADDRESS"),
-        QApplication::translate("main",
-                                "sim:[NAME], nut://HOST[:PORT]/UPS, snmp://COMMUNITY@HOST[:PORT]; "
-                                "without one the configured devices, or else the simulator"),
-        QStringLiteral("[ADDRESS...]"));
-    if (!readArguments(parser, QApplication::arguments()))
+    if (!parser.read(QApplication::arguments()))
         return {};
+    if (parser.isSet(QStringLiteral("version")))
+        parser.showVersion();
     return WindowOptions{parser.positionalArguments(), parser.isSet(kiosk), parser.isSet(dark)};
 }
 
@@ -124,7 +116,7 @@ int runWindow(const WindowOptions& options)
 {
     QVector<DeviceSettings> devices;
     for (const QString& address : options.addresses) {
-        const auto settings = settingsForAddress(address);
+        const auto settings = settingsForAddress(address, subcommandNames());
         if (!settings)
             return ExitUsage;
         devices << *settings;

@@ -1,12 +1,14 @@
-#include "cli/addoperatorcommand.h"
+// upsdesk add-operator NAME --level N: asks for the password, writes the configuration.
+// May touch: the operators room and the terminal.
 
+#include "cli/cliparser.h"
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
+#include "cli/subcommands.h"
 #include "config/deskconfig.h"
 #include "operators/addoperator.h"
 
-#include <QCommandLineParser>
-#include <QFile>
+#include <QCoreApplication>
 #include <QTextStream>
 
 #include <cstdio>
@@ -51,23 +53,18 @@ bool isSame(const SecretText& a, const SecretText& b)
 
 int runAddOperator(const QStringList& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QCoreApplication::translate(
-        "AddOperator", "Adds an operator, or gives one a new password and level."));
-    parser.addHelpOption();
+    CliParser parser(QStringLiteral("add-operator"));
     const QCommandLineOption levelOption(
         QStringLiteral("level"),
         QCoreApplication::translate("AddOperator", "0 watches, 1 and above may command."),
         QStringLiteral("N"));
     parser.addOption(levelOption);
-    parser.addPositionalArgument(QStringLiteral("NAME"), QStringLiteral("of the operator"));
-    if (!readArguments(parser, arguments))
+    if (!parser.read(arguments))
         return ExitUsage;
     bool ok = false;
     const int level = parser.value(levelOption).toInt(&ok);
-    if (parser.positionalArguments().size() != 1 || !ok) {
-        printError(QCoreApplication::translate("AddOperator",
-                                               "usage: upsdesk add-operator NAME --level N"));
+    if (!ok) {
+        parser.tellUsage(QCoreApplication::translate("AddOperator", "a level is needed"));
         return ExitUsage;
     }
 

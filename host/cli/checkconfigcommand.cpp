@@ -1,29 +1,27 @@
-#include "cli/checkconfigcommand.h"
+// upsdesk check-config [FILE]: says what is wrong in the configuration, line by line.
+// May touch: the configuration room, for reading.
 
+#include "cli/cliparser.h"
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
+#include "cli/subcommands.h"
 #include "config/checkconfig.h"
 #include "config/deskconfig.h"
 
-#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFileInfo>
 
 int runCheckConfig(const QStringList& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QCoreApplication::translate(
-        "CheckConfig", "Says what is wrong in the configuration, line by line."));
-    parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 QStringLiteral("the user's own without one"),
-                                 QStringLiteral("[FILE]"));
-    if (!readArguments(parser, arguments))
+    CliParser parser(QStringLiteral("check-config"));
+    if (!parser.read(arguments))
         return ExitUsage;
-    if (parser.positionalArguments().size() > 1) {
-        printError(
-            QCoreApplication::translate("CheckConfig", "usage: upsdesk check-config [FILE]"));
+    const QString path = parser.positionalArguments().value(0, DeskConfig::defaultPath());
+    // Without a file of one's own the defaults apply; a file that was named ought to be there.
+    if (!parser.positionalArguments().isEmpty() && !QFileInfo(path).isFile()) {
+        printError(QCoreApplication::translate("CheckConfig", "there is no file %1").arg(path));
         return ExitUsage;
     }
-    const QString path = parser.positionalArguments().value(0, DeskConfig::defaultPath());
     const ConfigFaults faults = checkConfig(path);
     for (const ConfigFault& fault : faults)
         printOut(QStringLiteral("%1:%2: %3: %4")

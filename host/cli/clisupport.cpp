@@ -1,10 +1,12 @@
 #include "cli/clisupport.h"
 
 #include "config/deskconfig.h"
+#include "connectors/nearestname.h"
+#include "connectors/simulator/simulatorscenarios.h"
 #include "secrets/devicesecrets.h"
 #include "secrets/secretstore.h"
 
-#include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTextStream>
 
@@ -18,16 +20,6 @@ void printOut(const QString& line)
 void printError(const QString& line)
 {
     QTextStream(stderr) << "upsdesk: " << line << '\n';
-}
-
-bool readArguments(QCommandLineParser& parser, const QStringList& arguments)
-{
-    if (!parser.parse(arguments)) {
-        printError(parser.errorText());
-        return false;
-    }
-    parser.process(arguments); // answers --help and --version
-    return true;
 }
 
 namespace {
@@ -44,6 +36,21 @@ std::optional<DeviceSettings> configuredDevice(const DeskConfig& config, const Q
         if (device.name == text || device.address.text == text)
             return device;
     return {};
+}
+
+QStringList deviceNames(const DeskConfig& config)
+{
+    QStringList names;
+    for (const DeviceSettings& device : config.devices())
+        names << device.name;
+    return names;
+}
+
+QString unknownScenario(const DeviceAddress& address)
+{
+    const bool simulated = address.scheme == DeviceAddress::Scheme::Simulator;
+    return simulated && !findScenario(address.scenario) ? unknownScenarioText(address.scenario)
+                                                        : QString();
 }
 
 DeviceSettings withStoredSecrets(const DeviceSettings& device, SecretsChoice choice)
@@ -66,17 +73,17 @@ DeviceSettings withStoredSecrets(const DeviceSettings& device, SecretsChoice cho
 
 } // namespace
 
-std::optional<DeviceSettings> settingsForAddress(const QString& text)
+ChosenDevice chooseDevice(const QString& text, const QStringList& otherNames)
 {
     const DeskConfig config = DeskConfig::load();
     if (const auto configured = configuredDevice(config, text))
-        return withStoredSecrets(*configured, config.settings().secrets);
+        return {withStoredSecrets(*configured, config.settings().secrets), {}};
 
     const ParsedAddress parsed = parseDeviceAddress(text);
-    if (!parsed.address) {
-        printError(parsed.error);
-        return {};
-    }
+    if (!parsed.address)
+        return {{}, parsed.error + didYouMean(text, otherNames + deviceNames(config))};
+    if (const QString unknown = unknownScenario(*parsed.address); !unknown.isEmpty())
+        return {{}, unknown};
     DeviceSettings settings;
     settings.address = *parsed.address;
     settings.pollInterval = parsed.address->scheme == DeviceAddress::Scheme::Simulator
@@ -84,5 +91,13 @@ std::optional<DeviceSettings> settingsForAddress(const QString& text)
                                 : config.settings().pollInterval;
     settings.user = qEnvironmentVariable(kUserVariable);
     applySecretOverrides(settings);
-    return settings;
+    return {settings, {}};
+}
+
+std::optional<DeviceSettings> settingsForAddress(const QString& text, const QStringList& otherNames)
+{
+    const ChosenDevice chosen = chooseDevice(text, otherNames);
+    if (!chosen.settings)
+        printError(chosen.error);
+    return chosen.settings;
 }

@@ -2,7 +2,7 @@
 #define CLISUPPORT_H
 
 // What the subcommands share: output streams, and settings for an address on the command line.
-// May touch: addresses and the configuration.
+// May touch: addresses, situations of the simulator, configuration and secrets.
 
 #include "connectors/devicesettings.h"
 
@@ -10,18 +10,21 @@
 
 #include <optional>
 
-class QCommandLineParser;
-
 void printOut(const QString& line);
 void printError(const QString& line);
 
-// Settings of the configured device with this address or name, else defaults for the address; with
-// secrets from the environment or, for a configured device, the secret store. Prints what is wrong
-// and returns nothing for a bad address. Runs an event loop while the store answers.
-std::optional<DeviceSettings> settingsForAddress(const QString& text);
+struct ChosenDevice {
+    std::optional<DeviceSettings> settings;
+    QString error; // why there are none, with the nearest name
+};
 
-// False after telling what is wrong with them: the caller ends with ExitUsage. --help ends the
-// program.
-bool readArguments(QCommandLineParser& parser, const QStringList& arguments);
+// Settings of the configured device with this address or name, else defaults for the address; with
+// secrets from the environment or, for a configured device, the secret store. Runs an event loop
+// while the store answers. otherNames: what else could have been meant by a wrong name.
+ChosenDevice chooseDevice(const QString& text, const QStringList& otherNames = {});
+
+// The same; prints what is wrong and returns nothing.
+std::optional<DeviceSettings> settingsForAddress(const QString& text,
+                                                 const QStringList& otherNames = {});
 
 #endif // CLISUPPORT_H

@@ -1,12 +1,14 @@
-#include "cli/command.h"
+// upsdesk command ADDRESS NAME [VALUE]: one command, asked about first, followed to its result.
+// May touch: devices and the terminal.
 
+#include "cli/cliparser.h"
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
 #include "cli/onepoll.h"
+#include "cli/subcommands.h"
 #include "connectors/connectorfactory.h"
 #include "connectors/upscommand.h"
 
-#include <QCommandLineParser>
 #include <QTextStream>
 
 #include <cstdio>
@@ -48,27 +50,18 @@ int exitCodeOf(CommandOutcome outcome)
 
 int runCommand(const QStringList& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("Command", "Sends one command and waits for its result."));
-    parser.addHelpOption();
+    CliParser parser(QStringLiteral("command"));
     const QCommandLineOption yes(QStringLiteral("yes"),
                                  QCoreApplication::translate("Command", "Do not ask."));
     parser.addOption(yes);
-    parser.addPositionalArgument(QStringLiteral("ADDRESS"), QStringLiteral("of the device"));
     parser.addPositionalArgument(QStringLiteral("NAME"),
                                  QStringLiteral("self-test, discharge-test, cancel-test, shutdown, "
                                                 "standby, wake-up, restart"));
     parser.addPositionalArgument(QStringLiteral("VALUE"), QStringLiteral("minutes of standby"),
                                  QStringLiteral("[VALUE]"));
-    if (!readArguments(parser, arguments))
+    if (!parser.read(arguments))
         return ExitUsage;
     const QStringList given = parser.positionalArguments();
-    if (given.size() < 2 || given.size() > 3) {
-        printError(QCoreApplication::translate(
-            "Command", "usage: upsdesk command ADDRESS NAME [VALUE] [--yes]"));
-        return ExitUsage;
-    }
     const auto settings = settingsForAddress(given.at(0));
     CommandRequest request = commandFromName(given.at(1), given.value(2));
     if (!request.command)

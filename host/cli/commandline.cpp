@@ -1,10 +1,6 @@
 #include "cli/commandline.h"
 
-#include "cli/addoperatorcommand.h"
-#include "cli/checkconfigcommand.h"
-#include "cli/command.h"
-#include "cli/picture.h"
-#include "cli/probe.h"
+#include "cli/subcommands.h"
 
 #include <algorithm>
 #include <iterator>
@@ -19,6 +15,7 @@ struct Subcommand {
 
 constexpr Subcommand kSubcommands[] = {
     {"probe", runProbe},
+    {"check", runCheck},
     {"picture", runPicture, true},
     {"command", runCommand},
     {"add-operator", runAddOperator},
@@ -34,6 +31,14 @@ const Subcommand* find(const QString& name)
 }
 
 } // namespace
+
+QStringList subcommandNames()
+{
+    QStringList names;
+    for (const Subcommand& subcommand : kSubcommands)
+        names << QLatin1String(subcommand.name);
+    return names;
+}
 
 bool isSubcommand(const QString& argument)
 {

@@ -7,7 +7,15 @@
 #include <QString>
 #include <QStringList>
 
-enum ExitCode { ExitOk = 0, ExitUsage = 2, ExitNotReachable = 3, ExitRefused = 4 };
+enum ExitCode {
+    ExitOk = 0,
+    ExitUsage = 2,
+    ExitNotReachable = 3,
+    ExitRefused = 4,
+    ExitResultUnknown = 5 // a command was sent, and nothing tells how it ended
+};
+
+QStringList subcommandNames();
 
 // The first argument names the mode; anything else (addresses, options) is the window.
 bool isSubcommand(const QString& argument);

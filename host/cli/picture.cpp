@@ -1,15 +1,17 @@
-#include "cli/picture.h"
+// upsdesk picture ADDRESS --out DIR: one PNG per page, with or without a display.
+// May touch: the window room and devices.
 
+#include "cli/cliparser.h"
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
 #include "cli/onepoll.h"
+#include "cli/subcommands.h"
 #include "connectors/connectorfactory.h"
 #include "fleet/commanddesk.h"
 #include "window/devicepage.h"
 #include "window/theme.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QDir>
 #include <QRegularExpression>
 #include <QThread>
@@ -57,10 +59,7 @@ bool readSize(const QString& text, QSize& size)
 
 int runPicture(const QStringList& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QCoreApplication::translate(
-        "Picture", "Writes one picture per page of a device; needs no display."));
-    parser.addHelpOption();
+    CliParser parser(QStringLiteral("picture"));
     const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Folder for the pictures."),
                                  QStringLiteral("DIR"));
     const QCommandLineOption sizeOption(QStringLiteral("size"), QStringLiteral("Size in pixels."),
@@ -68,18 +67,19 @@ int runPicture(const QStringList& arguments)
     const QCommandLineOption themeOption(QStringLiteral("theme"), QStringLiteral("light or dark."),
                                          QStringLiteral("THEME"), QStringLiteral("light"));
     parser.addOptions({out, sizeOption, themeOption});
-    parser.addPositionalArgument(QStringLiteral("ADDRESS"), QStringLiteral("of the device"));
-    if (!readArguments(parser, arguments))
+    if (!parser.read(arguments))
         return ExitUsage;
 
     QSize size = kDefaultSize;
     const QString theme = parser.value(themeOption);
-    if (parser.positionalArguments().size() != 1 || !parser.isSet(out) ||
-        !readSize(parser.value(sizeOption), size) ||
+    if (!parser.isSet(out) || !readSize(parser.value(sizeOption), size) ||
         (theme != QLatin1String("light") && theme != QLatin1String("dark"))) {
-        printError(QCoreApplication::translate(
-            "Picture",
-            "usage: upsdesk picture ADDRESS --out DIR [--size WxH] [--theme light|dark]"));
+        parser.tellUsage(
+            QCoreApplication::translate(
+                "Picture",
+                "a folder is needed, sides of %1 to %2 pixels, and a theme that there is")
+                .arg(kLeastSide)
+                .arg(kMostSide));
         return ExitUsage;
     }
     const auto settings = settingsForAddress(parser.positionalArguments().first());

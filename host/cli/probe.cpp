@@ -1,8 +1,11 @@
-#include "cli/probe.h"
+// upsdesk probe ADDRESS [--json]: one poll, every value by the name of its data key.
+// May touch: devices and readings.
 
+#include "cli/cliparser.h"
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
 #include "cli/onepoll.h"
+#include "cli/subcommands.h"
 #include "config/deskconfig.h"
 #include "connectors/connectorfactory.h"
 #include "fleet/device.h"
@@ -10,7 +13,6 @@
 
 #include "globalvar.h"
 
-#include <QCommandLineParser>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -24,6 +26,25 @@ QJsonObject valuesOf(const QMap<int, QVariant>& snapshot)
     QJsonObject values;
     for (auto it = snapshot.begin(); it != snapshot.end(); ++it)
         values.insert(keyName(it.key()), QJsonValue::fromVariant(it.value()));
+    return values;
+}
+
+QString physicalName(int key)
+{
+    QString name = keyName(key);
+    const QLatin1String half("_Hi"); // in which powers travel
+    return name.endsWith(half) ? name.chopped(half.size()) : name;
+}
+
+QJsonObject physicalOf(const Device& device)
+{
+    QJsonObject values;
+    if (const UpsReading* reading = device.reading()) {
+        const auto physical = physicalValues(*reading);
+        for (auto it = physical.begin(); it != physical.end(); ++it)
+            values.insert(physicalName(it.key()),
+                          QJsonObject{{"value", it->value}, {"unit", it->unit}});
+    }
     return values;
 }
 
@@ -78,9 +99,29 @@ QJsonObject jsonOf(const Device& device)
             {"message", device.message()},
             {"condition", conditionJson(device)},
             {"values", valuesOf(device.snapshot(SnapshotPage::Device))},
+            {"physical", physicalOf(device)},
             {"alarms", alarms},
             {"alarmTexts", texts},
             {"notes", notes}};
+}
+
+// Every value with its unit; what has none (a state, a text) as the snapshot has it.
+void printValues(const Device& device)
+{
+    const UpsReading* reading = device.reading();
+    const auto physical = reading ? physicalValues(*reading) : QMap<int, PhysicalValue>();
+    const auto snapshot = device.snapshot(SnapshotPage::Device);
+    for (auto it = snapshot.begin(); it != snapshot.end(); ++it) {
+        const auto value = physical.constFind(it.key());
+        if (keyName(it.key()).endsWith(QLatin1String("_Lo")))
+            continue; // the other half of a power
+        const QString text = value == physical.constEnd()
+                                 ? it.value().toString()
+                                 : QStringLiteral("%1 %2")
+                                       .arg(value->value, 0, 'f', value->unit.isEmpty() ? 0 : 1)
+                                       .arg(value->unit);
+        printOut(QStringLiteral("%1 %2").arg(physicalName(it.key()), -32).arg(text.trimmed()));
+    }
 }
 
 void printPlain(const Device& device)
@@ -89,9 +130,7 @@ void printPlain(const Device& device)
              (device.message().isEmpty() ? QString() : QStringLiteral(", ") + device.message()));
     const Condition condition = device.condition();
     printOut(QStringLiteral("condition: %1 (%2)").arg(condition.text, urgencyName(condition)));
-    const auto snapshot = device.snapshot(SnapshotPage::Device);
-    for (auto it = snapshot.begin(); it != snapshot.end(); ++it)
-        printOut(QStringLiteral("%1 %2").arg(keyName(it.key()), -32).arg(it.value().toString()));
+    printValues(device);
     for (const auto& alarm : alarmsOf(device))
         printOut(QStringLiteral("alarm: ") + alarm.second);
     if (const UpsReading* reading = device.reading()) {
@@ -106,22 +145,12 @@ void printPlain(const Device& device)
 
 int runProbe(const QStringList& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("Probe", "Asks a device once and prints every value."));
-    parser.addHelpOption();
+    CliParser parser(QStringLiteral("probe"));
     const QCommandLineOption json(QStringLiteral("json"),
                                   QCoreApplication::translate("Probe", "Print JSON."));
     parser.addOption(json);
-    parser.addPositionalArgument(QStringLiteral("ADDRESS"),
-                                 QStringLiteral("sim:[NAME], nut://HOST[:PORT]/UPS, "
-                                                "snmp://COMMUNITY@HOST[:PORT]"));
-    if (!readArguments(parser, arguments))
+    if (!parser.read(arguments))
         return ExitUsage;
-    if (parser.positionalArguments().size() != 1) {
-        printError(QCoreApplication::translate("Probe", "usage: upsdesk probe ADDRESS [--json]"));
-        return ExitUsage;
-    }
     const auto settings = settingsForAddress(parser.positionalArguments().first());
     if (!settings)
         return ExitUsage;

@@ -1,5 +1,7 @@
 #include "connectors/upscommand.h"
 
+#include "connectors/nearestname.h"
+
 #include "e_event.h"
 
 #include <QCoreApplication>
@@ -91,8 +93,9 @@ CommandRequest commandFromName(const QString& name, const QString& value)
     QStringList names;
     for (const CommandRow& row : kCommands)
         names << QLatin1String(row.name);
-    return {std::nullopt, Tr::tr("Unknown command \"%1\"; known are %2.")
-                              .arg(name.left(40), names.join(QStringLiteral(", ")))};
+    return {std::nullopt,
+            Tr::tr("Unknown command \"%1\"; known are %2%3")
+                .arg(name.left(40), names.join(QStringLiteral(", ")), didYouMean(name, names))};
 }
 
 QString commandName(CommandKind kind)

@@ -98,6 +98,7 @@ struct ScalarRow {
     int key;
     Value UpsReading::*value;
     double scale;
+    const char* unit; // of the value
 };
 
 constexpr double kWhole = 1.0;
@@ -107,19 +108,19 @@ constexpr double kKilowatts = 0.001;
 constexpr double kHalved = 0.5;
 
 constexpr ScalarRow kScalars[] = {
-    {realdata_SecondsOnBat, &UpsReading::secondsOnBattery, kWhole},
-    {realdata_BatVoltage, &UpsReading::batteryVoltage, kTenths},
-    {realdata_BatCurrent, &UpsReading::batteryCurrent, kTenths},
-    {realdata_BatTemp, &UpsReading::batteryTemperature, kTenths},
-    {realdata_InputLineBads, &UpsReading::inputLineBads, kWhole},
-    {realdata_ConfigIPVol, &UpsReading::ratedInputVoltage, kWhole},
-    {realdata_ConfigIPFre, &UpsReading::ratedInputFrequency, kTenths},
-    {realdata_ConfigOPVol, &UpsReading::ratedOutputVoltage, kWhole},
-    {realdata_ConfigOPFre, &UpsReading::ratedOutputFrequency, kTenths},
-    {realdata_ConfigOPVA_Hi, &UpsReading::ratedApparentPower, kHalved},
-    {realdata_ConfigOPW_Hi, &UpsReading::ratedPower, kWhole},
-    {realdata_ConfigLowVol, &UpsReading::lowTransferVoltage, kWhole},
-    {realdata_ConfigHighVol, &UpsReading::highTransferVoltage, kWhole},
+    {realdata_SecondsOnBat, &UpsReading::secondsOnBattery, kWhole, "s"},
+    {realdata_BatVoltage, &UpsReading::batteryVoltage, kTenths, "V"},
+    {realdata_BatCurrent, &UpsReading::batteryCurrent, kTenths, "A"},
+    {realdata_BatTemp, &UpsReading::batteryTemperature, kTenths, "\u00b0C"},
+    {realdata_InputLineBads, &UpsReading::inputLineBads, kWhole, ""},
+    {realdata_ConfigIPVol, &UpsReading::ratedInputVoltage, kWhole, "V"},
+    {realdata_ConfigIPFre, &UpsReading::ratedInputFrequency, kTenths, "Hz"},
+    {realdata_ConfigOPVol, &UpsReading::ratedOutputVoltage, kWhole, "V"},
+    {realdata_ConfigOPFre, &UpsReading::ratedOutputFrequency, kTenths, "Hz"},
+    {realdata_ConfigOPVA_Hi, &UpsReading::ratedApparentPower, kHalved, "VA"},
+    {realdata_ConfigOPW_Hi, &UpsReading::ratedPower, kWhole, "W"},
+    {realdata_ConfigLowVol, &UpsReading::lowTransferVoltage, kWhole, "V"},
+    {realdata_ConfigHighVol, &UpsReading::highTransferVoltage, kWhole, "V"},
 };
 
 // Quantities of a group of lines; keys of the three lines lie `stride` apart.
@@ -129,23 +130,24 @@ struct LineRow {
     LineReading UpsReading::*group;
     PhaseValues LineReading::*values;
     double scale;
+    const char* unit; // of the values
 };
 
 constexpr int kTriple = 1;
 constexpr int kWords = 2; // _Hi words, each followed by its _Lo word
 
 constexpr LineRow kLines[] = {
-    {realdata_InputVoltage_A, kTriple, &UpsReading::input, &LineReading::voltage, kWhole},
-    {realdata_InputCurrent_A, kTriple, &UpsReading::input, &LineReading::current, kTenths},
-    {realdata_InputFre_A, kTriple, &UpsReading::input, &LineReading::frequency, kTenths},
-    {realdata_InputPower_A_Hi, kWords, &UpsReading::input, &LineReading::power, kWhole},
-    {realdata_OutputVoltage_A, kTriple, &UpsReading::output, &LineReading::voltage, kWhole},
-    {realdata_OutputCurrent_A, kTriple, &UpsReading::output, &LineReading::current, kTenths},
-    {realdata_OutputPower_A_Hi, kWords, &UpsReading::output, &LineReading::power, kWhole},
-    {realdata_OutputLoad_A, kTriple, &UpsReading::output, &LineReading::load, kWhole},
-    {realdata_BypVoltage_A, kTriple, &UpsReading::bypass, &LineReading::voltage, kWhole},
-    {realdata_BypCurrent_A, kTriple, &UpsReading::bypass, &LineReading::current, kTenths},
-    {realdata_BypPower_A_Hi, kWords, &UpsReading::bypass, &LineReading::power, kWhole},
+    {realdata_InputVoltage_A, kTriple, &UpsReading::input, &LineReading::voltage, kWhole, "V"},
+    {realdata_InputCurrent_A, kTriple, &UpsReading::input, &LineReading::current, kTenths, "A"},
+    {realdata_InputFre_A, kTriple, &UpsReading::input, &LineReading::frequency, kTenths, "Hz"},
+    {realdata_InputPower_A_Hi, kWords, &UpsReading::input, &LineReading::power, kWhole, "W"},
+    {realdata_OutputVoltage_A, kTriple, &UpsReading::output, &LineReading::voltage, kWhole, "V"},
+    {realdata_OutputCurrent_A, kTriple, &UpsReading::output, &LineReading::current, kTenths, "A"},
+    {realdata_OutputPower_A_Hi, kWords, &UpsReading::output, &LineReading::power, kWhole, "W"},
+    {realdata_OutputLoad_A, kTriple, &UpsReading::output, &LineReading::load, kWhole, "%"},
+    {realdata_BypVoltage_A, kTriple, &UpsReading::bypass, &LineReading::voltage, kWhole, "V"},
+    {realdata_BypCurrent_A, kTriple, &UpsReading::bypass, &LineReading::current, kTenths, "A"},
+    {realdata_BypPower_A_Hi, kWords, &UpsReading::bypass, &LineReading::power, kWhole, "W"},
 };
 
 struct GroupRow {
@@ -335,6 +337,32 @@ QMap<int, QVariant> deviceSnapshot(const UpsReading& reading, SnapshotPage page,
         if (reading.batteryCurrent)
             map.insert(realdata_BatCurrent, nearest(std::abs(*reading.batteryCurrent) * kTenths));
     }
+    return map;
+}
+
+QMap<int, PhysicalValue> physicalValues(const UpsReading& reading)
+{
+    QMap<int, PhysicalValue> map;
+    const auto add = [&map](int key, const Value& value, const char* unit) {
+        if (value)
+            map.insert(key, {*value, QString::fromUtf8(unit)});
+    };
+    const auto addMinutes = [&map](int key, const Value& seconds) {
+        if (seconds)
+            map.insert(key, {*seconds / kSecondsPerMinute, QStringLiteral("min")});
+    };
+    addMinutes(realdata_MinutesRemaining, reading.runtime);
+    addMinutes(realdata_ConfigLowBattTime, reading.lowBatteryTime);
+    add(realdata_ChargeRemaining, reading.charge, "%");
+    for (const ScalarRow& row : kScalars)
+        add(row.key, reading.*row.value, row.unit);
+    for (const GroupRow& row : kGroups)
+        if (row.frequencyKey != kNoKey)
+            add(row.frequencyKey, (reading.*row.group).frequency[0], "Hz");
+    for (const LineRow& row : kLines)
+        for (int line = 0; line < shownLines(reading.*row.group); ++line)
+            add(row.keyA + line * row.stride,
+                ((reading.*row.group).*row.values)[static_cast<std::size_t>(line)], row.unit);
     return map;
 }
 

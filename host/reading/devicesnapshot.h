@@ -30,6 +30,15 @@ struct SnapshotLink {
 QMap<int, QVariant> deviceSnapshot(const UpsReading& reading, SnapshotPage page,
                                    const SnapshotLink& link = {});
 
+struct PhysicalValue {
+    double value;
+    QString unit; // "V", "min"; empty for a count
+};
+
+// The same values by the same keys as they were measured, neither scaled nor rounded. A power
+// stands at its _Hi key only.
+QMap<int, PhysicalValue> physicalValues(const UpsReading& reading);
+
 // The text that the alarm page shows for the alarm; AwaitingPower, which has none there, gets one
 // of its own for the event list.
 QString alarmText(Alarm alarm);

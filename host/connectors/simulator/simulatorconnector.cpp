@@ -9,22 +9,12 @@ namespace {
 
 constexpr int kCommandTime = 300;              // ms until a command's result is there
 constexpr qint64 kMaxCatchUp = 60 * 60 * 1000; // ms that one look at the clock may simulate
-constexpr int kMaxNameInMessage = 40;
 
 std::function<qint64()> monotonicClock()
 {
     QElapsedTimer timer;
     timer.start();
     return [timer] { return timer.elapsed(); };
-}
-
-QStringList knownNames()
-{
-    QStringList names;
-    for (const ScenarioInfo& info : simulatorScenarios())
-        if (!info.name.isEmpty())
-            names << info.name;
-    return names;
 }
 
 } // namespace
@@ -41,9 +31,7 @@ SimulatorConnector::SimulatorConnector(const DeviceSettings& settings, Clock clo
     if (const auto scenario = findScenario(name))
         m_player.emplace(*scenario, settings.seed);
     else
-        m_refusal = tr("Unknown scenario \"%1\"; known are %2, and sim: alone for the whole day")
-                        .arg(name.simplified().left(kMaxNameInMessage),
-                             knownNames().join(QStringLiteral(", ")));
+        m_refusal = unknownScenarioText(name);
 }
 
 void SimulatorConnector::poll()

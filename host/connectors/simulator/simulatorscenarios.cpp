@@ -1,5 +1,7 @@
 #include "connectors/simulator/simulatorscenarios.h"
 
+#include "connectors/nearestname.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -119,4 +121,16 @@ std::optional<Scenario> findScenario(const QString& name)
                 return Scenario{unit.profile, situation.charge, situation.steps,
                                 situation.repeatFrom};
     return std::nullopt;
+}
+
+QString unknownScenarioText(const QString& name)
+{
+    constexpr int kMaxNameInMessage = 40;
+    QStringList names;
+    for (const ScenarioInfo& info : simulatorScenarios())
+        if (!info.name.isEmpty())
+            names << info.name;
+    return Tr::tr("Unknown scenario \"%1\"; known are %2, and sim: alone for the whole day%3")
+        .arg(name.simplified().left(kMaxNameInMessage), names.join(QStringLiteral(", ")),
+             didYouMean(name, names));
 }

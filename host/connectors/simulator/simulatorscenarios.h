@@ -43,4 +43,7 @@ std::vector<ScenarioInfo> simulatorScenarios();
 // Empty for a name that is not in the list; upper and lower case do not matter.
 std::optional<Scenario> findScenario(const QString& name);
 
+// That there is no such scenario, which ones there are, and which one may have been meant.
+QString unknownScenarioText(const QString& name);
+
 #endif // SIMULATORSCENARIOS_H
