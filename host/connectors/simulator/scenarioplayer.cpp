@@ -1,5 +1,7 @@
 #include "connectors/simulator/scenarioplayer.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace {
@@ -10,8 +12,20 @@ ScenarioPlayer::ScenarioPlayer(const Scenario& scenario, quint32 seed)
     : m_scenario(scenario)
     , m_ups(*scenario.profile, scenario.charge, seed)
 {
+    m_ups.setPace(scenario.pace);
     enter(0);
     advance(kLeadIn);
+}
+
+UpsReading ScenarioPlayer::reading() const
+{
+    UpsReading reading = m_ups.reading();
+    if (m_scenario.pace > 1)
+        reading.notes << QCoreApplication::translate(
+                             "ScenarioPlayer", "Simulated day, %1x: the battery lives so much "
+                                               "faster; what is ordered takes its own time.")
+                             .arg(m_scenario.pace);
+    return reading;
 }
 
 void ScenarioPlayer::advance(qint64 milliseconds)

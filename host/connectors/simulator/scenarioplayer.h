@@ -19,6 +19,9 @@ public:
     // How far the device can be reached at this moment: Live, Stale or Lost.
     LinkState link() const { return step().link; }
 
+    // What the UPS measures; one that lives faster than the clock says so.
+    UpsReading reading() const;
+
     SimulatedUps& ups() { return m_ups; }
     const SimulatedUps& ups() const { return m_ups; }
 

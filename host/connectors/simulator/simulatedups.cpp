@@ -41,8 +41,9 @@ constexpr double kLeastDemand = 0.02;      // for the estimate of the time left
 // Times, s
 constexpr double kTickSeconds = SimulatedUps::kTick / 1000.0;
 constexpr int kTicksPerSecond = 1000 / SimulatedUps::kTick;
-constexpr double kLowBatteryTime = 60;
-constexpr double kImminentTime = 5; // from here a shutdown counts as imminent
+constexpr double kLowBatteryTime = 300;
+constexpr double kImminentTime = 5;     // from here a planned shutdown counts as imminent
+constexpr double kImminentRuntime = 30; // and from here one for want of energy
 constexpr int kSelfTestTime = 10;
 
 constexpr int kEarlierFailures = 3; // of the mains, in its life before
@@ -96,6 +97,11 @@ void SimulatedUps::setDemand(double fraction)
     m_demand = std::max(fraction, 0.0);
 }
 
+void SimulatedUps::setPace(int pace)
+{
+    m_pace = std::max(pace, 1);
+}
+
 void SimulatedUps::advance(qint64 milliseconds)
 {
     m_pending += std::max<qint64>(milliseconds, 0);
@@ -114,7 +120,7 @@ void SimulatedUps::tick()
     moveEnergy();
     watchTest();
     warmUp();
-    m_ticksOnBattery = onBattery() ? m_ticksOnBattery + 1 : 0;
+    m_ticksOnBattery = onBattery() ? m_ticksOnBattery + pace() : 0;
 }
 
 void SimulatedUps::countDown()
@@ -131,7 +137,7 @@ void SimulatedUps::countDown()
 
 void SimulatedUps::moveEnergy()
 {
-    const double energy = batteryPower() * kTickSeconds;
+    const double energy = batteryPower() * kTickSeconds * pace();
     m_stored += energy > 0 ? energy * kChargeAcceptance : energy;
     m_stored = std::clamp(m_stored, 0.0, m_profile.capacity);
     if (stateOfCharge() >= kFullCharge)
@@ -298,7 +304,7 @@ bool SimulatedUps::shutdownImminent() const
 {
     if (m_shutdownIn && *m_shutdownIn <= kImminentTime * kTicksPerSecond)
         return true;
-    return onBattery() && runtime() <= kImminentTime;
+    return onBattery() && runtime() <= kImminentRuntime;
 }
 
 bool SimulatedUps::overloaded() const

@@ -35,6 +35,9 @@ public:
     void setMains(bool present);
     void setBypass(bool on);         // output by the bypass while there are mains
     void setDemand(double fraction); // mean load, of the rating
+    // Seconds of the battery's life in one second. What somebody has ordered (a test, a shutdown
+    // and what follows it) takes its own time nevertheless.
+    void setPace(int pace);
 
     // Negative times count as 0; what is left of a tick is kept for the next call.
     void advance(qint64 milliseconds);
@@ -60,6 +63,7 @@ private:
     void watchTest();
     void warmUp();
 
+    int pace() const { return m_test || m_shutdownIn || m_wakeIn ? 1 : m_pace; }
     QString refusal(const UpsCommand& command) const;
     void beginTest(CommandKind kind);
     void endTest(TestResult result);
@@ -96,6 +100,7 @@ private:
     bool m_mains = true;
     bool m_bypass = false;
     double m_demand = 0.5;
+    int m_pace = 1;
 
     double m_stored; // J
     bool m_recharge; // until the battery is full again

@@ -70,7 +70,7 @@ PollResult SimulatorConnector::pollResult()
     catchUp();
     result.state = m_player->link();
     if (result.state == LinkState::Live)
-        result.reading = m_player->ups().reading();
+        result.reading = m_player->reading();
     else if (result.state == LinkState::Stale)
         result.message = tr("The simulator answers, the simulated UPS behind it is silent");
     else

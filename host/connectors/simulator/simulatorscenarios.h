@@ -29,6 +29,7 @@ struct Scenario {
     double charge; // of the battery at the start, 0 to 1
     std::vector<ScenarioStep> steps;
     int repeatFrom = 0; // the step that follows the last one
+    int pace = 1;       // seconds of the battery's life in one second
 };
 
 // For dialogs and usage texts: the name is what follows "sim:" in an address, empty for the day.

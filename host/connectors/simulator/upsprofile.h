@@ -4,8 +4,8 @@
 // What stands on the plate of a simulated UPS.
 // May touch: nothing.
 
-// The batteries are small and the chargers strong, so that an outage down to low battery and the
-// recharge after it take minutes; voltage, current, power and time still agree with each other.
+// A full battery carries the usual load for about 25 minutes. The chargers are strong, so that a
+// recharge takes as long; voltage, current, power and time still agree with each other.
 struct UpsProfile {
     const char* model;
     const char* name;
@@ -21,7 +21,7 @@ struct UpsProfile {
 
 // 3 kVA with a string of 72 V; 30 kVA with 384 V.
 inline constexpr UpsProfile kSinglePhaseUps{
-    "SIM-3000 online, 3 kVA", "Simulated UPS", 1, 3000, 2700, 40, 36, 0.10, 250e3, 2000};
+    "SIM-3000 online, 3 kVA", "Simulated UPS", 1, 3000, 2700, 40, 36, 0.10, 2e6, 2000};
 inline constexpr UpsProfile kThreePhaseUps{"SIM-30K online, 30 kVA",
                                            "Simulated three-phase UPS",
                                            3,
@@ -30,7 +30,7 @@ inline constexpr UpsProfile kThreePhaseUps{"SIM-30K online, 30 kVA",
                                            400,
                                            192,
                                            0.28,
-                                           2.5e6,
+                                           2e7,
                                            20000};
 
 #endif // UPSPROFILE_H
