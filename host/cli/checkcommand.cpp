@@ -87,7 +87,7 @@ const Figure kFigures[] = {
     {"battery_voltage", "V", [](const UpsReading& r) { return r.batteryVoltage; }},
 };
 
-struct Limits {
+struct GivenLimits {
     QMap<QString, PluginRange> warning;
     QMap<QString, PluginRange> critical;
 };
@@ -159,7 +159,7 @@ QString numberText(double value)
 }
 
 // What the given limits say of a value; the worse state stays.
-void judge(const Quantity& quantity, double value, const Limits& limits, State& state,
+void judge(const Quantity& quantity, double value, const GivenLimits& limits, State& state,
            QStringList& texts)
 {
     const QString name = QLatin1String(quantity.name);
@@ -175,7 +175,7 @@ void judge(const Quantity& quantity, double value, const Limits& limits, State& 
     }
 }
 
-QString performanceOf(const Quantity& quantity, double value, const Limits& limits,
+QString performanceOf(const Quantity& quantity, double value, const GivenLimits& limits,
                       const Thresholds& thresholds)
 {
     const QString name = QLatin1String(quantity.name);
@@ -192,7 +192,7 @@ QString performanceOf(const Quantity& quantity, double value, const Limits& limi
     return data;
 }
 
-int report(const Device& device, const Limits& limits, const Thresholds& thresholds)
+int report(const Device& device, const GivenLimits& limits, const Thresholds& thresholds)
 {
     State state = stateOf(device);
     QStringList texts{device.condition().text};
@@ -234,7 +234,7 @@ int runCheck(const QStringList& arguments)
     const QCommandLineOption critical(QStringLiteral("critical"), Tr::tr("When it is critical."),
                                       QStringLiteral("QUANTITY=RANGE"));
     parser.addOptions({warning, critical});
-    Limits limits;
+    GivenLimits limits;
     for (const QString& wrong :
          {parser.fault(arguments), readLimits(parser.values(warning), limits.warning),
           readLimits(parser.values(critical), limits.critical)})

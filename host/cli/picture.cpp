@@ -55,77 +55,100 @@ bool readSize(const QString& text, QSize& size)
            size.height() <= kMostSide;
 }
 
-} // namespace
+struct Wanted {
+    QString address;
+    QDir folder;
+    QSize size = kDefaultSize;
+    Theme theme = Theme::Light;
+};
 
-int runPicture(const QStringList& arguments)
+// Nothing after telling what is wrong with the arguments.
+std::optional<Wanted> readWanted(const QStringList& arguments)
 {
     CliParser parser(QStringLiteral("picture"));
     const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Folder for the pictures."),
                                  QStringLiteral("DIR"));
-    const QCommandLineOption sizeOption(QStringLiteral("size"), QStringLiteral("Size in pixels."),
-                                        QStringLiteral("WxH"), QStringLiteral("1024x768"));
-    const QCommandLineOption themeOption(QStringLiteral("theme"), QStringLiteral("light or dark."),
-                                         QStringLiteral("THEME"), QStringLiteral("light"));
-    parser.addOptions({out, sizeOption, themeOption});
+    const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("Size in pixels."),
+                                  QStringLiteral("WxH"), QStringLiteral("1024x768"));
+    const QCommandLineOption theme(QStringLiteral("theme"), QStringLiteral("light or dark."),
+                                   QStringLiteral("THEME"), QStringLiteral("light"));
+    parser.addOptions({out, size, theme});
     if (!parser.read(arguments))
-        return ExitUsage;
+        return {};
+    const int chosen = QStringList{"light", "dark"}.indexOf(parser.value(theme));
+    Wanted wanted{parser.positionalArguments().first(), QDir(parser.value(out))};
+    wanted.theme = chosen > 0 ? Theme::Dark : Theme::Light;
+    if (parser.isSet(out) && chosen >= 0 && readSize(parser.value(size), wanted.size))
+        return wanted;
+    parser.tellUsage(
+        QCoreApplication::translate(
+            "Picture", "a folder is needed, sides of %1 to %2 pixels, and a theme that there is")
+            .arg(kLeastSide)
+            .arg(kMostSide));
+    return {};
+}
 
-    QSize size = kDefaultSize;
-    const QString theme = parser.value(themeOption);
-    if (!parser.isSet(out) || !readSize(parser.value(sizeOption), size) ||
-        (theme != QLatin1String("light") && theme != QLatin1String("dark"))) {
-        parser.tellUsage(
-            QCoreApplication::translate(
-                "Picture",
-                "a folder is needed, sides of %1 to %2 pixels, and a theme that there is")
-                .arg(kLeastSide)
-                .arg(kMostSide));
-        return ExitUsage;
-    }
-    const auto settings = settingsForAddress(parser.positionalArguments().first());
-    const QDir dir(parser.value(out));
-    if (!settings)
-        return ExitUsage;
-    if (!dir.mkpath(QStringLiteral("."))) {
-        printError(QCoreApplication::translate("Picture", "cannot make the folder %1")
-                       .arg(dir.absolutePath()));
-        return ExitUsage;
-    }
-
-    applyTheme(theme == QLatin1String("dark") ? Theme::Dark : Theme::Light);
-    Fleet fleet(makeConnector); // holds no device: the pictures keep their own pace
-    EventLog log;
-    CommandDesk desk(fleet, log, [] { return CommandDesk::Operator{}; });
-    Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
-    DevicePage page(device, desk);
-    qInstallMessageHandler(dropSizeHintRemarks);
-    page.resize(size);
-    page.setAttribute(Qt::WA_DontShowOnScreen);
-    page.show();
-    page.finishViews();
-    page.showView(DevicePage::ChartView);
-    QApplication::processEvents();
+// Enough readings for the charts to show a line; fewer from a device that is not live.
+void fill(DevicePage& page, Device& device)
+{
     for (int i = 0; i < kChartReadings; ++i) {
         pollOnce(device);
         page.refresh();
         page.grab(); // the charts keep no sample before they have been painted
         if (device.link() != LinkState::Live)
-            break;
+            return;
         QThread::msleep(kBetweenReadingsMs);
     }
+}
 
+// False after telling which picture could not be written.
+bool savePages(DevicePage& page, const QDir& folder)
+{
     for (const Page& shown : kPages) {
         page.showView(shown.view);
         if (shown.view == DevicePage::DeviceView)
             page.showTab(shown.tab);
         page.refresh();
         QApplication::processEvents();
-        const QString file = dir.filePath(QLatin1String(shown.file) + QStringLiteral(".png"));
+        const QString file = folder.filePath(QLatin1String(shown.file) + QStringLiteral(".png"));
         if (!page.grab().save(file)) {
             printError(QCoreApplication::translate("Picture", "cannot write %1").arg(file));
-            return ExitUsage;
+            return false;
         }
         printOut(file);
     }
+    return true;
+}
+
+} // namespace
+
+int runPicture(const QStringList& arguments)
+{
+    const auto wanted = readWanted(arguments);
+    const auto settings = wanted ? settingsForAddress(wanted->address) : std::nullopt;
+    if (!settings)
+        return ExitUsage;
+    if (!wanted->folder.mkpath(QStringLiteral("."))) {
+        printError(QCoreApplication::translate("Picture", "cannot make the folder %1")
+                       .arg(wanted->folder.absolutePath()));
+        return ExitUsage;
+    }
+
+    applyTheme(wanted->theme);
+    Fleet fleet(makeConnector); // holds no device: the pictures keep their own pace
+    EventLog log;
+    CommandDesk desk(fleet, log, [] { return CommandDesk::Operator{}; });
+    Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
+    DevicePage page(device, desk);
+    qInstallMessageHandler(dropSizeHintRemarks);
+    page.resize(wanted->size);
+    page.setAttribute(Qt::WA_DontShowOnScreen);
+    page.show();
+    page.finishViews();
+    page.showView(DevicePage::ChartView);
+    QApplication::processEvents();
+    fill(page, device);
+    if (!savePages(page, wanted->folder))
+        return ExitUsage;
     return device.link() == LinkState::Live ? ExitOk : ExitNotReachable;
 }
