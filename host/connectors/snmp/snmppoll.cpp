@@ -240,8 +240,8 @@ void SnmpPoll::finishWithReading()
     if (!m_reading.alarms.contains(Alarm::CommunicationsLost))
         return finish(LinkState::Live);
     finish(LinkState::Stale,
-           tr("The agent at %1 answers, but has lost contact with its UPS; the values that it "
-              "repeats are not shown.")
+           tr("The agent at %1 answers, but has lost contact with its UPS; what it repeats is "
+              "not taken for new.")
                .arg(m_limits.peer));
 }
 
