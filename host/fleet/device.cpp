@@ -75,6 +75,7 @@ void Device::setThresholds(const Thresholds& thresholds)
 {
     m_thresholds = thresholds;
     m_past.limits = m_reading ? limitsBeyond(*m_reading, m_thresholds) : Limits();
+    m_judgedLink.reset();
     noteCondition();
 }
 
@@ -141,6 +142,7 @@ void Device::takeResult(const PollResult& result)
     }
     if (result.state == LinkState::Live)
         takeReading(result.reading, asked);
+    m_judgedLink.reset();
     noteCondition();
     emit polled();
 }
@@ -165,11 +167,23 @@ void Device::takeReading(const UpsReading& reading, qint64 askedBootMs)
         m_reading->alarms.insert(Alarm::OnBattery);
 }
 
+// Lists ask for it often, and between two polls only the link can change.
+Condition Device::condition() const
+{
+    return m_judgedLink == link() ? m_noticed.condition
+                                  : conditionOf(link(), reading(), m_thresholds, m_past);
+}
+
 void Device::noteCondition()
 {
-    const Condition now = condition();
-    if (m_noticed.since.isValid() && isSameCondition(now, m_noticed.condition))
+    if (m_judgedLink == link())
         return;
+    const Condition now = condition();
+    m_judgedLink = link();
+    if (m_noticed.since.isValid() && isSameCondition(now, m_noticed.condition)) {
+        m_noticed.condition = now; // the numbers in its texts
+        return;
+    }
     const bool wasLive = isOfLiveDevice(m_noticed.condition.kind);
     const bool isLive = isOfLiveDevice(now.kind);
     if (wasLive && !isLive)

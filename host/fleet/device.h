@@ -44,7 +44,7 @@ public:
     qint64 readingNumber() const { return m_readingNumber; }
     // ms since the poll began that brought the last good reading; -1 before the first.
     qint64 ageMs() const;
-    Condition condition() const { return conditionOf(link(), reading(), m_thresholds, m_past); }
+    Condition condition() const;
     void setThresholds(const Thresholds& thresholds);
     // Since when the desk has seen the device in that condition. A poll or two that failed in
     // between do not make it a new one.
@@ -104,8 +104,9 @@ private:
     ConditionPast m_past;
     qint64 m_testSinceMs = -1; // boot ms of the first reading that told of the test; -1: no test
     Noticed m_noticed;
-    Noticed m_beforeGap;       // the last of the device while it was live
-    qint64 m_pollStarted = -1; // boot ms; -1: no poll is under way
+    std::optional<LinkState> m_judgedLink; // m_noticed was judged by; empty: judge anew
+    Noticed m_beforeGap;                   // the last of the device while it was live
+    qint64 m_pollStarted = -1;             // boot ms; -1: no poll is under way
     qint64 m_heldUntilMs = 0;
     bool m_followUp = false; // poll again when the one under way has ended
 };
