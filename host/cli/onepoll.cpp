@@ -1,18 +1,17 @@
 #include "cli/onepoll.h"
 
+#include "fleet/singlepoll.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 
 void pollOnce(Device& device)
 {
-    constexpr int checkEveryMs = 500;
     QEventLoop loop;
-    QObject::connect(&device, &Device::polled, &loop, &QEventLoop::quit);
-    QTimer limit;
-    QObject::connect(&limit, &QTimer::timeout, &device, &Device::checkPollLimit);
-    limit.start(checkEveryMs);
-    QTimer::singleShot(0, &loop, [&device] { device.startPoll(); });
+    SinglePoll poll(device);
+    QObject::connect(&poll, &SinglePoll::finished, &loop, &QEventLoop::quit);
+    QTimer::singleShot(0, &poll, &SinglePoll::start);
     loop.exec();
 }
 

@@ -5,6 +5,7 @@
 // May touch: devices and connectors by their base class; no widget.
 
 #include "fleet/fleet.h"
+#include "fleet/singlepoll.h"
 
 class ConnectionTest : public QObject
 {
@@ -15,7 +16,7 @@ public:
                    QObject* parent = nullptr);
 
     // Ends with exactly one finished(), in any case; call it once. Deleting the test breaks it off.
-    void start();
+    void start() { m_poll.start(); }
     // When finished: live, stale, lost or refused, with message and reading.
     const Device& device() const { return m_device; }
 
@@ -24,7 +25,7 @@ signals:
 
 private:
     Device m_device;
-    QTimer m_limitTimer;
+    SinglePoll m_poll;
 };
 
 #endif // CONNECTIONTEST_H
