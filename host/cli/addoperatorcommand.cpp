@@ -39,7 +39,7 @@ SecretText askSecret(const QString& prompt)
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &before);
         QTextStream(stderr) << '\n';
     }
-    const SecretText secret(line);
+    SecretText secret(line);
     line.fill('\0');
     return secret;
 }
