@@ -6,11 +6,11 @@
 #include "window/devicelistmodel.h"
 #include "window/devicepage.h"
 #include "window/devicesortmodel.h"
+#include "window/devicesummary.h"
 #include "window/linkband.h"
 #include "window/linkcover.h"
 #include "window/logindialog.h"
 #include "window/mainwindow.h"
-#include "window/valuewords.h"
 
 #include "childform.h"
 #include "energyline.h"

@@ -217,7 +217,8 @@ void TestDeviceSnapshot::phases()
     const QStringList notes = readingNotes(reading);
     QCOMPARE(notes.size(), lines == 2 ? 2 : 1);
     QVERIFY(notes.last().contains("battery voltage")); // not given, and so shown as 0
-    QVERIFY(!notes.last().contains("bypass"));
+    QVERIFY(!notes.last().contains("bypass voltage"));
+    QVERIFY(notes.last().contains("bypass frequency"));
 }
 
 void TestDeviceSnapshot::alarmKeysAlwaysComplete()

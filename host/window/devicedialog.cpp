@@ -2,10 +2,10 @@
 
 #include "config/deskconfig.h"
 #include "window/deviceadvanced.h"
+#include "window/devicesummary.h"
 #include "window/nutfields.h"
 #include "window/simulatorfields.h"
 #include "window/snmpfields.h"
-#include "window/valuewords.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

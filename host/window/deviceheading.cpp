@@ -1,73 +1,96 @@
 #include "window/deviceheading.h"
 
+#include "window/devicesummary.h"
 #include "window/urgencycolors.h"
-#include "window/valuewords.h"
 
 #include "elidedlabel.h"
 
 #include <QHBoxLayout>
-#include <QLocale>
+#include <QToolButton>
 #include <QVBoxLayout>
+#include <QWhatsThis>
 
 namespace {
 
 constexpr int kShortestText = 1; // characters that are never cut
+constexpr int kMostAlarms = 4;   // in words; the alarm page has them all
 
-// Today the time is enough; before, the day as well.
-QString sinceText(const QDateTime& since)
+// Styling anew costs, and ages are told every second.
+void styleAs(QWidget* widget, const QString& style)
 {
-    const bool today = since.date() == QDate::currentDate();
-    const QString format = today ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd HH:mm");
-    return DeviceHeading::tr("since %1").arg(since.toString(format));
+    if (widget->styleSheet() != style)
+        widget->setStyleSheet(style);
 }
 
 } // namespace
 
 DeviceHeading::DeviceHeading(QWidget* parent)
     : QFrame(parent)
+    , m_alarms(new QLabel)
+    , m_notes(new QToolButton)
 {
     setObjectName(QStringLiteral("DeviceHeading"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(16, 10, 16, 10);
     row->setSpacing(28);
-
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
-    auto* first = new QHBoxLayout;
-    first->setSpacing(10);
-    m_name = new ElidedLabel({}, kShortestText);
-    m_name->setObjectName(QStringLiteral("HeadingName"));
-    m_condition = new ElidedLabel({}, kShortestText);
-    m_condition->setObjectName(QStringLiteral("HeadingCondition"));
-    m_since = new ElidedLabel({}, kShortestText);
-    m_since->setObjectName(QStringLiteral("HeadingSmall"));
-    first->addWidget(m_condition);
-    first->addWidget(m_since);
-    first->addStretch(1);
-    m_age = new ElidedLabel({}, kShortestText);
-    m_age->setObjectName(QStringLiteral("HeadingSmall"));
-    m_notes = new ElidedLabel({}, kShortestText);
-    m_notes->setObjectName(QStringLiteral("HeadingSmall"));
-    texts->addWidget(m_name);
-    texts->addLayout(first);
-    texts->addWidget(m_age);
-    texts->addWidget(m_notes);
     row->addLayout(texts, 1);
-
-    m_charge = addFigure(tr("Battery"));
-    m_runtime = addFigure(tr("Lasts"));
-    m_load = addFigure(tr("Load"));
+    m_name = addLine(texts, "HeadingName");
+    texts->addLayout(makeStateLine());
+    m_alarms->setObjectName(QStringLiteral("HeadingAlarms"));
+    m_alarms->setTextFormat(Qt::PlainText);
+    m_alarms->setWordWrap(true);
+    texts->addWidget(m_alarms);
+    texts->addLayout(makeAgeLine());
+    std::size_t number = 0;
+    for (const DeviceFigure& figure : deviceFigures(nullptr))
+        row->addLayout(makeFigure(m_figures[number++], figure.caption));
 }
 
-QLabel* DeviceHeading::addFigure(const QString& caption)
+ElidedLabel* DeviceHeading::addLine(QLayout* layout, const char* name)
+{
+    auto* label = new ElidedLabel({}, kShortestText);
+    label->setObjectName(QLatin1String(name));
+    layout->addWidget(label);
+    return label;
+}
+
+QLayout* DeviceHeading::makeStateLine()
+{
+    auto* line = new QHBoxLayout;
+    line->setSpacing(10);
+    m_condition = addLine(line, "HeadingCondition");
+    m_since = addLine(line, "HeadingSmall");
+    line->addStretch(1);
+    return line;
+}
+
+QLayout* DeviceHeading::makeAgeLine()
+{
+    auto* line = new QHBoxLayout;
+    line->setSpacing(10);
+    m_age = addLine(line, "HeadingSmall");
+    m_notes->setObjectName(QStringLiteral("HeadingNotes"));
+    m_notes->setText(QStringLiteral("i"));
+    m_notes->setFocusPolicy(Qt::StrongFocus);
+    line->addWidget(m_notes);
+    line->addStretch(1);
+    connect(m_notes, &QToolButton::clicked, this, [this] {
+        QWhatsThis::showText(m_notes->mapToGlobal(m_notes->rect().bottomLeft()), m_notes->toolTip(),
+                             m_notes);
+    });
+    return line;
+}
+
+QLayout* DeviceHeading::makeFigure(QLabel*& figure, const QString& caption)
 {
     auto* column = new QVBoxLayout;
     column->setSpacing(0);
-    auto* figure = new QLabel;
+    figure = new QLabel;
     figure->setTextFormat(Qt::PlainText);
     figure->setObjectName(QStringLiteral("HeadingFigure"));
     figure->setAlignment(Qt::AlignRight | Qt::AlignBottom);
-    figure->setAccessibleName(caption);
     auto* label = new QLabel(caption);
     label->setObjectName(QStringLiteral("HeadingSmall"));
     label->setAlignment(Qt::AlignRight | Qt::AlignTop);
@@ -75,31 +98,60 @@ QLabel* DeviceHeading::addFigure(const QString& caption)
     column->addWidget(figure);
     column->addWidget(label);
     column->addStretch(1);
-    static_cast<QHBoxLayout*>(layout())->addLayout(column);
-    return figure;
+    return column;
 }
 
 void DeviceHeading::show(const Device& device)
 {
-    const UpsReading* reading = device.reading();
-    const Condition condition = device.condition();
     m_name->setText(device.name());
-    m_condition->setText(condition.text);
-    // Styling anew costs, and ages are told every second.
-    const QString color = urgencyTextColor(condition.urgency, palette()).name();
-    if (color != m_conditionColor) {
-        m_conditionColor = color;
-        m_condition->setStyleSheet(QStringLiteral("color: %1;").arg(color));
-    }
+    showCondition(device.condition());
     m_since->setText(sinceText(device.conditionSince()));
-    m_age->setText(linkText(device.link(), device.ageMs()) + QStringLiteral("  \u00b7  ") +
+    m_age->setText(dataText(device).section(QLatin1Char('\n'), -1) + QStringLiteral("  \u00b7  ") +
                    device.address());
-    const QString notes =
-        reading ? (readingNotes(*reading) + reading->alarmTexts).join(QStringLiteral("  \u00b7  "))
-                : QString();
+    showFigures(device);
+    showNotes(device.reading());
+}
+
+void DeviceHeading::showCondition(const Condition& condition)
+{
+    const auto colored = [this](Urgency urgency) {
+        return QStringLiteral("color: %1;").arg(urgencyTextColor(urgency, palette()).name());
+    };
+    m_condition->setText(condition.state);
+    styleAs(m_condition, colored(condition.urgency));
+
+    QStringList alarms = condition.alarms.mid(0, kMostAlarms);
+    if (const int more = condition.alarms.size() - alarms.size(); more > 0)
+        alarms << tr("and %1 more").arg(more);
+    m_alarms->setVisible(!alarms.isEmpty());
+    m_alarms->setText(alarms.join(QStringLiteral("  \u00b7  ")));
+    styleAs(m_alarms, colored(condition.alarmUrgency));
+}
+
+void DeviceHeading::showFigures(const Device& device)
+{
+    const bool live = device.link() == LinkState::Live;
+    const QColor text = palette().color(QPalette::WindowText);
+    const QColor faded = fadedColor(text, palette().color(QPalette::Base));
+    std::size_t number = 0;
+    for (const DeviceFigure& figure : deviceFigures(device.reading())) {
+        QLabel* label = m_figures[number++];
+        label->setText(figure.value);
+        label->setAccessibleName(figure.caption + QLatin1Char(' ') + figure.value);
+        styleAs(label, live ? QString()
+                            : QStringLiteral("color: %1; font-weight: normal;").arg(faded.name()));
+    }
+}
+
+void DeviceHeading::showNotes(const UpsReading* reading)
+{
+    const QStringList notes = reading ? readingNotes(*reading) : QStringList();
     m_notes->setVisible(!notes.isEmpty());
-    m_notes->setText(notes);
-    m_charge->setText(chargeText(reading));
-    m_runtime->setText(runtimeText(reading));
-    m_load->setText(loadText(reading));
+    if (notes.join(QLatin1Char(' ')) == m_notes->accessibleName())
+        return;
+    m_notes->setAccessibleName(notes.join(QLatin1Char(' ')));
+    QString tip;
+    for (const QString& note : notes)
+        tip += QStringLiteral("<p>%1</p>").arg(note.toHtmlEscaped());
+    m_notes->setToolTip(QStringLiteral("<qt>%1</qt>").arg(tip));
 }

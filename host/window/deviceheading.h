@@ -1,15 +1,20 @@
 #ifndef DEVICEHEADING_H
 #define DEVICEHEADING_H
 
-// The line above a device's views: condition and since when, battery, load, age of the data.
+// The line above a device's views: condition and since when, what is wrong, battery, load, age of
+// the data. What the device does not report stands behind an (i).
 // May touch: devices.
 
 #include "fleet/device.h"
 
 #include <QFrame>
 
+#include <array>
+
 class ElidedLabel;
 class QLabel;
+class QToolButton;
+class QVBoxLayout;
 
 class DeviceHeading : public QFrame
 {
@@ -21,17 +26,21 @@ public:
     void show(const Device& device);
 
 private:
-    QLabel* addFigure(const QString& caption);
+    ElidedLabel* addLine(QLayout* layout, const char* name);
+    QLayout* makeStateLine();
+    QLayout* makeAgeLine();
+    QLayout* makeFigure(QLabel*& figure, const QString& caption);
+    void showCondition(const Condition& condition);
+    void showFigures(const Device& device);
+    void showNotes(const UpsReading* reading);
 
     ElidedLabel* m_name;
     ElidedLabel* m_condition;
-    QString m_conditionColor;
     ElidedLabel* m_since;
+    QLabel* m_alarms;
     ElidedLabel* m_age;
-    ElidedLabel* m_notes;
-    QLabel* m_charge;
-    QLabel* m_runtime;
-    QLabel* m_load;
+    QToolButton* m_notes;
+    std::array<QLabel*, 3> m_figures;
 };
 
 #endif // DEVICEHEADING_H

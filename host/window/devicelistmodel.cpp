@@ -1,6 +1,9 @@
 #include "window/devicelistmodel.h"
 
-#include "window/valuewords.h"
+#include "window/devicesummary.h"
+#include "window/urgencycolors.h"
+
+#include <QToolTip>
 
 namespace {
 
@@ -19,6 +22,38 @@ constexpr CountWord kCountWords[] = {
     {Urgency::Notice, QT_TRANSLATE_NOOP("DeviceListModel", "%1 notice")},
     {Urgency::Normal, QT_TRANSLATE_NOOP("DeviceListModel", "%1 normal")},
 };
+
+// "Battery 87 %, Lasts 21 min, Load 34 %, "; nothing where the device is silent.
+QString spokenFigures(const Device& device)
+{
+    QString spoken;
+    if (device.link() == LinkState::Live)
+        for (const DeviceFigure& figure : deviceFigures(device.reading()))
+            spoken += figure.caption + QLatin1Char(' ') + figure.value + QStringLiteral(", ");
+    return spoken;
+}
+
+// A tool tip would take markup for markup, so all of it is escaped. Figures that are not live are
+// as faded here as elsewhere.
+QString toolTipOf(const Device& device)
+{
+    QStringList figures;
+    for (const DeviceFigure& figure : deviceFigures(device.reading()))
+        figures << figure.caption + QLatin1Char(' ') + figure.value;
+    const QPalette palette = QToolTip::palette();
+    const QColor text = palette.color(QPalette::ToolTipText);
+    const QColor color = device.link() == LinkState::Live
+                             ? text
+                             : fadedColor(text, palette.color(QPalette::ToolTipBase));
+    const QString data =
+        dataText(device).toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>"));
+    const Condition condition = device.condition();
+    const QStringList said = QStringList(condition.state) + condition.alarms;
+    return QStringLiteral("<qt><b>%1</b><br>%2<br><font color=\"%3\">%4</font><br>%5<br>%6</qt>")
+        .arg(device.name().toHtmlEscaped(), said.join(QStringLiteral(", ")).toHtmlEscaped(),
+             color.name(), figures.join(QStringLiteral("  \u00b7  ")), data,
+             device.address().toHtmlEscaped());
+}
 
 } // namespace
 
@@ -79,11 +114,9 @@ QVariant DeviceListModel::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole:
         return QStringLiteral("%1, %2, %3")
             .arg(device->name(), device->condition().text,
-                 linkText(device->link(), device->ageMs()));
+                 spokenFigures(*device) + linkText(device->link(), device->ageMs()));
     case Qt::ToolTipRole: {
-        // A tool tip would take markup for markup.
-        const QString text = device->message().isEmpty() ? device->address() : device->message();
-        return QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
+        return toolTipOf(*device);
     }
     case DeviceRole:
         return QVariant::fromValue(reinterpret_cast<quintptr>(device));

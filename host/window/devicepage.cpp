@@ -1,10 +1,10 @@
 #include "window/devicepage.h"
 
 #include "window/deviceheading.h"
+#include "window/devicesummary.h"
 #include "window/linkband.h"
 #include "window/linkcover.h"
 #include "window/theme.h"
-#include "window/valuewords.h"
 
 #include "chartform.h"
 #include "childform.h"
@@ -336,9 +336,5 @@ void DevicePage::refreshAge()
     m_band->setVisible(link != LinkState::Live);
     if (link == LinkState::Live)
         return;
-    const QString age = linkText(link, m_device.ageMs());
-    const QString message = m_device.message();
-    m_band->say(m_device.condition().text,
-                message.isEmpty() ? age : message + QLatin1Char('\n') + age,
-                link == LinkState::Connecting);
+    m_band->say(m_device.condition().state, dataText(m_device), link == LinkState::Connecting);
 }

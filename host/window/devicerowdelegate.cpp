@@ -1,8 +1,8 @@
 #include "window/devicerowdelegate.h"
 
 #include "window/devicelistmodel.h"
+#include "window/devicesummary.h"
 #include "window/urgencycolors.h"
-#include "window/valuewords.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -32,8 +32,8 @@ void DeviceRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     const bool selected = option.state & QStyle::State_Selected;
     const auto role = selected ? QPalette::HighlightedText : QPalette::Text;
     const QColor strong = option.palette.color(role);
-    QColor soft = strong;
-    soft.setAlphaF(0.65);
+    const auto ground = selected ? QPalette::Highlight : QPalette::Window;
+    const QColor soft = fadedColor(strong, option.palette.color(ground));
     const Condition condition = device->condition();
 
     painter->save();

@@ -1,7 +1,7 @@
 #ifndef DEVICETILEDELEGATE_H
 #define DEVICETILEDELEGATE_H
 
-// One device as a tile that can be read across a room.
+// One device as a tile that can be read across a room, or as a small one of many.
 // May touch: the device list model.
 
 #include <QStyledItemDelegate>
@@ -13,22 +13,35 @@ class DeviceTileDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    // px at scale 1.
-    static constexpr int kLeastWidth = 290;
-    static constexpr int kHeight = 186;
+    enum class Form {
+        Full,   // state, figures, alarms, age
+        Compact // name and state on the colour of the urgency
+    };
+
+    // px at scale 1: the least width and the height.
+    static QSize leastSize(Form form);
 
     // width: tiles of this width fill the view evenly; px. scale: of height and texts.
-    void setTile(int width, double scale);
+    void setTile(Form form, int width, double scale);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
-    int px(int atScaleOne) const { return static_cast<int>(atScaleOne * m_scale); }
-    QFont sized(QFont font, double points, bool bold) const;
+    struct Tile;
 
-    int m_tileWidth = kLeastWidth;
+    int px(int atScaleOne) const { return static_cast<int>(atScaleOne * m_scale); }
+    QFont sized(const Tile& tile, double points, bool bold) const;
+    void drawCompact(const Tile& tile) const;
+    void drawFrame(const Tile& tile) const;
+    void drawBand(const Tile& tile) const;
+    void drawFigures(const Tile& tile, QRect& room) const;
+    void drawData(const Tile& tile, QRect& room) const;
+    void drawAlarms(const Tile& tile, const QRect& room) const;
+
+    Form m_form = Form::Full;
+    int m_tileWidth = 0;
     double m_scale = 1;
 };
 

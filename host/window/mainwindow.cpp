@@ -5,6 +5,7 @@
 #include "window/deviceactions.h"
 #include "window/devicelistmodel.h"
 #include "window/devicepage.h"
+#include "window/devicesummary.h"
 #include "window/eventdock.h"
 #include "window/firstrunstrip.h"
 #include "window/helpdialogs.h"
@@ -13,7 +14,6 @@
 #include "window/pagestack.h"
 #include "window/resultbanner.h"
 #include "window/sidepanel.h"
-#include "window/valuewords.h"
 #include "window/walldisplay.h"
 
 #include <QAbstractItemView>
@@ -71,6 +71,7 @@ void MainWindow::setUpDesk()
     m_side = new SidePanel(*m_model, m_session);
     connect(m_side, &SidePanel::overviewWanted, this, &MainWindow::openOverview);
     connect(m_side, &SidePanel::loginWanted, this, &MainWindow::askWhoIsThere);
+    connect(m_side, &SidePanel::filterChanged, m_overview, &OverviewPage::setFilter);
     connect(m_side, &SidePanel::deviceSelected, this, [this](Device* device) {
         if (device)
             openDevice(device);

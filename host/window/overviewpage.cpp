@@ -19,6 +19,7 @@ OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     , m_delegate(new DeviceTileDelegate(this))
     , m_tiles(new QListView)
     , m_counts(new QLabel)
+    , m_nothing(new QLabel)
 {
     m_sorted->setSourceModel(&model);
     m_sorted->setWorstFirst(true);
@@ -47,6 +48,11 @@ OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     column->setContentsMargins(12, 10, 12, 0);
     column->addWidget(m_counts);
     column->addWidget(m_tiles, 1);
+    m_nothing->setTextFormat(Qt::PlainText);
+    m_nothing->setAlignment(Qt::AlignCenter);
+    m_nothing->setObjectName(QStringLiteral("NothingMatches"));
+    m_nothing->hide();
+    column->addWidget(m_nothing, 1);
     connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::showCounts);
     connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::fitTilesToCount);
     showCounts();
@@ -98,26 +104,50 @@ void OverviewPage::fitTilesToCount()
     fitTiles();
 }
 
-// Tiles of one row are equally wide. They are as large as still shows all of them, and never
-// smaller than can be read at a desk: then the page scrolls.
+// Tiles of one row are equally wide, and as large as still shows all of them. Where full ones do
+// not find room they are small ones, and where even these do not, the page scrolls.
 void OverviewPage::fitTiles()
 {
-    using Tile = DeviceTileDelegate;
+    using Form = DeviceTileDelegate::Form;
+    constexpr double compactScale = 1.8; // beyond, there is room for full tiles
+    if (!fitTilesOf(static_cast<int>(Form::Full), m_largestScale))
+        fitTilesOf(static_cast<int>(Form::Compact), m_largestScale * compactScale);
+    m_tiles->doItemsLayout();
+}
+
+bool OverviewPage::fitTilesOf(int form, double largestScale)
+{
+    const auto tileForm = static_cast<DeviceTileDelegate::Form>(form);
+    const QSize least = DeviceTileDelegate::leastSize(tileForm);
     const int room = m_tiles->width() - m_tiles->verticalScrollBar()->sizeHint().width() - 2;
-    const int most = std::max(room / Tile::kLeastWidth, 1);
+    const int most = std::max(room / least.width(), 1);
     const int count = std::max(m_sorted->rowCount(), 1);
     const auto scaleOf = [&](int columns) {
-        const double fits = static_cast<double>(room) / columns / Tile::kLeastWidth;
-        return std::clamp(fits, 1.0, m_largestScale);
+        const double fits = static_cast<double>(room) / columns / least.width();
+        return std::clamp(fits, 1.0, largestScale);
+    };
+    const auto isRoomFor = [&](int columns) {
+        const int rows = (count + columns - 1) / columns;
+        return rows * static_cast<int>(least.height() * scaleOf(columns)) <= m_tiles->height();
     };
     int columns = 1;
     while (columns < most) {
-        const int rows = (count + columns - 1) / columns;
-        const bool tooWide = room / columns > Tile::kLeastWidth * m_largestScale * 1.5;
-        if (!tooWide && rows * Tile::kHeight * scaleOf(columns) <= m_tiles->height())
+        const bool tooWide = room / columns > least.width() * largestScale * 1.5;
+        if (!tooWide && isRoomFor(columns))
             break;
         ++columns;
     }
-    m_delegate->setTile(room / columns, scaleOf(columns));
-    m_tiles->doItemsLayout();
+    m_delegate->setTile(tileForm, room / columns, scaleOf(columns));
+    return isRoomFor(columns);
+}
+
+void OverviewPage::setFilter(const QString& text)
+{
+    m_sorted->setFilterFixedString(text);
+    fitTilesToCount();
+    const bool nothing = m_model.rowCount() > 0 && m_sorted->rowCount() == 0;
+    m_nothing->setVisible(nothing);
+    m_tiles->setVisible(!nothing);
+    if (nothing)
+        m_nothing->setText(tr("Nothing matches \u201c%1\u201d.").arg(text));
 }

@@ -26,6 +26,8 @@ public:
     void setCountsShown(bool shown);
     // Scrolls to the rows below those on show; after the last ones to the first.
     void showNextRows();
+    // Shows the devices that the text is found in.
+    void setFilter(const QString& text);
     // Time has passed: ages have grown.
     void refreshAge();
 
@@ -39,12 +41,14 @@ private:
     void showCounts();
     void fitTiles();
     void fitTilesToCount();
+    bool fitTilesOf(int form, double largestScale);
 
     DeviceListModel& m_model;
     DeviceSortModel* m_sorted;
     DeviceTileDelegate* m_delegate;
     QListView* m_tiles;
     QLabel* m_counts;
+    QLabel* m_nothing;
     double m_largestScale = 1.25;
     int m_fittedCount = 0; // devices that the size of the tiles is for
 };

@@ -53,6 +53,7 @@ QWidget* SidePanel::makeHead()
     m_filter->setClearButtonEnabled(true);
     connect(m_filter, &QLineEdit::textChanged, m_sorted,
             &QSortFilterProxyModel::setFilterFixedString);
+    connect(m_filter, &QLineEdit::textChanged, this, &SidePanel::filterChanged);
     m_worstFirst->setObjectName(QStringLiteral("WorstFirstBox"));
     connect(m_worstFirst, &QCheckBox::toggled, m_sorted, &DeviceSortModel::setWorstFirst);
 

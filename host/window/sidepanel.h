@@ -42,6 +42,7 @@ signals:
     void deviceSelected(Device* device); // null: none
     void overviewWanted();
     void loginWanted();
+    void filterChanged(const QString& text);
 
 private:
     QWidget* makeHead();

@@ -8,19 +8,40 @@ QColor urgencyColor(Urgency urgency)
     case Urgency::Notice:
         return {0x29, 0x47, 0xc6};
     case Urgency::Warning:
-        return {0xb2, 0x6a, 0x00};
+        return {0x96, 0x59, 0x00};
     case Urgency::Alarm:
-        return {0xd0, 0x45, 0x0c};
+        return {0xbf, 0x3b, 0x08};
     case Urgency::Critical:
         break;
     }
-    return {0xb7, 0x1c, 0x1c};
+    return {0xa8, 0x14, 0x14};
 }
 
 QColor urgencyTextColor(Urgency urgency, const QPalette& palette)
 {
     constexpr int halfLight = 128;
-    constexpr int percent = 175;
-    const QColor color = urgencyColor(urgency);
-    return palette.color(QPalette::Window).lightness() < halfLight ? color.lighter(percent) : color;
+    if (palette.color(QPalette::Window).lightness() >= halfLight)
+        return urgencyColor(urgency);
+    switch (urgency) {
+    case Urgency::Normal:
+        return {0x6f, 0xd0, 0x74};
+    case Urgency::Notice:
+        return {0x9d, 0xac, 0xff};
+    case Urgency::Warning:
+        return {0xff, 0xb3, 0x47};
+    case Urgency::Alarm:
+        return {0xff, 0x9a, 0x6a};
+    case Urgency::Critical:
+        break;
+    }
+    return {0xff, 0x8a, 0x80};
+}
+
+QColor fadedColor(const QColor& text, const QColor& ground)
+{
+    constexpr double share = 0.72; // of the text; the rest is the ground
+    const auto mixed = [share = share](double a, double b) { return a * share + b * (1 - share); };
+    return QColor::fromRgbF(mixed(text.redF(), ground.redF()),
+                            mixed(text.greenF(), ground.greenF()),
+                            mixed(text.blueF(), ground.blueF()));
 }

@@ -15,4 +15,7 @@ QColor urgencyColor(Urgency urgency);
 // The same for text on the palette's ground, light or dark.
 QColor urgencyTextColor(Urgency urgency, const QPalette& palette);
 
+// Text that stands back, and every figure that is not live: the same everywhere, still readable.
+QColor fadedColor(const QColor& text, const QColor& ground);
+
 #endif // URGENCYCOLORS_H

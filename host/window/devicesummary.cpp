@@ -1,4 +1,4 @@
-#include "window/valuewords.h"
+#include "window/devicesummary.h"
 
 #include <QCoreApplication>
 
@@ -8,7 +8,7 @@
 namespace {
 
 struct Tr {
-    Q_DECLARE_TR_FUNCTIONS(ValueWords)
+    Q_DECLARE_TR_FUNCTIONS(DeviceSummary)
 };
 
 constexpr qint64 kMinute = 60;
@@ -23,6 +23,11 @@ QString unknown()
 QString percent(const Value& value)
 {
     return value ? Tr::tr("%1 %").arg(std::lround(std::clamp(*value, -9999.0, 9999.0))) : unknown();
+}
+
+QString lastDataText(qint64 ageMs)
+{
+    return ageMs < 0 ? Tr::tr("never any data") : Tr::tr("last data %1 ago").arg(ageText(ageMs));
 }
 
 } // namespace
@@ -52,9 +57,33 @@ QString linkText(LinkState link, qint64 ageMs)
     static const QMap<LinkState, QString> words{{LinkState::Stale, Tr::tr("no new data")},
                                                 {LinkState::Lost, Tr::tr("no answer")},
                                                 {LinkState::Refused, Tr::tr("refused")}};
-    const QString word = words.value(link);
-    return ageMs < 0 ? Tr::tr("%1, never any data").arg(word)
-                     : Tr::tr("%1, last data %2 ago").arg(word, ageText(ageMs));
+    return words.value(link) + QStringLiteral(", ") + lastDataText(ageMs);
+}
+
+QString dataText(const Device& device)
+{
+    if (device.link() == LinkState::Live)
+        return linkText(LinkState::Live, device.ageMs());
+    QStringList lines;
+    if (!device.message().isEmpty())
+        lines << device.message();
+    if (device.link() != LinkState::Connecting)
+        lines << lastDataText(device.ageMs());
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString sinceText(const QDateTime& since)
+{
+    const bool today = since.date() == QDate::currentDate();
+    const QString format = today ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd HH:mm");
+    return Tr::tr("since %1").arg(since.toString(format));
+}
+
+std::array<DeviceFigure, 3> deviceFigures(const UpsReading* reading)
+{
+    return {{{Tr::tr("Battery"), chargeText(reading)},
+             {Tr::tr("Lasts"), runtimeText(reading)},
+             {Tr::tr("Load"), loadText(reading)}}};
 }
 
 QString chargeText(const UpsReading* reading)
