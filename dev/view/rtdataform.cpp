@@ -173,6 +173,7 @@ RTDataForm::RTDataForm(QWidget* parent)
     table->setTextElideMode(Qt::ElideMiddle);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setTabKeyNavigation(false); // Tab leads on, out of the table
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setAccessibleName(ui->label_10->text());
 
