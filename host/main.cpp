@@ -13,6 +13,7 @@
 #include "window/activitywatch.h"
 #include "window/deviceactions.h"
 #include "window/mainwindow.h"
+#include "window/operatordesk.h"
 #include "window/themechoice.h"
 
 #include <QApplication>
@@ -137,6 +138,7 @@ int runWindow(const WindowOptions& options)
     follow(config);
     EventLog log;
     CommandDesk desk(fleet, log, [&session] {
+        session.check();
         return CommandDesk::Operator{session.name(), session.level()};
     });
     const auto mode = options.kiosk ? MainWindow::Mode::Kiosk : MainWindow::Mode::Desk;
@@ -150,7 +152,8 @@ int runWindow(const WindowOptions& options)
     QObject::connect(&list, &WatchList::changed, &session, [&] { follow(list.config()); });
     followTheme(window, list, theme);
     if (!options.kiosk)
-        window.setActions(new DeviceActions(fleet, list, makeConnector, &window));
+        window.setActions(new DeviceActions(fleet, list, makeConnector, session, &window));
+    new OperatorDesk(session, list, desk, log, &window);
     for (const DeviceSettings& settings : qAsConst(devices))
         fleet.add(settings);
     if (devices.isEmpty())

@@ -254,9 +254,10 @@ void TestDeviceDialog::actionsReachFileAndFleet()
     });
     list.load();
     QWidget window;
+    OperatorSession session; // without operators everybody may
     auto* actions = new DeviceActions(
         fleet, list, [](const DeviceSettings&) { return std::make_unique<ScriptedConnector>(); },
-        &window);
+        session, &window);
     const auto fill = [&](const char* address) {
         auto* dialog = window.findChild<DeviceDialog*>();
         dialog->findChild<QLineEdit*>("AddressEdit")->setText(address);

@@ -45,6 +45,24 @@ struct Desk {
     EventLog log;
     CommandDesk::Operator who;
     CommandDesk commands{fleet, log, [this] { return who; }};
+    QVector<CommandDesk::Question> questions;
+    CommandDesk::Answer answer;
+
+    // Keeps the question open until the test answers it.
+    void waitWithTheAnswer()
+    {
+        commands.setConfirm(
+            [this](const CommandDesk::Question& question, const CommandDesk::Answer& onAnswer) {
+                questions << question;
+                answer = onAnswer;
+            });
+    }
+    void sayYes()
+    {
+        commands.setConfirm([](const CommandDesk::Question&, const CommandDesk::Answer& onAnswer) {
+            onAnswer(true);
+        });
+    }
 
     Device* add(const QString& address)
     {
@@ -179,6 +197,8 @@ private slots:
     void commandsAreChecked_data();
     void commandsAreChecked();
     void commandIsFollowedToItsResult();
+    void commandInTheTermsOfItsDevice();
+    void commandWaitsForTheAnswer();
     void removedDeviceLeavesNoCommandOpen();
 };
 
@@ -487,6 +507,7 @@ void TestFleet::commandsAreChecked()
     QFETCH(bool, sent);
     Desk desk;
     desk.who = {"anna", level};
+    desk.sayYes();
     Device* device = desk.add(address);
     QSignalSpy finished(&desk.commands, &CommandDesk::finished);
     desk.commands.post(device, code, {{"controlValue", value}});
@@ -502,6 +523,7 @@ void TestFleet::commandsAreChecked()
 void TestFleet::commandIsFollowedToItsResult()
 {
     Desk desk;
+    desk.sayYes();
     Device* first = desk.add("sim:");
     Device* second = desk.add("sim:");
     QTRY_COMPARE(desk.connectors[0]->polls, 1);
@@ -523,6 +545,72 @@ void TestFleet::commandIsFollowedToItsResult()
     desk.connectors[0]->finish(command.id, CommandOutcome::Done); // a second result changes nothing
     QCOMPARE(finished.size(), 1);
     QTRY_COMPARE(desk.connectors[0]->polls, 2); // the effect is looked for at once
+}
+
+void TestFleet::commandInTheTermsOfItsDevice()
+{
+    const struct {
+        const char* address;
+        int code;
+        const char* value;
+        const char* text;
+    } rows[] = {
+        {"sim:", 1007, "12", "sim:: output off in 35 s; 1.5 kW of load lose power"},
+        {"sim:", 1008, "60", "sim:: output off in 35 s for 60 min; 1.5 kW of load lose power"},
+        {"sim:", 1008, "1",
+         "sim:: restart, output off at once for 95 s; 1.5 kW of load lose power"},
+        {"snmp://h", 1008, "5",
+         "snmp://h: output off within 35 s for 5 min; 1.5 kW of load lose power"},
+    };
+    for (const auto& row : rows) {
+        Desk desk;
+        desk.who = {"anna", 1};
+        Device* device = desk.add(row.address);
+        desk.waitWithTheAnswer();
+        UpsReading reading = onMains();
+        reading.output.power = {};
+        reading.output.power[0] = 900;
+        reading.output.power[1] = 600;
+        desk.connectors[0]->answer(LinkState::Live, reading);
+        desk.commands.post(device, row.code, {{"controlValue", row.value}});
+        QCOMPARE(desk.questions.value(0).text, QString(row.text));
+        QVERIFY(desk.connectors[0]->sent.isEmpty());
+        desk.connectors[0]->answer(LinkState::Lost); // what was measured may be gone
+        desk.commands.post(device, row.code, {{"controlValue", row.value}});
+        QVERIFY(desk.questions.value(1).text.endsWith("not known"));
+    }
+}
+
+void TestFleet::commandWaitsForTheAnswer()
+{
+    Desk desk;
+    desk.who = {"anna", 1};
+    Device* device = desk.add("nut://h/a");
+    const auto post = [&] { desk.commands.post(device, 1007, {{"controlValue", "12"}}); };
+    const auto last = [&] { return desk.log.at(desk.log.count() - 1); };
+    post();
+    QCOMPARE(last().outcome, outcomeLabel(CommandOutcome::Refused)); // nobody to ask
+    desk.waitWithTheAnswer();
+    post();
+    desk.answer(false);
+    QCOMPARE(last().outcome, QString("cancelled"));
+    post();
+    desk.who = {}; // logged out while the question stood
+    desk.answer(true);
+    QCOMPARE(last().outcome, outcomeLabel(CommandOutcome::Refused));
+    desk.who = {"anna", 1};
+    post();
+    QVERIFY(desk.connectors[0]->sent.isEmpty());
+    QVERIFY(desk.commands.underWay().isEmpty());
+    desk.answer(true);
+    desk.answer(true); // sent once
+    QCOMPARE(desk.connectors[0]->sent.size(), 1);
+    QCOMPARE(desk.commands.underWay().value(0).device, QString("nut://h/a"));
+    post();
+    desk.fleet.remove(0);
+    desk.answer(true);
+    QCOMPARE(last().outcome, outcomeLabel(CommandOutcome::NoAnswer));
+    QVERIFY(desk.commands.underWay().isEmpty());
 }
 
 void TestFleet::removedDeviceLeavesNoCommandOpen()

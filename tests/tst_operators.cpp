@@ -127,6 +127,55 @@ private slots:
         QVERIFY(!session.isLoggedIn());
     }
 
+    void failuresSlowDown()
+    {
+        SessionProbe session;
+        QSignalSpy failed(&session, &OperatorSession::failed);
+        const auto refused = [&session](const QString& name) {
+            const int before = session.refusals.count();
+            session.logIn(name, secret("wrong"));
+            if (session.refusals.count() == before)
+                session.refusals.wait();
+            return session.refusals.last().at(0).toString();
+        };
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(refused("anna").contains("wrong"));
+        for (int wait : {1, 2, 4, 8, 16, 32, 60, 60}) {
+            QCOMPARE(refused("anna"),
+                     QString("Too many failed attempts. Try again in %1 s.").arg(wait));
+            session.slept += wait * 1000;
+            QVERIFY(refused("anna").contains("wrong"));
+        }
+        QVERIFY(refused("bert").contains("wrong")); // per name
+        QVERIFY(refused("sesame").contains("wrong"));
+        QCOMPARE(failed.count(), 3 + 8 + 2);
+        QCOMPARE(failed.first().at(0), QVariant("anna"));
+        QCOMPARE(failed.last().at(0), QVariant("")); // may be a password
+        session.slept += 60 * 1000;
+        QVERIFY(session.enter("anna", "a"));
+        session.logOut();
+        QVERIFY(refused("anna").contains("wrong")); // counts from the beginning
+    }
+
+    void tableIsReadAgain()
+    {
+        SessionProbe session;
+        QCOMPARE(session.whyNoChange().isEmpty(), false);
+        OperatorAccounts table{account("anna", 1, "a")};
+        session.setSource([&table] { return Operators(table); });
+        QVERIFY(session.enter("anna", "a"));
+        QCOMPARE(session.whyNoChange(), QString());
+        table[0].level = 0;
+        QVERIFY(session.whyNoChange().contains("level 1"));
+        table.clear(); // no operators: everybody may again, but nobody is logged in
+        QCOMPARE(session.whyNoChange(), QString());
+        QVERIFY(!session.isLoggedIn());
+        table = {account("carl", 2, "c")}; // added while the desk runs
+        QVERIFY(session.enter("carl", "c"));
+        session.cancelLogIn();
+        QVERIFY(session.isLoggedIn());
+    }
+
     void idleTime()
     {
         SessionProbe session;

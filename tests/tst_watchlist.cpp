@@ -145,6 +145,7 @@ private slots:
     void edits_data();
     void edits();
     void foreignFileRefuses();
+    void guardRefuses();
     void secretsFollow();
     void secretsAreKept();
     void secretsAreWaitedFor();
@@ -225,6 +226,29 @@ void TestWatchList::foreignFileRefuses()
     QVERIFY(QFile::remove(desk.path()));
     QVERIFY(desk.list->add(device("D")).contains("changed by another program"));
     QCOMPARE(desk.inFleet(), QString("B A C"));
+}
+
+// Whatever a dialog thought: who may not change the desk does not.
+void TestWatchList::guardRefuses()
+{
+    Desk desk;
+    desk.open(devices({"A", "B"}));
+    desk.fleet.add(device("cli"));
+    desk.list->setGuard([] { return QString("log in"); });
+    QSignalSpy edited(desk.list.get(), &WatchList::edited);
+    Device* a = desk.list->find("A");
+    for (const QString& reason :
+         {desk.list->add(device("C")), desk.list->remove(a), desk.list->change(a, device("X")),
+          desk.list->move(a, 1), desk.list->remove(desk.fleet.at(2)),
+          desk.list->edit("Settings", [](DeskConfig&) { return QString(); })})
+        QCOMPARE(reason, QString("log in"));
+    QCOMPARE(desk.inFleet(), QString("A B cli"));
+    QCOMPARE(desk.inFile(), QString("A B"));
+    QCOMPARE(edited.size(), 0);
+    desk.list->setGuard({});
+    QCOMPARE(desk.list->remove(a), QString());
+    QCOMPARE(edited.size(), 1);
+    QCOMPARE(edited.first().at(0), QVariant("A"));
 }
 
 void TestWatchList::secretsFollow()
@@ -326,15 +350,14 @@ void TestWatchList::foreignOperatorsCount()
     desk.open(devices({"A"}) + anna);
     QCOMPARE(desk.list->operators().size(), 1);
     desk.write(devices({"A", "B"})); // by hand
-    desk.list->readAgain();
+    desk.list->readOperators();
     QVERIFY(desk.list->operators().isEmpty());
-    QCOMPARE(desk.inFleet(), QString("A B"));
-    desk.write(devices({"A"}) + "nonsense\n" + anna); // faulty: devices stay, operators count
-    desk.list->readAgain();
+    QCOMPARE(desk.inFleet(), QString("A"));           // until the next edit
+    desk.write(devices({"A"}) + "nonsense\n" + anna); // operators of a faulty file count
+    desk.list->readOperators();
     QCOMPARE(desk.list->operators().size(), 1);
-    QCOMPARE(desk.inFleet(), QString("A B"));
     QVERIFY(QFile::remove(desk.path()));
-    desk.list->readAgain();
+    desk.list->readOperators();
     QCOMPARE(desk.list->operators().size(), 1);
 }
 

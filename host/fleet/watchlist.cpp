@@ -98,6 +98,8 @@ QString WatchList::change(Device* device, const DeviceSettings& settings)
 QString WatchList::remove(Device* device)
 {
     const QString name = device->name();
+    if (const QString barrier = whyNot(); !barrier.isEmpty())
+        return barrier;
     if (isConfigured(device)) {
         const DeviceSettings before = device->settings();
         const QString reason =
@@ -143,6 +145,8 @@ QString WatchList::edit(const QString& what, const Edit& edit)
 
 QString WatchList::save(const Edit& edit)
 {
+    if (const QString barrier = whyNot(); !barrier.isEmpty())
+        return barrier;
     DeskConfig edited = m_config;
     const QString refusal = edit(edited);
     if (!refusal.isEmpty())
@@ -154,14 +158,15 @@ QString WatchList::save(const Edit& edit)
     return {};
 }
 
-void WatchList::readAgain()
+void WatchList::readOperators()
 {
-    const DeskConfig onDisk = DeskConfig::load(m_config.path());
-    if (onDisk.document().isNew() || onDisk.document().toBytes() == m_config.document().toBytes())
+    const FileStamp stamp = FileStamp::of(m_config.path());
+    if (stamp == m_stamp)
         return;
-    m_operators = onDisk.operators();
-    if (!onDisk.firstError())
-        follow(onDisk);
+    m_stamp = stamp;
+    const DeskConfig onDisk = DeskConfig::load(m_config.path());
+    if (!onDisk.document().isNew())
+        m_operators = onDisk.operators();
 }
 
 // Where another program has changed the file, its change stands and ours is to be repeated. A file

@@ -6,6 +6,7 @@
 
 #include "config/deskconfig.h"
 #include "fleet/fleet.h"
+#include "private/privatefile.h"
 #include "secrets/secretkeeper.h"
 
 #include <QHash>
@@ -19,6 +20,7 @@ class WatchList : public QObject
 
 public:
     using Edit = std::function<QString(DeskConfig&)>;
+    using Guard = std::function<QString()>;
 
     // The fleet must outlive the list. makeStore: of the secret store that the settings choose.
     WatchList(Fleet& fleet, const DeskConfig& config,
@@ -29,8 +31,12 @@ public:
     // As the file names them at this moment, also while it has faults; where it is gone, as they
     // were.
     const OperatorAccounts& operators() const { return m_operators; }
-    // Reads the file where another program has changed it, and follows it unless it has faults.
-    void readAgain();
+    // Reads operators() again where another program has changed the file. All else waits for the
+    // next edit, so that no device changes under somebody's hands.
+    void readOperators();
+
+    // Asked at every change from the desk: why nothing may be changed now; empty: it may.
+    void setGuard(const Guard& guard) { m_guard = guard; }
 
     // Adds the devices of the file to the fleet, at once. Secrets follow when the store answers;
     // until then, for at most kSecretsPatienceMs, an SNMPv3 agent is not asked without them.
@@ -61,6 +67,7 @@ signals:
     void secretsFailed(const QString& message);
 
 private:
+    QString whyNot() const { return m_guard ? m_guard() : QString(); }
     QString save(const Edit& edit);
     QString tellChange(const QString& reason);
     void follow(const DeskConfig& config);
@@ -76,6 +83,8 @@ private:
     Fleet& m_fleet;
     DeskConfig m_config;
     OperatorAccounts m_operators;
+    FileStamp m_stamp; // of the file that they were read from
+    Guard m_guard;
     SecretKeeper m_secrets;
     QHash<QString, Device*> m_devices; // of the file, by name
 };

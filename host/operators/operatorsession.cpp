@@ -5,7 +5,17 @@
 #include <QDateTime>
 #include <QThreadPool>
 
+#include <algorithm>
 #include <memory>
+
+namespace {
+
+constexpr int kFreeFailures = 2;
+constexpr qint64 kFirstWaitMs = 1000;
+constexpr qint64 kLongestWaitMs = 60 * 1000;
+constexpr int kMostNames = 1000; // whose failures are remembered
+
+} // namespace
 
 OperatorSession::OperatorSession(QObject* parent)
     : QObject(parent)
@@ -38,9 +48,35 @@ void OperatorSession::setIdleTime(int milliseconds)
         m_idle.setInterval(milliseconds);
 }
 
+void OperatorSession::check()
+{
+    if (m_source)
+        setOperators(m_source());
+}
+
+QString OperatorSession::whyNoChange()
+{
+    check();
+    if (!hasOperators() || m_level >= kChangeLevel)
+        return {};
+    return isLoggedIn() ? tr("%1 may look, but not change: that takes level %2.")
+                              .arg(m_name)
+                              .arg(kChangeLevel)
+                        : tr("Log in first: devices and settings are changed by operators.");
+}
+
 void OperatorSession::logIn(const QString& name, const SecretText& password)
 {
+    check();
     const int attempt = ++m_attempt;
+    const qint64 wait = m_failures.value(name).until - wallClock();
+    if (wait > 0) {
+        constexpr int msPerSecond = 1000;
+        m_checking = false;
+        emit refused(tr("Too many failed attempts. Try again in %1 s.")
+                         .arg((wait + msPerSecond - 1) / msPerSecond));
+        return;
+    }
     m_checking = true;
     const auto check = std::make_shared<LoginCheck>();
     connect(check.get(), &LoginCheck::done, this, &OperatorSession::answer, Qt::QueuedConnection);
@@ -57,18 +93,37 @@ void OperatorSession::answer(int attempt, const QString& name, bool fits)
     // The table may have changed since the check began.
     const std::optional<int> level = m_operators.level(name);
     if (!fits || !level) {
+        noteFailure(name);
         emit refused(tr("Name or password is wrong."));
         return;
     }
+    m_failures.remove(name);
     m_lastActivity = wallClock();
     m_idle.start();
     set(name, *level);
 }
 
-void OperatorSession::logOut()
+void OperatorSession::noteFailure(const QString& name)
+{
+    if (m_failures.size() >= kMostNames && !m_failures.contains(name))
+        m_failures.clear();
+    Failures& failures = m_failures[name];
+    if (++failures.count > kFreeFailures) {
+        const int doublings = std::min(failures.count - kFreeFailures - 1, 6);
+        failures.until = wallClock() + std::min(kFirstWaitMs << doublings, kLongestWaitMs);
+    }
+    emit failed(m_operators.level(name) ? name : QString());
+}
+
+void OperatorSession::cancelLogIn()
 {
     ++m_attempt;
     m_checking = false;
+}
+
+void OperatorSession::logOut()
+{
+    cancelLogIn();
     m_idle.stop();
     set({}, OperatorAccount::kMinLevel);
 }

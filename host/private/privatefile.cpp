@@ -7,6 +7,7 @@
 #include <QLockFile>
 #include <QSaveFile>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -21,6 +22,15 @@ constexpr QFile::Permissions kOthers = QFile::ReadGroup | QFile::WriteGroup | QF
                                        QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
 
 } // namespace
+
+FileStamp FileStamp::of(const QString& path)
+{
+    constexpr qint64 nsPerSecond = 1000 * 1000 * 1000;
+    struct stat info = {};
+    if (::stat(QFile::encodeName(path).constData(), &info) != 0)
+        return {};
+    return {info.st_mtim.tv_sec * nsPerSecond + info.st_mtim.tv_nsec, info.st_size, info.st_ino};
+}
 
 FileContent readBoundedFile(const QString& path, qint64 maxBytes)
 {

@@ -15,6 +15,19 @@ struct FileContent {
     QString error;                   // of one that cannot be used
 };
 
+// Tells whether a file has been written or replaced since.
+struct FileStamp {
+    qint64 modified = 0; // ns
+    qint64 size = -1;
+    quint64 inode = 0;
+
+    static FileStamp of(const QString& path);
+    bool operator==(const FileStamp& other) const
+    {
+        return modified == other.modified && size == other.size && inode == other.inode;
+    }
+};
+
 // At most maxBytes are read: a longer file is an error.
 FileContent readBoundedFile(const QString& path, qint64 maxBytes);
 

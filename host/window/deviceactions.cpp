@@ -1,19 +1,19 @@
 #include "window/deviceactions.h"
 
+#include "window/confirmbox.h"
 #include "window/devicedialog.h"
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QToolButton>
 
 DeviceActions::DeviceActions(Fleet& fleet, WatchList& list, const Fleet::ConnectorMaker& maker,
-                             QWidget* window)
+                             OperatorSession& session, QWidget* window)
     : QObject(window)
     , m_fleet(fleet)
     , m_list(list)
     , m_maker(maker)
+    , m_gate(new OperatorGate(session, window))
     , m_window(window)
     , m_add(makeAction(tr("A&dd\u2026"), "AddDevice", Qt::Key_Insert, [this] { add(); }))
     , m_edit(makeAction(tr("&Edit\u2026"), "EditDevice", Qt::Key_F2, [this] { edit(); }))
@@ -49,7 +49,7 @@ QAction* DeviceActions::makeAction(const QString& text, const char* name,
     action->setObjectName(QLatin1String(name));
     action->setShortcut(shortcut);
     action->setShortcutContext(Qt::WidgetShortcut);
-    connect(action, &QAction::triggered, this, act);
+    connect(action, &QAction::triggered, this, [this, act] { m_gate->pass(act); });
     return action;
 }
 
@@ -140,24 +140,16 @@ void DeviceActions::remove()
     if (!m_current)
         return;
     const QPointer<Device> device = m_current;
-    auto* box = new QMessageBox(m_window);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setObjectName(QStringLiteral("RemoveBox"));
-    box->setIcon(QMessageBox::Question);
-    box->setWindowTitle(tr("Remove a device"));
-    box->setTextFormat(Qt::PlainText);
-    box->setText(tr("Remove \"%1\" from the list of devices?").arg(device->name()));
-    box->setInformativeText(
-        m_list.isConfigured(device)
-            ? tr("Its settings and secrets are deleted. What was recorded of it stays.")
-            : tr("It is not in the configuration; the list loses it until the next start."));
-    QPushButton* yes = box->addButton(tr("&Remove"), QMessageBox::DestructiveRole);
-    box->setDefaultButton(box->addButton(QMessageBox::Cancel));
-    connect(yes, &QPushButton::clicked, this, [this, device] {
-        if (device)
-            conclude(m_list.remove(device), nullptr);
-    });
-    box->open();
+    ConfirmBox::ask(
+        {tr("Remove a device"), tr("Remove \"%1\" from the list of devices?").arg(device->name()),
+         m_list.isConfigured(device)
+             ? tr("Its settings and secrets are deleted. What was recorded of it stays.")
+             : tr("It is not in the configuration; the list loses it until the next start."),
+         tr("&Remove")},
+        m_window, [this, device](bool yes) {
+            if (yes && device)
+                conclude(m_list.remove(device), nullptr);
+        });
 }
 
 void DeviceActions::move(int step)

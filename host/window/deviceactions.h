@@ -5,6 +5,7 @@
 // May touch: the fleet, the watch list, connectors by their base class.
 
 #include "fleet/watchlist.h"
+#include "window/operatorgate.h"
 
 #include <QList>
 #include <QPointer>
@@ -18,8 +19,9 @@ class DeviceActions : public QObject
 
 public:
     // All must outlive the actions; the window owns them and is the parent of the dialogs.
+    // Whoever may not change the list is asked to log in first.
     DeviceActions(Fleet& fleet, WatchList& list, const Fleet::ConnectorMaker& maker,
-                  QWidget* window);
+                  OperatorSession& session, QWidget* window);
 
     // What edit, remove and move act on; null: nothing. Follows the device when it is replaced.
     void setCurrent(Device* device);
@@ -59,6 +61,7 @@ private:
     Fleet& m_fleet;
     WatchList& m_list;
     const Fleet::ConnectorMaker m_maker;
+    OperatorGate* m_gate;
     QWidget* m_window;
     QPointer<Device> m_current;
     int m_lostIndex = -1; // where the current device was when it went

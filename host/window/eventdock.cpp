@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int kColumnWidths[] = {140, 90, 160, 190, 50, 60, 150}; // px
+constexpr int kColumnWidths[] = {140, 90, 160, 300, 150}; // px
 
 } // namespace
 

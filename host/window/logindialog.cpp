@@ -58,9 +58,20 @@ LoginDialog::LoginDialog(OperatorSession& session, bool hasOperators, QWidget* p
         m_name->setEnabled(false);
         m_password->setEnabled(false);
         m_logIn->setEnabled(false);
-        m_message->setText(tr("There are no operators yet. Make one in a terminal:\n"
-                              "upsdesk add-operator NAME --level 1"));
+        m_message->setText(tr("There are no operators yet. Add one in the settings, under "
+                              "Operators."));
     }
+}
+
+void LoginDialog::say(const QString& text)
+{
+    m_message->setText(text);
+}
+
+void LoginDialog::reject()
+{
+    m_session.cancelLogIn();
+    QDialog::reject();
 }
 
 void LoginDialog::logIn()

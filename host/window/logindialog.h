@@ -20,6 +20,10 @@ public:
     // hasOperators: false says how to make the first one instead of asking in vain.
     LoginDialog(OperatorSession& session, bool hasOperators, QWidget* parent = nullptr);
 
+    // Why somebody is asked; plain text.
+    void say(const QString& text);
+    void reject() override; // also ends a check that is under way
+
 private:
     void logIn();
     void setBusy(bool busy);

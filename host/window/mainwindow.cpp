@@ -434,7 +434,7 @@ void MainWindow::askWhoIsThere()
 void MainWindow::operatorChanged()
 {
     DeskEvent event;
-    event.time = QDateTime::currentDateTime();
+    event.kind = EventKind::LogIn;
     event.operatorName = m_session.isLoggedIn() ? m_session.name() : m_lastOperator;
     event.text = m_session.isLoggedIn() ? tr("Logged in") : tr("Logged out");
     event.outcome = m_session.isLoggedIn() ? tr("level %1").arg(m_session.level()) : tr("done");

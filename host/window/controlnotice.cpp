@@ -1,0 +1,33 @@
+#include "window/controlnotice.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+ControlNotice::ControlNotice(const Device& device, CommandDesk& desk, QWidget* parent)
+    : QFrame(parent)
+    , m_device(device)
+    , m_desk(desk)
+    , m_text(new QLabel)
+    , m_logIn(new QPushButton(tr("Log in\u2026")))
+{
+    setObjectName(QStringLiteral("ControlNotice"));
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_logIn->setObjectName(QStringLiteral("ControlLogin"));
+    connect(m_logIn, &QPushButton::clicked, &desk, &CommandDesk::askForLogIn);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(16, 6, 16, 6);
+    row->addWidget(m_text, 1);
+    row->addWidget(m_logIn);
+    hide();
+}
+
+void ControlNotice::refresh(bool onControlPage)
+{
+    const CommandDesk::Barrier barrier = m_desk.barrierFor(m_device);
+    m_text->setText(tr("Commands are disabled. %1").arg(barrier.reason));
+    setAccessibleName(m_text->text());
+    m_logIn->setVisible(barrier.logInHelps);
+    setVisible(onControlPage && !barrier.reason.isEmpty());
+}
