@@ -151,9 +151,10 @@ int runWindow(const WindowOptions& options)
                      [&window](const QString& text) { window.tell(text, true); });
     QObject::connect(&list, &WatchList::changed, &session, [&] { follow(list.config()); });
     followTheme(window, list, theme);
+    const auto* operators = new OperatorDesk(session, list, desk, log, &window);
     if (!options.kiosk)
-        window.setActions(new DeviceActions(fleet, list, makeConnector, session, &window));
-    new OperatorDesk(session, list, desk, log, &window);
+        window.setActions(new DeviceActions(fleet, list, makeConnector, session, &window),
+                          operators->settingsAction());
     for (const DeviceSettings& settings : qAsConst(devices))
         fleet.add(settings);
     if (devices.isEmpty())

@@ -126,7 +126,6 @@ void TestDeviceDialog::fieldsAndAddress()
         {{"KindBox=Simulator", "ScenarioBox=three-phase-outage"}, "sim:three-phase-outage"},
         {{nut, "HostEdit=fd00::5", "PortEdit=4000", "UpsBox=a"}, "nut://[fd00::5]:4000/a"},
         {{nut, "HostEdit=h", "UpsBox=50%#?"}, "nut://h/50%25%23%3F"},
-        {{snmp, "HostEdit=h", "CommunityEdit=p@ss:w/1"}, "snmp://p%40ss%3Aw%2F1@h"},
         {v3, kSecured},
         {v3 + QStringList{"LevelBox=authNoPriv", "AuthProtocolBox=SHA-256", "ContextEdit=a&b +c"},
          "snmp://anna@10.0.0.9?version=3&level=authNoPriv&auth=SHA-256&context=a%26b%20%2Bc"},
@@ -210,6 +209,21 @@ void TestDeviceDialog::secretsAreNotShown()
     desk.set("PrivSecretEdit=another one");
     QCOMPARE(desk.dialog->settings().authSecret, QString("authentic"));
     QCOMPARE(desk.dialog->settings().privSecret, QString("another one"));
+    // A community is one, too.
+    for (const char* address : {"snmp://sesame@h:1161?version=1", "snmp://sesame@h/"}) {
+        Desk other(device("A", address));
+        QVERIFY(other.addressText().startsWith("snmp://***@h"));
+        QCOMPARE(other.field("CommunityEdit")->echoMode(), QLineEdit::Password);
+        QCOMPARE(other.field("CommunityEdit")->text(), QString());
+        QCOMPARE(other.dialog->settings().address.text, QString(address));
+        other.set("HostEdit=k");
+        QVERIFY(other.dialog->settings().address.text.startsWith("snmp://sesame@k"));
+        other.set("CommunityEdit=p@ss:w/1");
+        QVERIFY(other.dialog->settings().address.text.startsWith("snmp://p%40ss%3Aw%2F1@k"));
+        QVERIFY(!other.addressText().contains("ss"));
+        other.set("AddressEdit=snmp://h"); // no longer any
+        QCOMPARE(other.dialog->settings().address.community, QString("public"));
+    }
     desk.set("AddressEdit=nut://h/a"); // secrets do not go along to another kind
     QCOMPARE(desk.dialog->settings().authSecret, QString());
 }

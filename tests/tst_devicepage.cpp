@@ -3,6 +3,7 @@
 
 #include "fleet/commanddesk.h"
 #include "support/scriptedconnector.h"
+#include "window/controlnotice.h"
 #include "window/devicelistmodel.h"
 #include "window/devicepage.h"
 #include "window/devicesortmodel.h"
@@ -171,8 +172,16 @@ void TestDevicePage::levelFollowsTheOperator()
         page->finishViews();
     QVERIFY(!realPage.findChild<SetInfoForm*>()->isEnabled());
     QVERIFY(simulatedPage.findChild<SetInfoForm*>()->isEnabled());
+    realPage.showTab(3);
+    realPage.refreshOperator();
+    const auto* notice = realPage.findChild<ControlNotice*>();
+    QVERIFY(!notice->isHidden() && labelTexts(notice).join(' ').contains("logged in"));
+    QSignalSpy wanted(&desk.commands, &CommandDesk::logInWanted);
+    notice->findChild<QPushButton*>()->click();
+    QCOMPARE(wanted.size(), 1);
     desk.who = {"anna", 1};
     realPage.refreshOperator();
+    QVERIFY(notice->isHidden());
     QVERIFY(realPage.findChild<SetInfoForm*>()->isEnabled());
 }
 

@@ -7,6 +7,7 @@
 #include "cli/subcommands.h"
 #include "config/deskconfig.h"
 #include "operators/addoperator.h"
+#include "operators/operatoredits.h"
 
 #include <QCoreApplication>
 #include <QTextStream>

@@ -94,7 +94,7 @@ QJsonObject jsonOf(const Device& device)
         notes = QJsonArray::fromStringList(readingNotes(*reading));
         texts = QJsonArray::fromStringList(reading->alarmTexts);
     }
-    return {{"address", device.settings().address.text},
+    return {{"address", device.address()},
             {"state", linkStateName(device.link())},
             {"message", device.message()},
             {"condition", conditionJson(device)},

@@ -164,7 +164,7 @@ ParsedAddress parseDeviceAddress(const QString& text)
     if (!nut && !snmp)
         return failure(Tr::tr("an address starts with sim:, nut:// or snmp://"));
     if (!url.isValid() || url.host().isEmpty())
-        return failure(Tr::tr("no valid host or port in \"%1\"").arg(address.text.left(120)));
+        return failure(Tr::tr("no valid host or port in the address")); // it may hold a community
     if (url.port(1) < 1)
         return failure(Tr::tr("a port lies between 1 and 65535"));
     address.host = url.host();

@@ -1,6 +1,6 @@
 #include "operators/addoperator.h"
 
-#include "config/deskconfig.h"
+#include "operators/operatoredits.h"
 
 #include <QCoreApplication>
 
@@ -15,12 +15,9 @@ struct Tr {
 QString addOperator(const QString& path, const QString& name, int level, const SecretText& password,
                     const HashLimits& limits)
 {
-    if (level < OperatorAccount::kMinLevel || level > OperatorAccount::kMaxLevel)
-        return Tr::tr("a level lies between %1 and %2")
-            .arg(OperatorAccount::kMinLevel)
-            .arg(OperatorAccount::kMaxLevel);
-    if (password.toString().size() < kMinPasswordLength)
-        return Tr::tr("a password has at least %1 characters").arg(kMinPasswordLength);
+    const QString fault = operatorFault(level, password);
+    if (!fault.isEmpty())
+        return fault;
     const QString hash = hashPassword(password, limits);
     if (hash.isEmpty())
         return Tr::tr("not enough memory to hash the password");

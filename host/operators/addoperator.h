@@ -7,11 +7,9 @@
 #include "private/passwordhash.h"
 
 // Adds the operator to the file at `path`, or replaces level and password of the one that is there.
-// level 0..9; the password has at least kMinPasswordLength characters. Returns why nothing was
+// See operatorFault() for what is asked of level and password. Returns why nothing was
 // written, empty: written. Takes the time of one hash.
 QString addOperator(const QString& path, const QString& name, int level, const SecretText& password,
                     const HashLimits& limits = HashLimits::standard());
-
-constexpr int kMinPasswordLength = 8;
 
 #endif // ADDOPERATOR_H

@@ -1,5 +1,7 @@
 #include "window/controlnotice.h"
 
+#include "window/urgencycolors.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -12,6 +14,8 @@ ControlNotice::ControlNotice(const Device& device, CommandDesk& desk, QWidget* p
     , m_logIn(new QPushButton(tr("Log in\u2026")))
 {
     setObjectName(QStringLiteral("ControlNotice"));
+    setStyleSheet(QStringLiteral("#ControlNotice { background: %1; } QLabel { color: white; }")
+                      .arg(urgencyColor(Urgency::Notice).name()));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_logIn->setObjectName(QStringLiteral("ControlLogin"));
@@ -25,9 +29,11 @@ ControlNotice::ControlNotice(const Device& device, CommandDesk& desk, QWidget* p
 
 void ControlNotice::refresh(bool onControlPage)
 {
+    if (!onControlPage)
+        return hide();
     const CommandDesk::Barrier barrier = m_desk.barrierFor(m_device);
     m_text->setText(tr("Commands are disabled. %1").arg(barrier.reason));
     setAccessibleName(m_text->text());
     m_logIn->setVisible(barrier.logInHelps);
-    setVisible(onControlPage && !barrier.reason.isEmpty());
+    setVisible(!barrier.reason.isEmpty());
 }

@@ -31,6 +31,18 @@ constexpr const char* kKinds[] = {QT_TRANSLATE_NOOP("DeviceDialog", "Network UPS
                                   QT_TRANSLATE_NOOP("DeviceDialog", "SNMP"),
                                   QT_TRANSLATE_NOOP("DeviceDialog", "Simulator")};
 
+// The address as the line shows it: a community is as good as a password.
+QString maskedText(DeviceAddress address)
+{
+    const bool secret = address.scheme == DeviceAddress::Scheme::Snmp &&
+                        !address.community.isEmpty() &&
+                        address.community != QLatin1String("public");
+    if (!secret)
+        return address.text.isEmpty() ? deviceAddressText(address) : address.text;
+    address.community = QLatin1String(SnmpFields::kMaskedCommunity);
+    return deviceAddressText(address);
+}
+
 // Reasons come as parts of a sentence.
 QString sentence(const QString& reason)
 {
@@ -154,8 +166,8 @@ void DeviceDialog::showDevice(const DeviceSettings& device)
         for (int i = 0; i < m_fields->count(); ++i)
             static_cast<AddressFields*>(m_fields->widget(i))->showAccount(device);
         if (!device.address.text.isEmpty()) {
-            m_address->setText(device.address.text);
-            showAddressOf(device.address);
+            m_address->setText(maskedText(device.address));
+            showAddressOf(*parseDeviceAddress(m_address->text()).address);
         } else {
             m_address->setText(addressOfFields());
         }
@@ -168,8 +180,7 @@ DeviceSettings DeviceDialog::settings() const
 {
     DeviceSettings settings = m_device;
     settings.name = name();
-    const ParsedAddress parsed = parseDeviceAddress(m_address->text());
-    settings.address = parsed.address.value_or(DeviceAddress());
+    settings.address = address();
     settings.user.clear();
     settings.secret.clear();
     settings.authSecret.clear();
@@ -200,7 +211,20 @@ QString DeviceDialog::addressOfFields() const
 {
     const DeviceAddress address = fields()->address();
     const bool simulator = address.scheme == DeviceAddress::Scheme::Simulator;
-    return simulator || !address.host.isEmpty() ? deviceAddressText(address) : QString();
+    return simulator || !address.host.isEmpty() ? maskedText(address) : QString();
+}
+
+// What the line says, with the community that it masks.
+DeviceAddress DeviceDialog::address() const
+{
+    DeviceAddress address = parseDeviceAddress(m_address->text()).address.value_or(DeviceAddress());
+    if (address.community == QLatin1String(SnmpFields::kMaskedCommunity)) {
+        address.community = fields()->address().community;
+        address.text = deviceAddressText(address);
+    }
+    // As it was written where it is still the same.
+    const bool isSame = deviceAddressText(address) == deviceAddressText(m_device.address);
+    return isSame ? m_device.address : address;
 }
 
 // The text was edited: the fields follow it.
@@ -269,7 +293,7 @@ void DeviceDialog::toggleTest()
     m_test = std::make_unique<ConnectionTest>(m_maker, settings());
     connect(m_test.get(), &ConnectionTest::finished, this, &DeviceDialog::showTestResult);
     m_testButton->setText(tr("Stop &test"));
-    m_message->say(tr("Asking %1 \u2026").arg(m_address->text()), DialogMessage::Tone::Hint);
+    m_message->say(tr("Asking %1 \u2026").arg(shownAddress(address())), DialogMessage::Tone::Hint);
     m_test->start();
 }
 

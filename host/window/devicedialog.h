@@ -44,6 +44,7 @@ private:
     QString name() const;
     void showDevice(const DeviceSettings& device);
     QString addressOfFields() const;
+    DeviceAddress address() const;
     void takeAddress(const QString& text);
     void showAddressOf(const DeviceAddress& address);
     void takeFields();

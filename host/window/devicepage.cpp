@@ -1,5 +1,6 @@
 #include "window/devicepage.h"
 
+#include "window/controlnotice.h"
 #include "window/deviceheading.h"
 #include "window/devicesummary.h"
 #include "window/linkband.h"
@@ -90,6 +91,7 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     , m_band(new LinkBand)
     , m_viewTabs(new QTabBar)
     , m_stack(new QStackedWidget)
+    , m_notice(new ControlNotice(device, desk))
 {
     m_viewTabs->setObjectName(QStringLiteral("ViewTabs"));
     m_viewTabs->setExpanding(false);
@@ -109,10 +111,12 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
     column->addWidget(m_heading);
     column->addWidget(m_band);
     column->addWidget(m_viewTabs);
+    column->addWidget(m_notice);
     column->addWidget(m_stack, 1);
 
     connect(&m_builder, &QTimer::timeout, this, &DevicePage::buildPiece);
     connect(m_viewTabs, &QTabBar::currentChanged, this, &DevicePage::switchView);
+    connect(this, &DevicePage::pageChanged, this, &DevicePage::refreshNotice);
 }
 
 // Making the views
@@ -282,6 +286,12 @@ void DevicePage::refreshOperator()
 {
     if (m_view)
         m_view->setUserInfo(QString(), m_desk.levelFor(m_device));
+    refreshNotice();
+}
+
+void DevicePage::refreshNotice()
+{
+    m_notice->refresh(currentPage() == controlPage());
 }
 
 void DevicePage::refresh()
@@ -329,6 +339,7 @@ void DevicePage::feedTable()
 void DevicePage::refreshAge()
 {
     m_heading->show(m_device);
+    refreshNotice();
     const LinkState link = m_device.link();
     m_cover->setOpaque(!m_device.reading());
     m_cover->setVisible(link != LinkState::Live);

@@ -12,6 +12,7 @@
 
 class ChartForm;
 class ChildForm;
+class ControlNotice;
 class DeviceHeading;
 class LinkBand;
 class LinkCover;
@@ -92,6 +93,7 @@ private:
     bool buildPieceOf(int view);
     void feed(int view);
     void switchView(int view);
+    void refreshNotice();
     void colorDeviceView();
 
     Device& m_device;
@@ -100,6 +102,7 @@ private:
     LinkBand* m_band;
     QTabBar* m_viewTabs;
     QStackedWidget* m_stack;
+    ControlNotice* m_notice;
     LinkCover* m_cover;
     ChildForm* m_view = nullptr;
     QTabWidget* m_viewPages = nullptr; // the device view's own tabs

@@ -208,14 +208,14 @@ void MainWindow::followCommands()
             });
 }
 
-void MainWindow::setActions(DeviceActions* actions)
+void MainWindow::setActions(DeviceActions* actions, QAction* settings)
 {
     m_actions = actions;
     m_side->setActions(actions);
-    m_menu->addFirst(DeskMenu::FileMenu, {actions->addAction()});
+    m_menu->addFirst(DeskMenu::FileMenu, {actions->addAction(), settings});
     m_menu->addFirst(DeskMenu::DeviceMenu,
                      {actions->editAction(), actions->removeAction(), nullptr});
-    connect(m_strip, &FirstRunStrip::addWanted, actions, &DeviceActions::add);
+    connect(m_strip, &FirstRunStrip::addWanted, actions->addAction(), &QAction::trigger);
     connect(actions, &DeviceActions::chosen, this, &MainWindow::openDevice);
     connect(actions, &DeviceActions::refused, this,
             [this](const QString& text) { tell(text, true); });

@@ -15,6 +15,7 @@
 #include <QMainWindow>
 
 class DeskMenu;
+class QAction;
 class DeviceActions;
 class DeviceListModel;
 class DevicePage;
@@ -47,7 +48,8 @@ public:
     // Opens the device's page; its page is made when it is opened for the first time.
     void openDevice(Device* device);
     // What an operator can do to the list of devices: buttons below it, menus, its context menu.
-    void setActions(DeviceActions* actions);
+    // settings: opens them, from the menu.
+    void setActions(DeviceActions* actions, QAction* settings);
     // The device of a desk that has none: the strip above says that it is none of the operator's.
     void setSimulation(Device* device);
     // The choice that the menu shows.

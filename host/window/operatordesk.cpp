@@ -3,13 +3,24 @@
 #include "fleet/commanddesk.h"
 #include "window/closeguard.h"
 #include "window/confirmbox.h"
+#include "window/settingsdialog.h"
+
+#include <QAction>
 
 OperatorDesk::OperatorDesk(OperatorSession& session, WatchList& list, CommandDesk& commands,
                            EventLog& log, QWidget* window)
     : QObject(window)
     , m_session(session)
+    , m_list(list)
     , m_log(log)
+    , m_window(window)
+    , m_gate(new OperatorGate(session, window))
+    , m_settings(new QAction(tr("&Settings\u2026"), this))
 {
+    m_settings->setObjectName(QStringLiteral("Settings"));
+    m_settings->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    connect(m_settings, &QAction::triggered, this, &OperatorDesk::openSettings);
+
     session.setSource([&list] {
         list.readOperators();
         return Operators(list.operators());
@@ -19,11 +30,19 @@ OperatorDesk::OperatorDesk(OperatorSession& session, WatchList& list, CommandDes
                                  const CommandDesk::Answer& answer) {
         ConfirmBox::ask({question.command, question.text, {}, question.command}, window, answer);
     });
-    auto* gate = new OperatorGate(session, window);
-    connect(&commands, &CommandDesk::logInWanted, gate, &OperatorGate::askWhoIsThere);
+    connect(&commands, &CommandDesk::logInWanted, m_gate, &OperatorGate::askWhoIsThere);
     connect(&session, &OperatorSession::failed, this, &OperatorDesk::noteFailure);
     connect(&list, &WatchList::edited, this, &OperatorDesk::noteEdit);
     new CloseGuard(commands, window);
+}
+
+void OperatorDesk::openSettings()
+{
+    m_gate->pass([this] {
+        auto* dialog = new SettingsDialog(m_list, m_window);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->open();
+    });
 }
 
 void OperatorDesk::noteFailure(const QString& name)

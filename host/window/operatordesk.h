@@ -9,6 +9,7 @@
 #include "window/operatorgate.h"
 
 class CommandDesk;
+class QAction;
 class EventLog;
 
 class OperatorDesk : public QObject
@@ -20,12 +21,20 @@ public:
     OperatorDesk(OperatorSession& session, WatchList& list, CommandDesk& commands, EventLog& log,
                  QWidget* window);
 
+    // "Settings...": asks for a log-in where that is needed. For a menu, and a button.
+    QAction* settingsAction() const { return m_settings; }
+
 private:
+    void openSettings();
     void noteFailure(const QString& name);
     void noteEdit(const QString& device, const QString& what);
 
     OperatorSession& m_session;
+    WatchList& m_list;
     EventLog& m_log;
+    QWidget* m_window;
+    OperatorGate* m_gate;
+    QAction* m_settings;
 };
 
 #endif // OPERATORDESK_H

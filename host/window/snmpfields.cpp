@@ -40,7 +40,7 @@ SnmpFields::SnmpFields(QWidget* parent)
     , m_form(new QFormLayout(this))
     , m_host(new HostPort(DeviceAddress::kSnmpPort))
     , m_version(new QComboBox)
-    , m_community(new QLineEdit)
+    , m_community(new SecretEdit)
     , m_user(new QLineEdit)
     , m_level(new QComboBox)
     , m_authProtocol(new QComboBox)
@@ -56,7 +56,6 @@ SnmpFields::SnmpFields(QWidget* parent)
         m_level->addItem(tr(kLevelLabels[i]), levels.at(i));
     m_authProtocol->addItems(DeviceAddress::authProtocols());
     m_privProtocol->addItems(DeviceAddress::privProtocols());
-    m_community->setPlaceholderText(QStringLiteral("public"));
     m_context->setPlaceholderText(tr("the agent's own"));
 
     const struct {
@@ -86,12 +85,11 @@ SnmpFields::SnmpFields(QWidget* parent)
             showRows();
             emit edited();
         });
-    for (QLineEdit* edit : {m_community, m_user, m_context, static_cast<QLineEdit*>(m_authSecret),
-                            static_cast<QLineEdit*>(m_privSecret)}) {
-        if (edit->echoMode() == QLineEdit::Normal)
-            edit->setMaxLength(kLongestName);
+    const QLineEdit* const edits[] = {m_community, m_user, m_context, m_authSecret, m_privSecret};
+    m_user->setMaxLength(kLongestName);
+    m_context->setMaxLength(kLongestName);
+    for (const QLineEdit* edit : edits)
         connect(edit, &QLineEdit::textChanged, this, &AddressFields::edited);
-    }
     showAddress(DeviceAddress());
 }
 
@@ -100,8 +98,8 @@ void SnmpFields::showAddress(const DeviceAddress& address)
     if (address.port != 0)
         m_host->showAddress(address);
     m_version->setCurrentIndex(m_version->findData(address.snmpVersion));
-    m_community->setText(address.community == QLatin1String("public") ? QString()
-                                                                      : address.community);
+    if (address.community != QLatin1String(kMaskedCommunity))
+        showCommunity({}, address.community);
     m_user->setText(address.user);
     const bool secured = address.snmpVersion == kVersion3 && !address.securityLevel.isEmpty();
     m_level->setCurrentIndex(secured ? m_level->findData(address.securityLevel)
@@ -114,8 +112,19 @@ void SnmpFields::showAddress(const DeviceAddress& address)
 
 void SnmpFields::showAccount(const DeviceSettings& settings)
 {
+    if (settings.address.snmpVersion < kVersion3)
+        showCommunity(settings.address.community, {});
     m_authSecret->setKept(settings.authSecret);
     m_privSecret->setKept(settings.privSecret);
+}
+
+void SnmpFields::showCommunity(const QString& kept, const QString& typed)
+{
+    const QString usual = QStringLiteral("public");
+    m_community->setKept(kept == usual ? QString() : kept);
+    m_community->setText(typed == usual ? QString() : typed);
+    if (m_community->placeholderText().isEmpty())
+        m_community->setPlaceholderText(usual);
 }
 
 DeviceAddress SnmpFields::address() const
@@ -125,7 +134,7 @@ DeviceAddress SnmpFields::address() const
     m_host->readAddress(address);
     address.snmpVersion = version();
     if (version() < kVersion3) {
-        address.community = m_community->text();
+        address.community = m_community->secret();
         return address;
     }
     address.user = m_user->text();

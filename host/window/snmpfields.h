@@ -27,19 +27,22 @@ public:
     QString error() const override;
     QString proposedName() const override;
 
+    // Stands in an address for a community that is kept in its field.
+    static constexpr char kMaskedCommunity[] = "***";
     static constexpr int kShortestSecret = 8; // octets; RFC 3414 asks for them
 
 private:
     int version() const;
     bool authenticates() const;
     bool encrypts() const;
+    void showCommunity(const QString& kept, const QString& typed);
     // Only the rows that the version and the level use.
     void showRows();
 
     QFormLayout* m_form;
     HostPort* m_host;
     QComboBox* m_version;
-    QLineEdit* m_community;
+    SecretEdit* m_community; // as good as a password
     QLineEdit* m_user;
     QComboBox* m_level;
     QComboBox* m_authProtocol;

@@ -1,0 +1,93 @@
+#include "window/settingsdialog.h"
+
+#include "window/dialogmessage.h"
+#include "window/operatorspage.h"
+#include "window/settingsform.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kWidth = 560; // px
+
+// A page with the keys of some sections of the file.
+struct PageRow {
+    const char* title;
+    const char* sections; // separated by blanks
+    const char* help;     // below the fields
+};
+
+constexpr PageRow kPages[] = {
+    {QT_TRANSLATE_NOOP("SettingsDialog", "&General"), "poll session window",
+     QT_TRANSLATE_NOOP("SettingsDialog",
+                       "A device may have an interval of its own; its dialog says which.")},
+    {QT_TRANSLATE_NOOP("SettingsDialog", "&Thresholds"), "thresholds",
+     QT_TRANSLATE_NOOP("SettingsDialog",
+                       "From here on a live device is conspicuous in list, tiles and heading. Its "
+                       "own alarms count whatever stands here.")},
+    {QT_TRANSLATE_NOOP("SettingsDialog", "&Secrets"), "secrets",
+     QT_TRANSLATE_NOOP("SettingsDialog",
+                       "Passwords and keys of devices. Where another place is chosen, those that "
+                       "the desk knows move there. The file is not encrypted: this user and the "
+                       "administrator of this machine can read it.")},
+};
+
+} // namespace
+
+SettingsDialog::SettingsDialog(WatchList& list, QWidget* parent, const HashLimits& limits)
+    : QDialog(parent)
+    , m_list(list)
+    , m_pages(new QTabWidget)
+    , m_message(new DialogMessage)
+{
+    setObjectName(QStringLiteral("SettingsDialog"));
+    setWindowTitle(tr("Settings"));
+    setMinimumWidth(kWidth);
+    m_pages->setObjectName(QStringLiteral("DeviceTabs")); // looks like the tabs of a device
+    for (const PageRow& row : kPages) {
+        const QStringList sections = QString::fromLatin1(row.sections).split(QLatin1Char(' '));
+        m_forms += new SettingsForm(sections, tr(row.help), list.config().settings());
+        m_pages->addTab(m_forms.last(), tr(row.title));
+    }
+    auto* operators = new OperatorsPage(list, limits);
+    connect(operators, &OperatorsPage::said, this, [this](const QString& text, bool isBad) {
+        m_message->say(text, isBad ? DialogMessage::Tone::Bad : DialogMessage::Tone::Good);
+    });
+    m_pages->addTab(operators, tr("&Operators"));
+    connect(m_pages, &QTabWidget::currentChanged, this,
+            [this] { m_message->say(QString(), DialogMessage::Tone::Hint); });
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDialog::reject);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(m_pages, 1);
+    column->addWidget(m_message);
+    column->addWidget(buttons);
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+}
+
+void SettingsDialog::accept()
+{
+    const QString reason = save();
+    if (reason.isEmpty())
+        QDialog::accept();
+    else
+        m_message->say(reason, DialogMessage::Tone::Bad);
+}
+
+// Only what was changed here is changed there: the file may have been edited meanwhile.
+QString SettingsDialog::save()
+{
+    DeskSettings settings = m_list.config().settings();
+    QStringList changes;
+    for (const SettingsForm* form : qAsConst(m_forms))
+        changes += form->readInto(settings);
+    if (changes.isEmpty())
+        return {};
+    return m_list.edit(tr("Settings: %1").arg(changes.join(QStringLiteral(", "))),
+                       [&settings](DeskConfig& config) { return config.setSettings(settings); });
+}
