@@ -81,6 +81,7 @@ private slots:
         row("probe with a wrong option", {"probe", "sim:", "--jsn"}, 2, "jsn");
         row("help", {"probe", "--help"}, 0, "3 not live");
         row("help of the window", {"--help"}, 0, "/upsdesk/upsdesk.conf");
+        row("version", {"--version"}, 0, "upsdesk ");
         row("misspelt subcommand", {"prob", "sim:"}, 2, "did you mean \"probe\"");
         row("misspelt name", {"probe", "Rack3"}, 2, "did you mean \"Rack 3\"");
         row("misspelt situation", {"probe", "sim:outag"}, 2, "did you mean \"outage\"");
