@@ -1,11 +1,13 @@
 // Adding and changing devices: address and fields in step, what is wrong is said, secrets are not
 // shown, a connection is tried without waiting, and the list's actions reach file and fleet.
 
+#include "connectors/addressrange.h"
 #include "fleet/watchlist.h"
 #include "secrets/filesecretstore.h"
 #include "support/scriptedconnector.h"
 #include "window/deviceactions.h"
 #include "window/devicedialog.h"
+#include "window/finddevicesdialog.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -14,6 +16,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -105,6 +108,11 @@ private slots:
     void secretsAreNotShown();
     void connectionTest();
     void refusalStaysInTheDialog();
+    void nameIsWhatTheDeviceSays();
+    void kindAloneIsNoMistake();
+    void ranges_data();
+    void ranges();
+    void onlyTickedDevicesAreAdded();
     void actionsReachFileAndFleet();
 };
 
@@ -256,6 +264,125 @@ void TestDeviceDialog::refusalStaysInTheDialog()
     desk.refusal.clear();
     desk.dialog->accept();
     QVERIFY(!desk.dialog->isVisible());
+}
+
+void TestDeviceDialog::nameIsWhatTheDeviceSays()
+{
+    Desk desk;
+    desk.set("AddressEdit=snmp://public@10.0.0.7");
+    QCOMPARE(desk.dialog->settings().name, QString("UPS")); // an IP address says nothing
+    desk.test();
+    UpsReading reading;
+    reading.model = "Model 7";
+    desk.connector->answer(LinkState::Live, reading);
+    QCOMPARE(desk.dialog->settings().name, QString("Model 7"));
+    desk.test();
+    reading.name = "Taken";
+    desk.connector->answer(LinkState::Live, reading);
+    QCOMPARE(desk.dialog->settings().name, QString("Taken 2"));
+    desk.set("HostEdit=10.0.0.8");
+    QCOMPARE(desk.dialog->settings().name, QString("UPS"));
+}
+
+void TestDeviceDialog::kindAloneIsNoMistake()
+{
+    Desk desk;
+    const auto tone = [&desk] {
+        return desk.dialog->findChild<DialogMessage*>()->property("tone").toString();
+    };
+    for (const char* kind : {"SNMP", "Simulator", "Network UPS Tools"}) {
+        desk.set(QString("KindBox=") + kind);
+        QVERIFY2(tone() != "bad", kind);
+    }
+    desk.set("UserEdit=x");
+    QCOMPARE(tone(), QString("bad"));
+}
+
+void TestDeviceDialog::ranges_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("hosts"); // first, last, number; empty: an error
+    const char* const rows[][2] = {
+        {"10.0.0.0/24", "10.0.0.1 10.0.0.254 254"},
+        {"10.0.0.77/30", "10.0.0.77 10.0.0.78 2"},
+        {"10.0.0.4/31", "10.0.0.4 10.0.0.5 2"},
+        {"10.0.0.4/32", "10.0.0.4 10.0.0.4 1"},
+        {" 10.0.0.250 - 10.0.1.3 ", "10.0.0.250 10.0.1.3 10"},
+        {"10.0.0.5-60", "10.0.0.5 10.0.0.60 56"},
+        {"255.255.255.255", "255.255.255.255 255.255.255.255 1"},
+        {"10.0.0.1-10.0.4.0", "10.0.0.1 10.0.4.0 1024"},
+        {"10.0.0.0-10.0.4.0", ""},
+        {"0.0.0.0/0", ""},
+        {"10.0.0.60-5", ""},
+        {"10.0.0.0/33", ""},
+        {"10.0.0.256", ""},
+        {"10.0.0", ""},
+        {"10.0.0.1-2-3", ""},
+        {"-", ""},
+        {"", ""},
+    };
+    for (const auto& row : rows)
+        QTest::newRow(row[0]) << row[0] << row[1];
+}
+
+void TestDeviceDialog::ranges()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, hosts);
+    const AddressRange range = AddressRange::parse(text);
+    QCOMPARE(range.error.isEmpty(), !hosts.isEmpty());
+    QCOMPARE(range.hosts.isEmpty(), hosts.isEmpty());
+    if (!hosts.isEmpty())
+        QCOMPARE(QString("%1 %2 %3")
+                     .arg(range.hosts.first(), range.hosts.last())
+                     .arg(range.hosts.size()),
+                 hosts);
+}
+
+void TestDeviceDialog::onlyTickedDevicesAreAdded()
+{
+    QMap<QString, QPointer<ScriptedConnector>> asked;
+    QVector<DeviceSettings> saved;
+    FindDevicesDialog dialog(
+        {}, {"Model 7"},
+        [&](const DeviceSettings& settings) {
+            auto made = std::make_unique<ScriptedConnector>();
+            asked[settings.address.host] = made.get();
+            return made;
+        },
+        [&](const QVector<DeviceSettings>& devices) {
+            saved = devices;
+            return QString();
+        });
+    dialog.show();
+    dialog.findChild<QComboBox*>("KindBox")->setCurrentIndex(1);
+    for (auto* edit : dialog.findChildren<QLineEdit*>("HostEdit"))
+        edit->setText("127.0.0.0/26");
+    dialog.findChild<QLineEdit*>("GroupEdit")->setText("Hall 2");
+    auto* search = dialog.findChild<QPushButton*>("SearchButton");
+    search->click();
+    QCOMPARE(asked.size(), RangeScan::kAtATime); // never all at once
+    UpsReading reading;
+    reading.model = "Model 7";
+    for (int number = 1; number <= 62; ++number) {
+        ScriptedConnector* connector = asked.value("127.0.0." + QString::number(number));
+        QVERIFY(connector);
+        QCOMPARE(connector->polls, 1);
+        const bool ups = number == 5 || number == 40;
+        connector->answer(ups ? LinkState::Live : LinkState::Lost, reading);
+    }
+    QCOMPARE(asked.size(), 62);
+    auto* table = dialog.findChild<QTableWidget*>("FoundTable");
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(table->item(1, 0)->text(), QString("Model 7 3"));
+    QVERIFY(dialog.chosen().isEmpty());
+    table->item(1, 0)->setCheckState(Qt::Checked);
+    dialog.accept();
+    QCOMPARE(saved.size(), 1);
+    QCOMPARE(saved.first().address.host, QString("127.0.0.40"));
+    QCOMPARE(saved.first().name, QString("Model 7 3"));
+    QCOMPARE(saved.first().group, QString("Hall 2"));
+    QCOMPARE(saved.first().timeout, DeviceSettings().timeout); // the hurry was the search's
 }
 
 void TestDeviceDialog::actionsReachFileAndFleet()

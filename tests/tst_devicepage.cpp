@@ -59,9 +59,11 @@ struct Desk {
     CommandDesk::Operator who;
     CommandDesk commands{fleet, log, [this] { return who; }};
 
-    Device& add(const QString& address, const QString& name = QString())
+    Device& add(const QString& address, const QString& name = QString(),
+                const QString& group = QString())
     {
         DeviceSettings settings;
+        settings.group = group;
         settings.address = *parseDeviceAddress(address).address;
         settings.name = name;
         return *fleet.add(settings);
@@ -116,6 +118,7 @@ private slots:
     void confirmedCommandReachesTheConnector();
     void hostileReadingIsShownAsText();
     void listFiltersAndSorts();
+    void groupsAreSections();
     void removedDeviceLeavesNoPage();
     void wallDisplayCommandsNothing();
     void loginNeedsTheRightPassword();
@@ -260,6 +263,30 @@ void TestDevicePage::listFiltersAndSorts()
     sorted.setFilterFixedString("no answer");
     QCOMPARE(names(), QStringList({"Gamma"}));
     QCOMPARE(model.countsText(), QString::fromUtf8("1 alarm  \u00b7  2 normal"));
+}
+
+void TestDevicePage::groupsAreSections()
+{
+    Desk desk;
+    desk.add("nut://h/a", "Alpha", "South");
+    desk.add("nut://h/b", "Beta");
+    desk.add("nut://h/c", "Gamma", "North");
+    desk.add("nut://h/d", "Delta", "South");
+    DeviceListModel model(desk.fleet);
+    DeviceSortModel sorted;
+    sorted.setSourceModel(&model);
+    const auto rows = [&] {
+        QStringList rows;
+        for (int row = 0; row < sorted.rowCount(); ++row)
+            rows << QString(sorted.startsSection(sorted.index(row, 0)) ? "# " : "") +
+                        sorted.index(row, 0).data().toString();
+        return rows;
+    };
+    QCOMPARE(rows(), QStringList({"Beta", "# Gamma", "# Alpha", "Delta"}));
+    sorted.setFilterFixedString("south");
+    QCOMPARE(rows(), QStringList({"# Alpha", "Delta"}));
+    sorted.setWorstFirst(true);
+    QCOMPARE(rows(), QStringList({"Alpha", "Delta"}));
 }
 
 void TestDevicePage::removedDeviceLeavesNoPage()

@@ -13,6 +13,7 @@ struct Tr {
 
 constexpr int kMaxSeconds = 86400;
 constexpr int kMaxInterval = 3600; // s
+constexpr int kMaxGroup = 100;
 constexpr int kMaxUser = 255;
 
 // The value that a path of members leads to, as a QVariant: at<&DeskSettings::thresholds,
@@ -104,6 +105,7 @@ const std::vector<ConfigKey<DeviceSettings>>& deviceKeys()
     using D = DeviceSettings;
     using C = ConfigType;
     static const std::vector<ConfigKey<D>> keys{
+        device<&D::group>("group", "", C::text(kMaxGroup)),
         device<&D::user>("user", "", C::text(kMaxUser)),
         device<&D::pollInterval>("interval", "", C::number(1, kMaxInterval, "s")),
         device<&D::timeout>("timeout", "", C::number(1, 120, "s")),

@@ -12,6 +12,7 @@
 struct DeviceSettings {
     QString name; // the operator's name for it; empty: what the address calls it
     DeviceAddress address;
+    QString group; // site or room, to order the devices by; empty: none
 
     // Account of a NUT server; needed for commands only.
     QString user;

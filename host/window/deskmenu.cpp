@@ -22,8 +22,6 @@ struct ItemRow {
 };
 
 constexpr ItemRow kItems[] = {
-    {DeskMenu::FileMenu, DeskMenu::FindDevices, "FindDevices",
-     QT_TRANSLATE_NOOP("DeskMenu", "Add s&everal\u2026"), "Ctrl+Shift+N", false, false, false},
     {DeskMenu::FileMenu, DeskMenu::Quit, "Quit", QT_TRANSLATE_NOOP("DeskMenu", "&Quit"), "Ctrl+Q",
      false, true, false},
     {DeskMenu::ViewMenu, DeskMenu::AllDevices, "AllDevices",

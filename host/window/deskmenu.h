@@ -18,7 +18,6 @@ class DeskMenu : public QMenuBar
 public:
     enum Menu { FileMenu, ViewMenu, DeviceMenu, HelpMenu };
     enum Item {
-        FindDevices,
         Quit,
         AllDevices,
         Filter,

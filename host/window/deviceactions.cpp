@@ -2,6 +2,7 @@
 
 #include "window/confirmbox.h"
 #include "window/devicedialog.h"
+#include "window/finddevicesdialog.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -16,6 +17,8 @@ DeviceActions::DeviceActions(Fleet& fleet, WatchList& list, const Fleet::Connect
     , m_gate(new OperatorGate(session, window))
     , m_window(window)
     , m_add(makeAction(tr("A&dd\u2026"), "AddDevice", Qt::Key_Insert, [this] { add(); }))
+    , m_addSeveral(makeAction(tr("Add &several\u2026"), "AddSeveral",
+                              Qt::CTRL | Qt::SHIFT | Qt::Key_N, [this] { addSeveral(); }))
     , m_edit(makeAction(tr("&Edit\u2026"), "EditDevice", Qt::Key_F2, [this] { edit(); }))
     , m_remove(
           makeAction(tr("&Remove\u2026"), "RemoveDevice", Qt::Key_Delete, [this] { remove(); }))
@@ -24,6 +27,7 @@ DeviceActions::DeviceActions(Fleet& fleet, WatchList& list, const Fleet::Connect
     , m_moveDown(makeAction(tr("Move d&own"), "MoveDeviceDown", Qt::ALT | Qt::Key_Down,
                             [this] { move(1); }))
 {
+    m_addSeveral->setShortcutContext(Qt::WindowShortcut);
     m_moveUp->setIconText(QStringLiteral("\u2191"));
     m_moveDown->setIconText(QStringLiteral("\u2193"));
     connect(&fleet, &Fleet::deviceAboutToBeRemoved, this, [this](int index) {
@@ -114,6 +118,22 @@ void DeviceActions::add()
             emit chosen(m_list.find(settings.name));
         return reason;
     });
+}
+
+void DeviceActions::addSeveral()
+{
+    DeviceSettings fresh;
+    fresh.pollInterval = m_list.config().settings().pollInterval;
+    const auto save = [this](const QVector<DeviceSettings>& devices) {
+        QString reason;
+        for (const DeviceSettings& device : devices)
+            if (reason.isEmpty())
+                reason = m_list.add(device);
+        return reason;
+    };
+    auto* dialog = new FindDevicesDialog(fresh, otherNames({}), m_maker, save, m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
 void DeviceActions::edit()

@@ -28,6 +28,7 @@ public:
     Device* current() const { return m_current; }
 
     QAction* addAction() const { return m_add; }
+    QAction* addSeveralAction() const { return m_addSeveral; }
     QAction* editAction() const { return m_edit; }
     QAction* removeAction() const { return m_remove; }
     QAction* moveUpAction() const { return m_moveUp; }
@@ -39,6 +40,7 @@ public:
 
     // None waits for the operator.
     void add();
+    void addSeveral();
     void edit();
     void remove();
 
@@ -66,6 +68,7 @@ private:
     QPointer<Device> m_current;
     int m_lostIndex = -1; // where the current device was when it went
     QAction* m_add;
+    QAction* m_addSeveral;
     QAction* m_edit;
     QAction* m_remove;
     QAction* m_moveUp;

@@ -1,7 +1,9 @@
 #include "window/devicedialog.h"
 
+#include "config/configkeys.h"
 #include "config/deskconfig.h"
 #include "window/deviceadvanced.h"
+#include "window/devicename.h"
 #include "window/devicesummary.h"
 #include "window/nutfields.h"
 #include "window/simulatorfields.h"
@@ -10,10 +12,13 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -24,6 +29,7 @@
 namespace {
 
 constexpr int kWidth = 520; // px
+constexpr int kFrame = 40;  // that the title and borders may take
 constexpr int kLongestAddress = 1000;
 
 // In the order of the pages with their fields.
@@ -52,6 +58,22 @@ QString sentence(const QString& reason)
     return text.endsWith(QLatin1Char('.')) ? text : text + QLatin1Char('.');
 }
 
+// The form of a small screen's dialog scrolls; elsewhere it has all the room it asks for.
+QScrollArea* scrolled(QWidget* form)
+{
+    class FormArea : public QScrollArea
+    {
+    public:
+        QSize sizeHint() const override { return widget()->sizeHint(); }
+    };
+    auto* area = new FormArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(form);
+    return area;
+}
+
 } // namespace
 
 DeviceDialog::DeviceDialog(const DeviceSettings& device, const QStringList& takenNames,
@@ -62,6 +84,7 @@ DeviceDialog::DeviceDialog(const DeviceSettings& device, const QStringList& take
     , m_maker(maker)
     , m_save(save)
     , m_name(new QLineEdit)
+    , m_group(new QLineEdit)
     , m_kind(new QComboBox)
     , m_address(new QLineEdit)
     , m_interval(DeviceAdvanced::makeNumberField(QStringLiteral("interval")))
@@ -74,8 +97,25 @@ DeviceDialog::DeviceDialog(const DeviceSettings& device, const QStringList& take
     setWindowTitle(device.address.text.isEmpty() ? tr("Add a device")
                                                  : tr("Settings of %1").arg(device.displayName()));
     setMinimumWidth(kWidth);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(makeTop());
+    column->addWidget(makeTabs(), 1);
+    column->addWidget(m_message);
+    column->addLayout(makeFoot());
+    m_ok->setDefault(true); // in its dialog: earlier, Cancel would stay the default once focused
+    connectFields();
+    showDevice(device);
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        resize(sizeHint().boundedTo(screen->availableSize() - QSize(kFrame, kFrame)));
+}
+
+QFormLayout* DeviceDialog::makeTop()
+{
     m_name->setObjectName(QStringLiteral("NameEdit"));
     m_name->setMaxLength(DeskConfig::kMaxName);
+    m_group->setObjectName(QStringLiteral("GroupEdit"));
+    m_group->setPlaceholderText(tr("site or room"));
+    m_group->setMaxLength(deviceKeyType(QStringLiteral("group")).maximum);
     m_kind->setObjectName(QStringLiteral("KindBox"));
     for (const char* kind : kKinds)
         m_kind->addItem(tr(kind));
@@ -83,42 +123,51 @@ DeviceDialog::DeviceDialog(const DeviceSettings& device, const QStringList& take
     m_address->setMaxLength(kLongestAddress);
     m_address->setPlaceholderText(tr("nut://HOST/UPS, snmp://COMMUNITY@HOST or sim:"));
     m_address->setToolTip(tr("The address in one line; paste one here to fill the fields"));
+    m_interval->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 
     auto* top = new QFormLayout;
     top->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     top->addRow(tr("Na&me"), m_name);
+    top->addRow(tr("&Group"), m_group);
     top->addRow(tr("&Kind"), m_kind);
     top->addRow(tr("&Address"), m_address);
     top->addRow(tr("Poll &every"), m_interval);
-    m_interval->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    return top;
+}
 
+QWidget* DeviceDialog::makeTabs()
+{
     m_fields->addWidget(new NutFields);
     m_fields->addWidget(new SnmpFields);
     m_fields->addWidget(new SimulatorFields);
     auto* tabs = new QTabWidget;
     tabs->setObjectName(QStringLiteral("DeviceTabs"));
-    tabs->addTab(m_fields, tr("Con&nection"));
-    tabs->addTab(m_advanced, tr("A&dvanced"));
+    tabs->addTab(scrolled(m_fields), tr("Con&nection"));
+    tabs->addTab(scrolled(m_advanced), tr("A&dvanced"));
+    return tabs;
+}
 
+QHBoxLayout* DeviceDialog::makeFoot()
+{
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     m_ok = buttons->button(QDialogButtonBox::Ok);
+    connect(buttons, &QDialogButtonBox::accepted, this, &DeviceDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &DeviceDialog::reject);
     m_testButton->setObjectName(QStringLiteral("TestButton"));
     m_testButton->setAutoDefault(false);
-
-    auto* column = new QVBoxLayout(this);
-    column->addLayout(top);
-    column->addWidget(tabs, 1);
-    column->addWidget(m_message);
+    connect(m_testButton, &QPushButton::clicked, this, &DeviceDialog::toggleTest);
     auto* foot = new QHBoxLayout;
     foot->addWidget(m_testButton);
     foot->addStretch(1);
     foot->addWidget(buttons);
-    column->addLayout(foot);
-    m_ok->setDefault(true); // in its dialog: earlier, Cancel would stay the default once focused
+    return foot;
+}
 
-    connect(m_name, &QLineEdit::textChanged, this, &DeviceDialog::review);
-    connect(m_interval, QOverload<int>::of(&QSpinBox::valueChanged), this, &DeviceDialog::review);
-    connect(m_advanced, &DeviceAdvanced::edited, this, &DeviceDialog::review);
+void DeviceDialog::connectFields()
+{
+    connect(m_name, &QLineEdit::textChanged, this, &DeviceDialog::touch);
+    connect(m_interval, QOverload<int>::of(&QSpinBox::valueChanged), this, &DeviceDialog::touch);
+    connect(m_advanced, &DeviceAdvanced::edited, this, &DeviceDialog::touch);
     connect(m_address, &QLineEdit::textChanged, this, &DeviceDialog::takeAddress);
     connect(m_kind, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int kind) {
         m_fields->setCurrentIndex(kind);
@@ -126,15 +175,14 @@ DeviceDialog::DeviceDialog(const DeviceSettings& device, const QStringList& take
     });
     for (int i = 0; i < m_fields->count(); ++i) {
         auto* page = static_cast<AddressFields*>(m_fields->widget(i));
-        connect(page, &AddressFields::edited, this, &DeviceDialog::takeFields);
+        connect(page, &AddressFields::edited, this, [this] {
+            m_touched |= !m_filling;
+            takeFields();
+        });
         connect(page, &AddressFields::said, this, [this](const QString& text, bool isBad) {
             m_message->say(text, isBad ? DialogMessage::Tone::Bad : DialogMessage::Tone::Hint);
         });
     }
-    connect(m_testButton, &QPushButton::clicked, this, &DeviceDialog::toggleTest);
-    connect(buttons, &QDialogButtonBox::accepted, this, &DeviceDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &DeviceDialog::reject);
-    showDevice(device);
 }
 
 DeviceDialog::~DeviceDialog() = default;
@@ -149,11 +197,7 @@ QString DeviceDialog::name() const
     const QString typed = m_name->text().trimmed();
     if (!typed.isEmpty())
         return typed;
-    const QString proposed = fields()->proposedName().left(DeskConfig::kMaxName - 5);
-    QString free = proposed;
-    for (int number = 2; m_takenNames.contains(free); ++number)
-        free = QStringLiteral("%1 %2").arg(proposed).arg(number);
-    return free;
+    return freeName(m_testedName.isEmpty() ? fields()->proposedName() : m_testedName, m_takenNames);
 }
 
 void DeviceDialog::showDevice(const DeviceSettings& device)
@@ -161,6 +205,7 @@ void DeviceDialog::showDevice(const DeviceSettings& device)
     {
         const QScopedValueRollback<bool> filling(m_filling, true);
         m_name->setText(device.name);
+        m_group->setText(device.group);
         m_interval->setValue(device.pollInterval);
         m_advanced->showSettings(device);
         for (int i = 0; i < m_fields->count(); ++i)
@@ -180,6 +225,7 @@ DeviceSettings DeviceDialog::settings() const
 {
     DeviceSettings settings = m_device;
     settings.name = name();
+    settings.group = m_group->text().simplified();
     settings.address = address();
     settings.user.clear();
     settings.secret.clear();
@@ -232,6 +278,8 @@ void DeviceDialog::takeAddress(const QString& text)
 {
     if (m_filling)
         return;
+    m_touched = true;
+    m_testedName.clear(); // it was the name of what stood here before
     const ParsedAddress parsed = parseDeviceAddress(text);
     m_addressError = sentence(parsed.error);
     if (parsed.address) {
@@ -258,6 +306,7 @@ void DeviceDialog::takeFields()
     if (m_filling)
         return;
     m_addressError.clear();
+    m_testedName.clear();
     {
         const QScopedValueRollback<bool> filling(m_filling, true);
         m_address->setText(addressOfFields());
@@ -276,10 +325,15 @@ void DeviceDialog::review()
     const QString wrong = error();
     m_ok->setEnabled(wrong.isEmpty());
     m_testButton->setEnabled(wrong.isEmpty());
-    // Somebody who has only opened the dialog has done nothing wrong yet.
+    // Somebody who has only opened the dialog or chosen a kind has done nothing wrong yet.
     m_message->say(wrong, m_touched && !wrong.isEmpty() ? DialogMessage::Tone::Bad
                                                         : DialogMessage::Tone::Hint);
-    m_touched = true;
+}
+
+void DeviceDialog::touch()
+{
+    m_touched |= !m_filling;
+    review();
 }
 
 // Testing
@@ -314,6 +368,8 @@ void DeviceDialog::showTestResult()
     if (live && !device.settings().user.isEmpty())
         text += QLatin1Char('\n') +
                 tr("The server looks at user and password only when a command is sent.");
+    m_testedName = nameOfReading(device.reading());
+    m_name->setPlaceholderText(name());
     m_message->say(text, live ? DialogMessage::Tone::Good : DialogMessage::Tone::Bad);
     stopTest();
 }

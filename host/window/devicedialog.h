@@ -2,7 +2,8 @@
 #define DEVICEDIALOG_H
 
 // Adds a device or changes one: its address in fields and as text, tried out before it is kept.
-// May touch: Qt Widgets, addresses, connectors by their base class.
+// May touch: Qt Widgets, addresses, the limits of the configuration, connectors by their base
+// class.
 
 #include "fleet/connectiontest.h"
 #include "window/dialogmessage.h"
@@ -12,6 +13,8 @@
 class AddressFields;
 class DeviceAdvanced;
 class QComboBox;
+class QFormLayout;
+class QHBoxLayout;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
@@ -40,6 +43,10 @@ public:
     void done(int result) override;
 
 private:
+    QFormLayout* makeTop();
+    QWidget* makeTabs();
+    QHBoxLayout* makeFoot();
+    void connectFields();
     AddressFields* fields() const;
     QString name() const;
     void showDevice(const DeviceSettings& device);
@@ -49,6 +56,7 @@ private:
     void showAddressOf(const DeviceAddress& address);
     void takeFields();
     void review();
+    void touch();
     void toggleTest();
     void stopTest();
     void showTestResult();
@@ -58,11 +66,13 @@ private:
     const Fleet::ConnectorMaker m_maker;
     const Save m_save;
     QString m_addressError; // of text that was typed and is no address; the fields are older
+    QString m_testedName;   // what the device called itself in the last test
     bool m_filling = false;
-    bool m_touched = false;
+    bool m_touched = false; // something has been typed
     std::unique_ptr<ConnectionTest> m_test;
 
     QLineEdit* m_name;
+    QLineEdit* m_group;
     QComboBox* m_kind;
     QLineEdit* m_address;
     QSpinBox* m_interval;

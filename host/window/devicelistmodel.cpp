@@ -122,8 +122,11 @@ QVariant DeviceListModel::data(const QModelIndex& index, int role) const
         return QVariant::fromValue(reinterpret_cast<quintptr>(device));
     case UrgencyRole:
         return static_cast<int>(device->condition().urgency);
+    case GroupRole:
+        return device->settings().group;
     case FilterRole:
-        return QString(device->name() + QLatin1Char('\n') + device->address() + QLatin1Char('\n') +
+        return QString(device->settings().group + QLatin1Char('\n') + device->name() +
+                       QLatin1Char('\n') + device->address() + QLatin1Char('\n') +
                        device->condition().text);
     default:
         return {};

@@ -18,6 +18,7 @@ public:
     enum Role {
         DeviceRole = Qt::UserRole, // Device*, as quintptr
         UrgencyRole,               // int, higher is worse
+        GroupRole,                 // site or room; may be empty
         FilterRole                 // text that the filter looks in
     };
 

@@ -1,8 +1,8 @@
 #ifndef DEVICEROWDELEGATE_H
 #define DEVICEROWDELEGATE_H
 
-// One device in the list: marker, name, state and age, address.
-// May touch: the device list model.
+// One device in the list: marker, name, state and age, address; above the first of a group, its
+// name. May touch: the device list model.
 
 #include <QStyledItemDelegate>
 

@@ -1,5 +1,7 @@
 #include "window/hostport.h"
 
+#include "connectors/addressrange.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -40,6 +42,13 @@ HostPort::HostPort(int standardPort, QWidget* parent)
     connect(m_port, QOverload<int>::of(&QSpinBox::valueChanged), this, &HostPort::edited);
 }
 
+void HostPort::setTakesRange()
+{
+    m_takesRange = true;
+    m_host->setAccessibleName(tr("Range of addresses"));
+    m_host->setPlaceholderText(tr("10.0.0.0/24 or 10.0.0.5-60"));
+}
+
 void HostPort::showAddress(const DeviceAddress& address)
 {
     m_host->setText(address.host);
@@ -59,6 +68,8 @@ QString HostPort::host() const
 
 QString HostPort::error() const
 {
+    if (m_takesRange)
+        return AddressRange::parse(host()).error;
     if (host().isEmpty())
         return tr("Enter the name or the IP address of the host.");
     QUrl url;

@@ -18,15 +18,19 @@ class HostPort : public QWidget
 public:
     explicit HostPort(int standardPort, QWidget* parent = nullptr);
 
+    // Takes a range of addresses instead of one host.
+    void setTakesRange();
+
     void showAddress(const DeviceAddress& address);
     void readAddress(DeviceAddress& address) const;
     QString host() const;
-    QString error() const; // empty: a host that an address can carry
+    QString error() const; // empty: a host that an address can carry, or a range
 
 signals:
     void edited();
 
 private:
+    bool m_takesRange = false;
     QLineEdit* m_host;
     QSpinBox* m_port;
 };

@@ -2,7 +2,7 @@
 #define LINKBAND_H
 
 // Says above a view why its data is not live, and how old it is.
-// May touch: Qt Widgets.
+// May touch: Qt Widgets, the colours of urgency.
 
 #include <QFrame>
 

@@ -17,6 +17,7 @@
 #include "window/walldisplay.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -104,6 +105,7 @@ void MainWindow::setUpWall()
     connect(m_wayBack, &QPushButton::clicked, this, &MainWindow::openOverview);
     connect(m_pages, &PageStack::currentChanged, m_wayBack,
             [this] { m_wayBack->setVisible(currentPage()); });
+    m_wayBack->hide();
     setCentralWidget(makeRightSide());
 }
 
@@ -157,7 +159,6 @@ void MainWindow::setUpMenu()
             connect(action, &QAction::triggered, this, row.act);
     }
     connect(m_menu->action(DeskMenu::Quit), &QAction::triggered, this, &QWidget::close);
-    m_menu->action(DeskMenu::FindDevices)->setVisible(false); // until there is a list to add to
     connect(m_events, &EventDock::wantedChanged, m_menu->action(DeskMenu::ShowEvents),
             &QAction::setChecked);
     connect(m_menu, &DeskMenu::pageChosen, this, [this](int page) {
@@ -212,7 +213,8 @@ void MainWindow::setActions(DeviceActions* actions, QAction* settings)
 {
     m_actions = actions;
     m_side->setActions(actions);
-    m_menu->addFirst(DeskMenu::FileMenu, {actions->addAction(), settings});
+    m_menu->addFirst(DeskMenu::FileMenu,
+                     {actions->addAction(), actions->addSeveralAction(), settings});
     m_menu->addFirst(DeskMenu::DeviceMenu,
                      {actions->editAction(), actions->removeAction(), nullptr});
     connect(m_strip, &FirstRunStrip::addWanted, actions->addAction(), &QAction::trigger);
@@ -239,6 +241,8 @@ void MainWindow::fitScreen()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     const QSize room = screen ? screen->availableSize() - QSize(kFrame, kFrame) : kFirstSize;
+    if (m_wayBack && screen) // a wall may have no window manager to make it fill the screen
+        return setGeometry(screen->geometry());
     resize(kFirstSize.boundedTo(room));
     if (room.width() < kFirstSize.width() || room.height() < kFirstSize.height())
         setWindowState(windowState() | Qt::WindowMaximized);

@@ -93,6 +93,12 @@ SnmpFields::SnmpFields(QWidget* parent)
     showAddress(DeviceAddress());
 }
 
+void SnmpFields::setTakesRange()
+{
+    m_host->setTakesRange();
+    static_cast<QLabel*>(m_form->labelForField(m_host))->setText(tr("&Range"));
+}
+
 void SnmpFields::showAddress(const DeviceAddress& address)
 {
     if (address.port != 0)

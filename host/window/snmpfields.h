@@ -19,6 +19,9 @@ class SnmpFields : public AddressFields
 public:
     explicit SnmpFields(QWidget* parent = nullptr);
 
+    // For many agents with the same community or user: the host is a range of addresses.
+    void setTakesRange();
+
     DeviceAddress::Scheme scheme() const override { return DeviceAddress::Scheme::Snmp; }
     void showAddress(const DeviceAddress& address) override;
     void showAccount(const DeviceSettings& settings) override;
