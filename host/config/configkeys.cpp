@@ -15,6 +15,7 @@ constexpr int kMaxSeconds = 86400;
 constexpr int kMaxInterval = 3600; // s
 constexpr int kMaxGroup = 100;
 constexpr int kMaxUser = 255;
+constexpr int kMaxPath = 1000;
 
 // The value that a path of members leads to, as a QVariant: at<&DeskSettings::thresholds,
 // &Thresholds::loadHigh>.
@@ -96,6 +97,19 @@ const std::vector<ConfigKey<DeskSettings>>& deskKeys()
             C::choice(
                 {{"keychain", QT_TRANSLATE_NOOP("ConfigKeys", "the desktop's keychain")},
                  {"file", QT_TRANSLATE_NOOP("ConfigKeys", "a file that only you can read")}})),
+        desk<&D::history, &HistorySettings::store>("history", "store", "", C::text(kMaxPath)),
+        desk<&D::history, &HistorySettings::mode>("history", "mode", "",
+                                                  C::choice({{"desk", ""}, {"viewer", ""}})),
+        desk<&D::history, &HistorySettings::tls>(
+            "history", "tls", "", C::choice({{"required", ""}, {"preferred", ""}, {"off", ""}})),
+        desk<&D::history, &HistorySettings::certificateAuthority>("history", "ca", "",
+                                                                  C::text(kMaxPath)),
+        desk<&D::history, &HistorySettings::keepSamples>("history", "keep-samples", "",
+                                                         C::number(1, 366, "days")),
+        desk<&D::history, &HistorySettings::keepMinutes>("history", "keep-minutes", "",
+                                                         C::number(1, 3660, "days")),
+        desk<&D::history, &HistorySettings::keepQuarters>("history", "keep-quarters", "",
+                                                          C::number(1, 36600, "days")),
     };
     return keys;
 }

@@ -4,7 +4,7 @@
 // The user's configuration: read, edited on terms, saved.
 // May touch: Qt Core, the file system, addresses, names of readings.
 //
-//  [poll] [thresholds] [session] [window] [secrets]   the desk; keys, ranges and words:
+//  [poll] [thresholds] [session] [window] [secrets] [history]   the desk; keys, ranges and words:
 //  configkeys.cpp [operator "NAME"]  level      0..9
 //                     hash       as `upsdesk add-operator` writes it
 //  [device "NAME"]    address    sim:, nut:// or snmp://

@@ -1,0 +1,148 @@
+#include "history/postgresstore.h"
+
+#include <QCoreApplication>
+#include <QSqlError>
+
+namespace {
+
+struct Tr {
+    Q_DECLARE_TR_FUNCTIONS(PostgresStore)
+};
+
+// One lock for all that changes tables; any number that no other program uses.
+constexpr qint64 kSchemaLock = 0x757073646573;
+const QString kSystemAuthorities = QStringLiteral("/etc/ssl/certs/ca-certificates.crt");
+
+struct Fault {
+    const char* code; // SQLSTATE, or how it begins
+    const char* text; // %1: the server
+};
+constexpr Fault kFaults[] = {
+    {"28",
+     QT_TRANSLATE_NOOP("PostgresStore", "%1 does not let this user in; look at the password")},
+    {"3D000", QT_TRANSLATE_NOOP("PostgresStore", "%1: there is no such database; create it")},
+    {"42501",
+     QT_TRANSLATE_NOOP("PostgresStore", "%1: the user may not do this; look at its rights")},
+    {"25006", QT_TRANSLATE_NOOP("PostgresStore", "%1 is read-only")},
+    {"53100", QT_TRANSLATE_NOOP("PostgresStore", "the disk of %1 is full")},
+    {"53300", QT_TRANSLATE_NOOP("PostgresStore", "%1 has too many connections")},
+    {"55P03", QT_TRANSLATE_NOOP("PostgresStore", "%1: a table is locked by another program")},
+    {"57P", QT_TRANSLATE_NOOP("PostgresStore", "%1 is shutting down or starting up")},
+};
+
+} // namespace
+
+bool PostgresStore::connectTo(QSqlDatabase& database, Access access)
+{
+    m_partitions.clear();
+    const bool isTrusted = m_address.isLocal() || m_address.secret.isEmpty();
+    // A password goes to nobody but the server that was meant, unless the configuration says so.
+    const bool verify = m_address.tls == HistoryTls::Required ||
+                        (m_address.tls == HistoryTls::Preferred && !isTrusted);
+    QStringList options{
+        QStringLiteral("connect_timeout=5"),  QStringLiteral("tcp_user_timeout=10000"),
+        QStringLiteral("keepalives_idle=10"), QStringLiteral("keepalives_interval=5"),
+        QStringLiteral("keepalives_count=3"), QStringLiteral("application_name=upsdesk")};
+    if (verify) {
+        const QString& file = m_address.certificateAuthority;
+        options << QStringLiteral("sslmode=verify-full")
+                << QStringLiteral("sslrootcert='%1'")
+                       .arg(QString(file.isEmpty() ? kSystemAuthorities : file)
+                                .replace('\\', "\\\\")
+                                .replace('\'', "\\'"));
+    } else {
+        options << (m_address.tls == HistoryTls::Off ? QStringLiteral("sslmode=disable")
+                                                     : QStringLiteral("sslmode=prefer"));
+    }
+    database.setConnectOptions(options.join(QLatin1Char(';')));
+    database.setHostName(m_address.host);
+    database.setPort(m_address.port);
+    database.setUserName(m_address.user);
+    database.setPassword(m_address.secret);
+    database.setDatabaseName(m_address.database);
+    if (!database.open())
+        return takeError(database.lastError());
+    const QString timeout = QStringLiteral("SET lock_timeout = '5s'");
+    const QString limit = QStringLiteral("SET statement_timeout = '60s'");
+    const QString readOnly =
+        QStringLiteral("SET default_transaction_read_only = %1")
+            .arg(access == Access::Read ? QStringLiteral("on") : QStringLiteral("off"));
+    return execute(timeout) && execute(limit) && execute(readOnly) &&
+           execute(QStringLiteral("SET client_min_messages = error"));
+}
+
+QString PostgresStore::beginStatement(bool isMigration) const
+{
+    return isMigration ? QStringLiteral("BEGIN; SELECT pg_advisory_xact_lock(%1)").arg(kSchemaLock)
+                       : QStringLiteral("BEGIN");
+}
+
+QString PostgresStore::inDialect(QString statement) const
+{
+    return statement.replace("{id}", "BIGSERIAL PRIMARY KEY")
+        .replace("{big}", "BIGINT")
+        .replace("{blob}", "BYTEA")
+        .replace("{real}", "DOUBLE PRECISION")
+        .replace("{partitioned}", "PARTITION BY RANGE (t)")
+        .replace("{clustered}", QString());
+}
+
+QString PostgresStore::plainFault(const QString& code) const
+{
+    const QString server = QStringLiteral("PostgreSQL %1:%2/%3")
+                               .arg(m_address.host)
+                               .arg(m_address.port)
+                               .arg(m_address.database);
+    if (code.isEmpty())
+        return Tr::tr("%1 does not answer").arg(server);
+    for (const Fault& fault : kFaults)
+        if (code.startsWith(QLatin1String(fault.code)))
+            return Tr::tr(fault.text).arg(server);
+    return {};
+}
+
+void PostgresStore::rollback()
+{
+    HistoryStore::rollback();
+    m_partitions.clear(); // those just made are gone again
+}
+
+bool PostgresStore::prepareTier(int tier, qint64 timeMs)
+{
+    const Tier& row = kTiers[tier];
+    const qint64 from = spanStart(timeMs, row.partitionMs);
+    const QString name =
+        QStringLiteral("%1_%2").arg(QLatin1String(row.table)).arg(from / kMsPerHour);
+    if (m_partitions.contains(name))
+        return true;
+    // Two collectors may need the same new partition in the same second.
+    if (!execute(QStringLiteral("SELECT pg_advisory_xact_lock(%1)").arg(kSchemaLock)) ||
+        !execute(QStringLiteral("CREATE TABLE IF NOT EXISTS \"%1\" PARTITION OF %2 "
+                                "FOR VALUES FROM (%3) TO (%4)")
+                     .arg(name, QLatin1String(row.table))
+                     .arg(from)
+                     .arg(from + row.partitionMs)))
+        return false;
+    m_partitions += name;
+    return true;
+}
+
+bool PostgresStore::forgetSome(int tier, qint64 beforeMs)
+{
+    const Tier& row = kTiers[tier];
+    QSqlQuery* query = run(QStringLiteral("SELECT c.relname FROM pg_inherits i JOIN pg_class c ON "
+                                          "c.oid = i.inhrelid WHERE i.inhparent = ?::regclass"),
+                           {QLatin1String(row.table)});
+    const QString prefix = QLatin1String(row.table) + QLatin1Char('_');
+    while (query && query->next()) {
+        const QString name = query->value(0).toString();
+        bool ok = false;
+        const qint64 from = name.mid(prefix.size()).toLongLong(&ok) * kMsPerHour;
+        if (!ok || !name.startsWith(prefix) || from + row.partitionMs > beforeMs)
+            continue;
+        query->finish();
+        m_partitions.remove(name);
+        return execute(QStringLiteral("DROP TABLE \"%1\"").arg(name));
+    }
+    return false;
+}
