@@ -7,6 +7,7 @@
 #include "config/deskconfig.h"
 #include "connectors/connectorfactory.h"
 #include "fleet/watchlist.h"
+#include "history/deskhistory.h"
 #include "openfilelimit.h"
 #include "operators/operatorsession.h"
 #include "promptexit.h"
@@ -163,6 +164,13 @@ int runWindow(const WindowOptions& options)
         window.setSimulation(fleet.add(*settingsForAddress(QStringLiteral("sim:"))));
     if (fleet.count() == 1 && !options.kiosk)
         window.openDevice(fleet.at(0));
+    // A simulation is worth keeping only where somebody has put it into the configuration.
+    DeskHistory history(fleet, log, [&list](const Device& device) {
+        return !device.isSimulated() || list.isConfigured(&device);
+    });
+    QObject::connect(&history, &DeskHistory::told, &window, &MainWindow::tell);
+    if (config.settings().history.mode == HistoryMode::Desk)
+        history.start(config.settings().history, config.settings().secrets);
     openWindow(window, options, state);
     const int result = QApplication::exec();
     if (!options.kiosk)

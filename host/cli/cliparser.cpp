@@ -27,9 +27,10 @@ constexpr int kAny = std::numeric_limits<int>::max();
 constexpr CliUsage kUsages[] = {
     {"", "[ADDRESS...]", 0, kAny,
      QT_TRANSLATE_NOOP(
-         "Cli", "Watches uninterruptible power supplies: those given, or else those of the "
-                "configuration, or else a\nsimulated one. Other modes, each with a --help of "
-                "its own: probe, check, picture, command,\nadd-operator, check-config."),
+         "Cli",
+         "Watches uninterruptible power supplies: those given, or else those of the "
+         "configuration, or else a\nsimulated one. Other modes, each with a --help of "
+         "its own: probe, check, picture, command,\nadd-operator, check-config, export, journal."),
      QT_TRANSLATE_NOOP("Cli", "0 closed, 2 usage"),
      "nut://10.0.0.5/rack3 snmp://public@10.0.0.7\nsim: sim:outage\n--kiosk --dark"},
     {"probe", "ADDRESS [--json]", 1, 1,
@@ -65,6 +66,20 @@ constexpr CliUsage kUsages[] = {
      QT_TRANSLATE_NOOP("Cli", "Says what is wrong in the configuration, line by line."),
      QT_TRANSLATE_NOOP("Cli", "0 no errors, 2 errors, no such file, or usage"),
      "check-config\ncheck-config /etc/upsdesk.conf"},
+    {"export", "DEVICE [--from T] [--to T] [--csv|--json]", 1, 1,
+     QT_TRANSLATE_NOOP("Cli", "Prints what is stored of a device, oldest first. T is a time, as "
+                              "2026-03-29T14:00, or an\nage: 90m, 36h, 7d, 2w."),
+     QT_TRANSLATE_NOOP("Cli", "0 printed, 3 the store cannot be read, 2 usage, or nothing is "
+                              "stored of the device"),
+     "export \"Rack 3\" --from 7d\nexport nut://10.0.0.5/rack3 --json --from 2026-03-29 "
+     "--to 2026-03-30"},
+    {"journal", "[--device D] [--since T] [--json]", 0, 0,
+     QT_TRANSLATE_NOOP("Cli", "Prints what happened, oldest first, and what has lasted since "
+                              "before. T is a time, as\n2026-03-29T14:00, or an age: 90m, 36h, "
+                              "7d, 2w."),
+     QT_TRANSLATE_NOOP("Cli", "0 printed, 3 the store cannot be read, 2 usage, or nothing is "
+                              "stored of the device"),
+     "journal --since 36h\njournal --device \"Rack 3\" --json"},
 };
 
 const CliUsage& usageOf(const QString& name)

@@ -20,6 +20,8 @@ constexpr Subcommand kSubcommands[] = {
     {"command", runCommand},
     {"add-operator", runAddOperator},
     {"check-config", runCheckConfig},
+    {"export", runExport},
+    {"journal", runJournal},
 };
 
 const Subcommand* find(const QString& name)

@@ -13,5 +13,7 @@ int runPicture(const QStringList& arguments);     // one PNG per page; paints
 int runCommand(const QStringList& arguments);     // one command, followed to its result
 int runAddOperator(const QStringList& arguments); // asks for a password, writes the configuration
 int runCheckConfig(const QStringList& arguments); // what is wrong in the configuration
+int runExport(const QStringList& arguments);      // what is stored of a device
+int runJournal(const QStringList& arguments);     // what happened
 
 #endif // SUBCOMMANDS_H

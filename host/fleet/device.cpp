@@ -192,3 +192,9 @@ void Device::noteCondition()
                         m_readingBootMs - m_beforeGap.heardMs <= shortGapMs();
     m_noticed = {now, goesOn ? m_beforeGap.since : m_clock.now(), m_readingBootMs};
 }
+
+void Device::setConditionSince(const QDateTime& since)
+{
+    if (since < m_noticed.since)
+        m_noticed.since = since;
+}

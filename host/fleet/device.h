@@ -49,6 +49,8 @@ public:
     // Since when the desk has seen the device in that condition. A poll or two that failed in
     // between do not make it a new one.
     QDateTime conditionSince() const { return m_noticed.since; }
+    // An earlier run of the desk has seen it begin; a later time than is known changes nothing.
+    void setConditionSince(const QDateTime& since);
 
     // Empty before the first good reading: a view must not be fed with an empty snapshot.
     QMap<int, QVariant> snapshot(SnapshotPage page) const;

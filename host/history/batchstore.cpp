@@ -160,9 +160,11 @@ bool BatchStore::endEntry(const JournalEntry& entry)
 {
     return m_store.run(QStringLiteral("UPDATE journal SET ended = ?, message = CASE WHEN ? = '' "
                                       "THEN message ELSE ? END, lowest_charge = coalesce(?, "
-                                      "lowest_charge) WHERE key = ?"),
+                                      "lowest_charge), severity = CASE WHEN severity < ? THEN ? "
+                                      "ELSE severity END WHERE key = ?"),
                        {orNull(entry.endMs), storable(entry.message), storable(entry.message),
-                        orNull(entry.lowestCharge), entry.key});
+                        orNull(entry.lowestCharge), static_cast<int>(entry.severity),
+                        static_cast<int>(entry.severity), entry.key});
 }
 
 bool BatchStore::acknowledge(const JournalEntry& entry)

@@ -10,6 +10,8 @@
 #include <QSqlError>
 #include <QUuid>
 
+#include <sys/socket.h>
+
 namespace {
 
 struct Tr {
@@ -60,12 +62,26 @@ bool HistoryStore::open(Access access)
 
 void HistoryStore::close()
 {
+    setSocket(-1);
     m_prepared.clear();
     if (!m_database.isValid())
         return;
     m_database.close();
     m_database = {};
     QSqlDatabase::removeDatabase(m_name);
+}
+
+void HistoryStore::setSocket(int socket)
+{
+    QMutexLocker locker(&m_socketMutex);
+    m_socket = socket;
+}
+
+void HistoryStore::abort()
+{
+    QMutexLocker locker(&m_socketMutex);
+    if (m_socket >= 0)
+        ::shutdown(m_socket, SHUT_RDWR);
 }
 
 bool HistoryStore::fail(const QString& text)
@@ -87,6 +103,10 @@ bool HistoryStore::takeError(const QSqlError& error)
 
 QSqlQuery* HistoryStore::run(const QString& sql, const QVariantList& values)
 {
+    if (!m_database.isOpen()) {
+        takeError({});
+        return nullptr;
+    }
     auto found = m_prepared.find(sql);
     if (found == m_prepared.end()) {
         QSqlQuery query(m_database);
@@ -134,6 +154,8 @@ bool HistoryStore::insertRows(const QString& into, const QString& tail, int colu
 
 bool HistoryStore::execute(const QString& sql)
 {
+    if (!m_database.isOpen())
+        return takeError({});
     QSqlQuery query(m_database);
     return query.exec(sql) || takeError(query.lastError());
 }
@@ -152,7 +174,8 @@ void HistoryStore::rollback()
 {
     for (auto& prepared : m_prepared)
         prepared.second.finish();
-    QSqlQuery(m_database).exec(QStringLiteral("ROLLBACK"));
+    if (m_database.isOpen())
+        QSqlQuery(m_database).exec(QStringLiteral("ROLLBACK"));
 }
 
 int HistoryStore::schemaVersion()

@@ -8,6 +8,7 @@
 #include "history/storeaddress.h"
 #include "history/tiers.h"
 
+#include <QMutex>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QVariant>
@@ -28,6 +29,8 @@ public:
     // For writing the schema is made or brought up to date. False: see errorText().
     bool open(Access access);
     void close();
+    // From any thread: ends what waits for a server that does not answer, with an error.
+    void abort();
     bool isOpen() const { return m_database.isOpen(); }
 
     // A statement with ? for each value, prepared once and kept. Null after an error. The query
@@ -70,6 +73,7 @@ protected:
     bool takeError(const QSqlError& error);
     static QSqlDatabase addDatabase(const QString& driver, const QString& name);
     bool execute(const QString& sql);
+    void setSocket(int socket);
 
     StoreAddress m_address;
     QSqlDatabase m_database;
@@ -81,6 +85,8 @@ private:
     QString m_name;
     QString m_error;
     bool m_connectionLost = false;
+    QMutex m_socketMutex;
+    int m_socket = -1;
     std::map<QString, QSqlQuery> m_prepared;
 };
 

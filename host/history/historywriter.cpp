@@ -20,15 +20,22 @@ constexpr int kMostEntries = 200000; // that wait in memory where even the spool
 constexpr qint64 kForgetDelayMs = 15 * kMsPerMinute;
 constexpr qint64 kForgetPauseMs = 10 * kMsPerMinute;
 constexpr qint64 kClockJumpMs = kMsPerMinute;
+// A server that is silent for so long is not waited for: what happens must get to the disk.
+constexpr qint64 kSilenceMs = 8000;
+constexpr int kWatchMs = 1000;
 
 } // namespace
 
 HistoryWriter::HistoryWriter(const HistoryWriterOptions& options, QObject* parent)
     : QObject(parent)
     , m_options(options)
+    , m_store(HistoryStore::make(options.store))
     , m_writer(newJournalKey())
     , m_spoolsSamples(options.store.kind == StoreAddress::Kind::Postgres)
-{}
+{
+    connect(&m_watch, &QTimer::timeout, this, &HistoryWriter::watchStore);
+    m_watch.start(kWatchMs);
+}
 
 HistoryWriter::~HistoryWriter()
 {
@@ -54,7 +61,8 @@ void HistoryWriter::stop()
         m_isStopping = true;
     }
     m_wake.wakeAll();
-    m_thread->wait();
+    while (!m_thread->wait(kSilenceMs))
+        m_store->abort();
     delete m_thread;
     m_thread = nullptr;
 }
@@ -89,13 +97,14 @@ void HistoryWriter::begin(const JournalEntry& entry, const QString& address)
 }
 
 void HistoryWriter::end(const QString& key, qint64 endMs, const QString& message,
-                        std::optional<double> lowestCharge)
+                        std::optional<double> lowestCharge, Urgency atLeast)
 {
     JournalEntry entry;
     entry.key = key;
     entry.endMs = endMs;
     entry.message = message;
     entry.lowestCharge = lowestCharge;
+    entry.severity = atLeast;
     add({HistoryRecord::Kind::End,
          {},
          {},
@@ -138,15 +147,16 @@ void HistoryWriter::add(HistoryRecord record)
 void HistoryWriter::work()
 {
     m_spool = std::make_unique<HistorySpool>(m_options.spoolFolder);
-    m_store = HistoryStore::make(m_options.store);
     m_forgetAtMs = bootClockMs() + kForgetDelayMs;
     while (waitForWork()) {
+        m_busySinceMs = bootClockMs();
         step();
         maintain();
+        m_busySinceMs = 0;
     }
     finish();
     m_batches.reset();
-    m_store.reset();
+    m_store->close();
     m_spool.reset();
 }
 
@@ -232,6 +242,7 @@ bool HistoryWriter::replaySpool()
         }
         m_written += static_cast<quint64>(batch->records.size());
         m_spool->dropFirst();
+        m_busySinceMs = bootClockMs();
     }
     return true;
 }
@@ -309,6 +320,13 @@ void HistoryWriter::forgetOld(qint64 nowMs)
 }
 
 // Faults
+
+void HistoryWriter::watchStore()
+{
+    const qint64 since = m_busySinceMs;
+    if (since > 0 && bootClockMs() - since > kSilenceMs)
+        m_store->abort();
+}
 
 void HistoryWriter::tellFault(const QString& text)
 {

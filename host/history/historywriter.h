@@ -10,6 +10,7 @@
 
 #include <QMutex>
 #include <QObject>
+#include <QTimer>
 #include <QWaitCondition>
 
 #include <atomic>
@@ -26,7 +27,7 @@ struct HistoryWriterOptions {
     QString spoolFolder = HistorySpool::defaultFolder();
     int mostSamples = 400000; // that wait in memory; the oldest go first
     int retryMs = 3000;       // between tries to reach a store that failed
-    int commitMs = 1000;      // longest time that a record waits for others to join it
+    int commitMs = 500;       // longest time that a record waits for others to join it
 };
 
 class HistoryWriter : public QObject
@@ -47,9 +48,10 @@ public:
                  const UpsReading& reading);
     // A new entry; its key must be set, its site is that of the options. address: of its device.
     void begin(const JournalEntry& entry, const QString& address = {});
-    // An entry that lasted is over. message: replaces the entry's own unless empty.
+    // An entry that lasted is over, or a command has its outcome. message: replaces the entry's own
+    // unless empty. atLeast: it turned out to be that severe.
     void end(const QString& key, qint64 endMs, const QString& message = {},
-             std::optional<double> lowestCharge = {});
+             std::optional<double> lowestCharge = {}, Urgency atLeast = Urgency::Normal);
     void acknowledge(const QString& key, const QString& operatorName, qint64 timeMs,
                      const QString& note);
 
@@ -85,6 +87,7 @@ private:
     void forgetOld(qint64 nowMs);
     void tellFault(const QString& text);
     void tellRecovered();
+    void watchStore();
 
     const HistoryWriterOptions m_options;
     QThread* m_thread = nullptr;
@@ -98,6 +101,8 @@ private:
     std::atomic<quint64> m_written{0};
     std::atomic<quint64> m_lost{0};
     std::atomic<bool> m_isFaulty{false};
+    std::atomic<qint64> m_busySinceMs{0}; // boot clock; 0: the thread waits for nobody
+    QTimer m_watch;
 
     // The thread's own.
     std::unique_ptr<HistoryStore> m_store;

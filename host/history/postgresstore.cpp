@@ -1,7 +1,11 @@
 #include "history/postgresstore.h"
 
 #include <QCoreApplication>
+#include <QSqlDriver>
 #include <QSqlError>
+#include <QVariant>
+
+#include <libpq-fe.h>
 
 namespace {
 
@@ -62,6 +66,8 @@ bool PostgresStore::connectTo(QSqlDatabase& database, Access access)
     database.setDatabaseName(m_address.database);
     if (!database.open())
         return takeError(database.lastError());
+    if (PGconn* connection = *static_cast<PGconn**>(database.driver()->handle().data()))
+        setSocket(PQsocket(connection));
     const QString timeout = QStringLiteral("SET lock_timeout = '5s'");
     const QString limit = QStringLiteral("SET statement_timeout = '60s'");
     const QString readOnly =

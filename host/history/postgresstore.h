@@ -3,7 +3,7 @@
 
 // The history in a PostgreSQL database that desks and collectors share. Its tiers are partitioned
 // by time, so that the old is forgotten by dropping a partition.
-// May touch: as the base class.
+// May touch: as the base class; the PostgreSQL client library.
 
 #include "history/historystore.h"
 

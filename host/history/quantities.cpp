@@ -38,6 +38,7 @@ constexpr LineRow kLines[] = {
     {"bypass.current", "A", &UpsReading::bypass, &LineReading::current},
     {"bypass.frequency", "Hz", &UpsReading::bypass, &LineReading::frequency},
     {"bypass.power", "W", &UpsReading::bypass, &LineReading::power},
+    {"output.apparent-power", "VA", &UpsReading::output, &LineReading::apparentPower},
 };
 
 std::vector<Quantity> makeQuantities()

@@ -249,6 +249,12 @@ QByteArray encodeSample(const Sample& sample)
                                       : std::nullopt);
     writeOptional(out, reading.alarmCount);
     writeTexts(out, reading.alarmTexts);
+    out.number(reading.saysMains ? 1 : 0);
+    out.number(static_cast<quint64>(reading.alarmAges.size()));
+    for (auto it = reading.alarmAges.cbegin(); it != reading.alarmAges.cend(); ++it) {
+        out.number(static_cast<quint64>(it.key()));
+        out.signedNumber(steps(std::min(it.value(), kMostNumber)));
+    }
     return out.bytes();
 }
 
@@ -271,6 +277,11 @@ bool decodeSample(const QByteArray& bytes, Sample& sample)
             reading.beeper = static_cast<Beeper>(*beeper);
         reading.alarmCount = readOptional(in);
         reading.alarmTexts = readTexts(in);
+        reading.saysMains = in.number() != 0;
+        for (quint64 left = in.number(); left > 0 && !in.failed(); --left) {
+            const auto alarm = static_cast<Alarm>(in.number());
+            reading.alarmAges.insert(alarm, static_cast<double>(in.signedNumber()) / kSteps);
+        }
     }
     return version == kVersion && !in.failed();
 }

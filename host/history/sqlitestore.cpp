@@ -46,7 +46,7 @@ bool SqliteStore::connectTo(QSqlDatabase& database, Access access)
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     database.setDatabaseName(path);
     // A reader opens the file like a writer: it shares the write-ahead log with the desk.
-    database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+    database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=2000"));
     if (!database.open())
         return takeError(database.lastError());
     if (isReading)
