@@ -124,6 +124,14 @@ private:
     Bucket m_open;
 };
 
+// Where coarse rows end and finer ones begin. The span in which the finer ones begin is taken
+// whole: from the coarse tier where that knows more (the finer rows before were forgotten).
+qint64 seam(TimeRange coarse, qint64 spanMs, qint64 finerFrom)
+{
+    const qint64 start = spanStart(finerFrom, spanMs);
+    return coarse.fromMs < start && start < finerFrom ? start + spanMs : start;
+}
+
 Bucket bucketOf(int tier, const QByteArray& data)
 {
     Bucket bucket;
@@ -234,8 +242,10 @@ QVector<HistoryQueries::Piece> HistoryQueries::pieces(qint64 device, TimeRange r
         for (int i = tier; i < coarse; ++i)
             if (const auto& extent = extents[static_cast<std::size_t>(i)])
                 finerFrom = std::min(finerFrom.value_or(extent->fromMs), extent->fromMs);
-        if (const auto& extent = extents[static_cast<std::size_t>(coarse)])
-            take(coarse, std::min(finerFrom.value_or(extent->toMs), extent->toMs));
+        const auto& extent = extents[static_cast<std::size_t>(coarse)];
+        if (!extent)
+            continue;
+        take(coarse, finerFrom ? seam(*extent, kTiers[coarse].spanMs, *finerFrom) : extent->toMs);
     }
     for (int i = tier; i >= 0; --i)
         if (const auto& extent = extents[static_cast<std::size_t>(i)])

@@ -63,12 +63,13 @@ bool HistoryStore::open(Access access)
 void HistoryStore::close()
 {
     setSocket(-1);
-    m_prepared.clear();
     if (!m_database.isValid())
         return;
     m_database.close();
     m_database = {};
     QSqlDatabase::removeDatabase(m_name);
+    // Without a driver they do not try to tell a lost server that they are gone.
+    m_prepared.clear();
 }
 
 void HistoryStore::setSocket(int socket)

@@ -31,6 +31,7 @@ public:
     // answer within kPatienceMs, it is followed without.
     void start();
     static constexpr qint64 kPatienceMs = 10 * 1000;
+    bool isFollowing() const { return m_isFollowing; }
 
 signals:
     // An entry has begun or is over; with its end, if it has one. For notifications.
