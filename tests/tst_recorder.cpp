@@ -203,6 +203,7 @@ private slots:
             Desk desk(m_options, m_clock);
             QTRY_VERIFY_WITH_TIMEOUT(desk.recorder.isFollowing(), kLimitMs);
             DeskEvent event;
+            event.time = m_clock.now();
             event.operatorName = "anna";
             event.device = kName;
             event.code = 1;

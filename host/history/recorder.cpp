@@ -14,9 +14,16 @@ constexpr qint64 kClockJumpMs = 5000;
 constexpr qint64 kMsPerSecond = 1000;
 constexpr double kLongestAge = 10 * 365 * 86400.0; // s; what a device says beyond it is not true
 
-JournalKind kindOf(const DeskEvent& event)
+// By the numbers of EventKind.
+constexpr JournalKind kEventKinds[] = {JournalKind::Command, JournalKind::Operator,
+                                       JournalKind::Configuration};
+
+// "refused: not now", or what there is of it.
+QString outcomeText(const DeskEvent& event)
 {
-    return event.code != 0 ? JournalKind::Command : JournalKind::Operator;
+    QStringList words{event.outcome, event.message};
+    words.removeAll(QString());
+    return words.join(QStringLiteral(": "));
 }
 
 } // namespace
@@ -246,14 +253,12 @@ void Recorder::begin(const JournalEntry& entry, const QString& address)
 void Recorder::noteEvent(int number)
 {
     const DeskEvent& event = m_log.at(number);
-    JournalEntry entry =
-        moment(kindOf(event), event.isBad ? Urgency::Warning : Urgency::Normal, event.text);
+    JournalEntry entry = moment(kEventKinds[static_cast<int>(event.kind)],
+                                event.isBad ? Urgency::Warning : Urgency::Normal, event.text);
     if (event.time.isValid())
         entry.onsetMs = event.time.toMSecsSinceEpoch();
     entry.operatorName = event.operatorName;
-    entry.message = QStringList{event.outcome, event.message}.join(QStringLiteral(": "));
-    if (event.outcome.isEmpty() || event.message.isEmpty())
-        entry.message = event.outcome + event.message;
+    entry.message = outcomeText(event);
     QString address;
     entry.device = event.device;
     for (int i = 0; i < m_fleet.count(); ++i)
@@ -274,11 +279,8 @@ void Recorder::noteOutcome(int number)
     const int back = m_log.count() - number;
     if (back > static_cast<int>(m_eventKeys.size()))
         return;
-    QStringList words{event.outcome, event.message};
-    words.removeAll(QString());
     m_writer.end(m_eventKeys[m_eventKeys.size() - static_cast<std::size_t>(back)], nowMs(),
-                 words.join(QStringLiteral(": ")), {},
-                 event.isBad ? Urgency::Warning : Urgency::Normal);
+                 outcomeText(event), {}, event.isBad ? Urgency::Warning : Urgency::Normal);
 }
 
 void Recorder::noteClock()
