@@ -619,7 +619,7 @@ void TestFleet::removedDeviceLeavesNoCommandOpen()
     Device* device = desk.add("sim:");
     desk.commands.post(device, 1003, {});
     desk.fleet.remove(0);
-    QCOMPARE(desk.log.at(0).outcome, outcomeLabel(CommandOutcome::NoAnswer));
+    QCOMPARE(desk.log.at(0).outcome, outcomeLabel(CommandOutcome::Unknown));
     QCOMPARE(desk.fleet.count(), 0);
 }
 

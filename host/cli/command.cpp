@@ -40,6 +40,8 @@ int exitCodeOf(CommandOutcome outcome)
     case CommandOutcome::Refused:
     case CommandOutcome::NotOffered:
         return ExitRefused;
+    case CommandOutcome::Unknown:
+        return ExitResultUnknown;
     case CommandOutcome::NoAnswer:
         break;
     }

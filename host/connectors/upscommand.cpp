@@ -126,7 +126,9 @@ QString outcomeLabel(CommandOutcome outcome)
     case CommandOutcome::NotOffered:
         return Tr::tr("not offered by this device");
     case CommandOutcome::NoAnswer:
+        return Tr::tr("no answer");
+    case CommandOutcome::Unknown:
         break;
     }
-    return Tr::tr("no answer");
+    return Tr::tr("sent, result unknown");
 }

@@ -23,7 +23,8 @@ enum class CommandOutcome {
     Done,       // the device says it did it (or has begun a test)
     Refused,    // the device or server says no, or the result is a failure
     NotOffered, // this device has no such command
-    NoAnswer    // nothing said how it ended
+    NoAnswer,   // no answer; nothing was sent
+    Unknown     // it was sent, and nothing told how it ended
 };
 
 struct CommandResult {

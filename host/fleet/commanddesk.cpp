@@ -140,10 +140,10 @@ void CommandDesk::forget(PendingById& pending, const Device* device)
         }
         const Pending ended = *it;
         it = pending.erase(it);
-        conclude(ended, CommandOutcome::NoAnswer,
-                 &pending == &m_asked
-                     ? tr("The device was removed or changed; nothing was sent.")
-                     : tr("The device was removed or changed before it answered."));
+        const bool isSent = &pending != &m_asked;
+        conclude(ended, isSent ? CommandOutcome::Unknown : CommandOutcome::NoAnswer,
+                 isSent ? tr("The device was removed or changed before it answered.")
+                        : tr("The device was removed or changed; nothing was sent."));
     }
 }
 

@@ -14,8 +14,6 @@ constexpr milliseconds kBetweenLooks{500};
 constexpr int kMostRounds = 30; // 15 s until a command that was accepted must show an effect
 constexpr int kMostRoundsOfWakeUp = 120; // a UPS takes its time to come on
 constexpr int kMostLockTries = 3;
-// A setting was sent, and nothing tells what became of it.
-constexpr CommandOutcome kResultUnknown = CommandOutcome::NoAnswer;
 constexpr int kLongestReboot = 300;    // s, limit of upsRebootWithDuration
 constexpr int kCountdownTolerance = 2; // s by which a countdown that goes on may seem to jump
 
@@ -140,7 +138,7 @@ void SnmpCommand::takeLook(const SnmpReply& reply)
         if (m_phase == Phase::Before)
             finish(CommandOutcome::NoAnswer, m_result.message);
         else
-            finish(kResultUnknown,
+            finish(CommandOutcome::Unknown,
                    tr("The agent fell silent after the command was sent; it is not known whether "
                       "the device carried it out. It was not sent again."));
         return;
@@ -253,7 +251,7 @@ void SnmpCommand::takeSet(const SnmpReply& reply)
         return;
     }
     if (!m_settings.empty())
-        return finish(kResultUnknown,
+        return finish(CommandOutcome::Unknown,
                       tr("No answer to the first step of the command; the shutdown was not sent."));
     m_phase = Phase::After;
     if (isTest())
@@ -281,17 +279,18 @@ void SnmpCommand::finishUnknown()
     const std::optional<qint64> before = numberBefore(outputSource);
     const bool wakesUp = m_command.kind == CommandKind::WakeUp;
     if (m_unclear)
-        finish(kResultUnknown, tr("No answer to the command, and the device shows no effect of it. "
-                                  "It was not sent again."));
+        finish(CommandOutcome::Unknown,
+               tr("No answer to the command, and the device shows no effect of it. "
+                  "It was not sent again."));
     else if (!isTest() && (wakesUp ? isOn(before) : isOff(before)))
-        finish(kResultUnknown,
+        finish(CommandOutcome::Unknown,
                (wakesUp
                     ? tr("The agent accepted the command, but the output was on before: nothing "
                          "shows whether the device followed it.")
                     : tr("The agent accepted the command, but the output was off before: "
                          "nothing shows whether the device followed it.")));
     else
-        finish(kResultUnknown,
+        finish(CommandOutcome::Unknown,
                tr("The agent accepted the command, but the device shows no effect of it."));
 }
 
