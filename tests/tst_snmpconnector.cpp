@@ -97,7 +97,7 @@ private slots:
             {"snmp://wrong@127.0.0.1:%1", "wrong community"},
             {kSecured, "without SNMPv3"},
             {"snmp://public@127.0.0.1:9", "nothing at 127.0.0.1:9"},
-            {"snmp://public@ups.invalid", "Name not found: ups..invalid"},
+            {"snmp://public@ups.invalid", "no host named ups..invalid"},
         };
         for (const auto& row : rows) {
             const QString port = QString::number(m_agent->port());

@@ -19,6 +19,7 @@ CommandResult sendOnce(Device& device, const UpsCommand& command, int limitSecon
 {
     CommandResult result;
     result.id = command.id;
+    result.outcome = CommandOutcome::Unknown;
     result.message = QCoreApplication::translate("OnePoll", "There was no answer in time.");
 
     QEventLoop loop;

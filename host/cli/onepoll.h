@@ -9,7 +9,7 @@
 // One poll. When it returns, the device is live, stale, lost or refused; never still connecting.
 void pollOnce(Device& device);
 
-// Sends the command and waits for its result; NoAnswer when there is none within the limit.
+// Sends the command and waits for its result; Unknown when there is none within the limit.
 CommandResult sendOnce(Device& device, const UpsCommand& command, int limitSeconds);
 
 #endif // ONEPOLL_H

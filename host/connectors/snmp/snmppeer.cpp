@@ -1,8 +1,5 @@
 #include "connectors/snmp/snmppeer.h"
 
-#include <QHostAddress>
-#include <QHostInfo>
-
 #include <algorithm>
 
 using std::chrono::seconds;
@@ -10,6 +7,7 @@ using std::chrono::seconds;
 SnmpPeer::SnmpPeer(const DeviceSettings& settings, SnmpEngine& engine)
     : m_settings(settings)
     , m_engine(engine)
+    , m_addresses(settings.address.host, HostAddresses::askSystem, this)
     , m_pollLimit(this)
 {
     m_settings.timeout = std::max(1, m_settings.timeout);
@@ -18,12 +16,6 @@ SnmpPeer::SnmpPeer(const DeviceSettings& settings, SnmpEngine& engine)
         m_settings.address.port = DeviceAddress::kSnmpPort;
     m_pollLimit.setSingleShot(true);
     connect(&m_pollLimit, &QTimer::timeout, this, &SnmpPeer::onPollLimit);
-}
-
-SnmpPeer::~SnmpPeer()
-{
-    if (m_lookup != -1)
-        QHostInfo::abortHostLookup(m_lookup);
 }
 
 QString SnmpPeer::peer() const
@@ -35,38 +27,6 @@ QString SnmpPeer::peer() const
         .arg(m_settings.address.port);
 }
 
-// Looking up a name may take long; it happens on Qt's own threads.
-void SnmpPeer::withAddress(AddressHandler handler)
-{
-    const QString& host = m_settings.address.host;
-    if (m_addresses.isEmpty() && QHostAddress().setAddress(host))
-        m_addresses << host;
-    if (!m_addresses.isEmpty())
-        return handler(m_addresses.first(), {});
-
-    m_waitingForAddress.push_back(std::move(handler));
-    if (m_lookup != -1)
-        return;
-    m_lookup = QHostInfo::lookupHost(host, this, [this](const QHostInfo& info) {
-        m_lookup = -1;
-        QList<QHostAddress> found = info.addresses();
-        // Agents of many cards listen on IPv4 only.
-        std::stable_partition(found.begin(), found.end(), [](const QHostAddress& address) {
-            return address.protocol() == QAbstractSocket::IPv4Protocol;
-        });
-        for (const QHostAddress& address : qAsConst(found))
-            m_addresses << address.toString();
-        const QString error =
-            m_addresses.isEmpty()
-                ? tr("Name not found: %1 (%2)").arg(m_settings.address.host, info.errorString())
-                : QString();
-        const std::vector<AddressHandler> waiting = std::move(m_waitingForAddress);
-        m_waitingForAddress.clear();
-        for (const AddressHandler& waits : waiting)
-            waits(m_addresses.value(0), error);
-    });
-}
-
 void SnmpPeer::poll()
 {
     if (m_polling)
@@ -74,14 +34,14 @@ void SnmpPeer::poll()
     m_polling = true;
     // All tries of a request, and once more the same for agents that need several requests.
     m_pollLimit.start(seconds(m_settings.timeout * (m_settings.retries + 1) + m_settings.timeout));
-    withAddress([this](const QString& address, const QString& error) {
+    m_addresses.find([this](const HostAddresses::Found& found) {
         if (!m_polling || m_poll) // the limit has ended this poll meanwhile
             return;
-        if (error.isEmpty())
-            return startPoll(address);
+        if (found.error.isEmpty())
+            return startPoll(found.addresses.first());
         PollResult failed;
         failed.state = LinkState::Lost;
-        failed.message = error;
+        failed.message = found.error;
         endPoll(failed);
     });
 }
@@ -99,6 +59,7 @@ void SnmpPeer::startPoll(const QString& address)
         connect(m_exchange.get(), &SnmpExchange::ended, this,
                 [this] { endPoll(m_poll->result()); });
     }
+    m_address = address;
     m_exchange->start(m_poll.get(), address);
 }
 
@@ -125,8 +86,8 @@ void SnmpPeer::endPoll(const PollResult& result)
         // Late answers go nowhere, and the next try takes the next address of the name, if any.
         if (m_exchange)
             m_exchange->stop();
-        if (!m_addresses.isEmpty())
-            m_addresses.removeFirst();
+        if (!m_address.isEmpty())
+            m_addresses.fail(m_address);
     }
     emit polled(result);
 }
@@ -154,11 +115,11 @@ void SnmpPeer::send(const UpsCommand& command)
         Qt::QueuedConnection);
     m_commands.emplace(dialogue, std::move(running));
 
-    withAddress([this, dialogue, exchange](const QString& address, const QString& error) {
-        if (error.isEmpty())
-            return exchange->start(dialogue, address);
+    m_addresses.find([this, dialogue, exchange](const HostAddresses::Found& found) {
+        if (found.error.isEmpty())
+            return exchange->start(dialogue, found.addresses.first());
         CommandResult failed = dialogue->result();
-        failed.message = error;
+        failed.message = found.error;
         m_commands.erase(dialogue);
         emit commandFinished(failed);
     });

@@ -2,13 +2,13 @@
 #define SNMPPEER_H
 
 // One agent as its connector sees it: polls and commands in, results out.
-// May touch: sessions, polls, commands, name look-up. Lives on the engine's thread.
+// May touch: sessions, polls, commands, addresses of hosts. Lives on the engine's thread.
 
+#include "connectors/hostaddresses.h"
 #include "connectors/snmp/snmpcommand.h"
 #include "connectors/snmp/snmpexchange.h"
 #include "connectors/snmp/snmppoll.h"
 
-#include <functional>
 #include <map>
 
 class SnmpPeer : public QObject
@@ -18,7 +18,6 @@ class SnmpPeer : public QObject
 public:
     // The engine must outlive the peer.
     SnmpPeer(const DeviceSettings& settings, SnmpEngine& engine);
-    ~SnmpPeer() override;
 
     // One poll at a time; ends with exactly one polled(), after a time that timeout and retries
     // bound.
@@ -31,9 +30,6 @@ signals:
     void commandFinished(const CommandResult& result);
 
 private:
-    using AddressHandler = std::function<void(const QString& address, const QString& error)>;
-
-    void withAddress(AddressHandler handler);
     void startPoll(const QString& address);
     void endPoll(const PollResult& result);
     void onPollLimit();
@@ -47,9 +43,8 @@ private:
     DeviceSettings m_settings;
     SnmpEngine& m_engine;
     SnmpMemory m_memory;
-    QStringList m_addresses; // of the host name, the one in use first
-    std::vector<AddressHandler> m_waitingForAddress;
-    int m_lookup = -1;
+    HostAddresses m_addresses;
+    QString m_address; // that the running or last poll asks
 
     bool m_polling = false;
     std::unique_ptr<SnmpPoll> m_poll;
