@@ -1,6 +1,7 @@
 #include "config/configkeys.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <type_traits>
@@ -16,6 +17,7 @@ constexpr int kMaxInterval = 3600; // s
 constexpr int kMaxGroup = 100;
 constexpr int kMaxUser = 255;
 constexpr int kMaxPath = 1000;
+constexpr int kMaxFingerprint = 110; // with colons
 
 // The value that a path of members leads to, as a QVariant: at<&DeskSettings::thresholds,
 // &Thresholds::loadHigh>.
@@ -121,6 +123,14 @@ const std::vector<ConfigKey<DeviceSettings>>& deviceKeys()
     static const std::vector<ConfigKey<D>> keys{
         device<&D::group>("group", "", C::text(kMaxGroup)),
         device<&D::user>("user", "", C::text(kMaxUser)),
+        device<&D::tls>("tls", "", C::choice({{"required", ""}, {"preferred", ""}, {"off", ""}})),
+        device<&D::caFile>("ca-file", "", C::text(kMaxPath)),
+        device<&D::fingerprint>(
+            "fingerprint", "",
+            C::matching("(sha256:([0-9a-fA-F]{2}:?){32})?", kMaxFingerprint,
+                        QT_TRANSLATE_NOOP("ConfigKeys",
+                                          "sha256: and the 64 hexadecimal digits of a "
+                                          "certificate's fingerprint"))),
         device<&D::pollInterval>("interval", "", C::number(1, kMaxInterval, "s")),
         device<&D::timeout>("timeout", "", C::number(1, 120, "s")),
         device<&D::retries>("retries", "", C::number(0, 10)),
@@ -163,7 +173,7 @@ bool hasControlCharacters(const QString& text)
 
 ConfigType ConfigType::number(int minimum, int maximum, const char* unit)
 {
-    return {Kind::Number, minimum, maximum, unit, {}};
+    return {Kind::Number, minimum, maximum, unit, {}, "", ""};
 }
 
 ConfigType ConfigType::yesNo()
@@ -178,7 +188,15 @@ ConfigType ConfigType::choice(const std::vector<ConfigWord>& words)
 
 ConfigType ConfigType::text(int longest)
 {
-    return {Kind::Text, 0, longest, "", {}};
+    return {Kind::Text, 0, longest, "", {}, "", ""};
+}
+
+ConfigType ConfigType::matching(const char* pattern, int longest, const char* meaning)
+{
+    ConfigType type = text(longest);
+    type.pattern = pattern;
+    type.meaning = meaning;
+    return type;
 }
 
 std::optional<QVariant> ConfigType::parse(const QString& text) const
@@ -203,8 +221,14 @@ std::optional<QVariant> ConfigType::parse(const QString& text) const
     case Kind::Text:
         break;
     }
-    return text.size() <= maximum && !hasControlCharacters(text) ? std::optional<QVariant>(text)
-                                                                 : std::nullopt;
+    const bool fits =
+        *pattern == '\0' ||
+        QRegularExpression(QRegularExpression::anchoredPattern(QString::fromLatin1(pattern)))
+            .match(text)
+            .hasMatch();
+    return fits && text.size() <= maximum && !hasControlCharacters(text)
+               ? std::optional<QVariant>(text)
+               : std::nullopt;
 }
 
 QString ConfigType::format(const QVariant& value) const
@@ -237,5 +261,7 @@ QString ConfigType::description() const
     case Kind::Text:
         break;
     }
+    if (*meaning != '\0')
+        return Tr::tr(meaning);
     return Tr::tr("a text of at most %1 characters").arg(maximum);
 }

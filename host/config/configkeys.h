@@ -30,11 +30,14 @@ struct ConfigType {
     int maximum = 0;       // Number; Text: most characters
     const char* unit = ""; // Number
     std::vector<ConfigWord> words;
+    const char* pattern = ""; // Text; a regular expression that all of it has to fit
+    const char* meaning = ""; // of the pattern, to be translated
 
     static ConfigType number(int minimum, int maximum, const char* unit = "");
     static ConfigType yesNo();
     static ConfigType choice(const std::vector<ConfigWord>& words);
     static ConfigType text(int longest);
+    static ConfigType matching(const char* pattern, int longest, const char* meaning);
 
     // Nothing where the text is no such value.
     std::optional<QVariant> parse(const QString& text) const;

@@ -5,6 +5,7 @@
 // May touch: readings and Qt Core; a connector knows its protocol library, never a widget, the
 // fleet or the history.
 
+#include "connectors/linksecurity.h"
 #include "connectors/linkstate.h"
 #include "connectors/upscommand.h"
 #include "reading/upsreading.h"
@@ -16,7 +17,8 @@
 struct PollResult {
     LinkState state = LinkState::Connecting;
     UpsReading reading;
-    QString message; // why it is not Live, naming the cause; plain text for the operator
+    QString message;       // why it is not Live, naming the cause; plain text for the operator
+    LinkSecurity security; // of links that can be encrypted
 };
 Q_DECLARE_METATYPE(PollResult)
 

@@ -9,6 +9,14 @@
 #include <QMap>
 #include <QString>
 
+// How far the link to a NUT server has to be encrypted and trusted. Each in the order of its words
+// in the configuration.
+enum class TlsUse {
+    Required,  // nothing is said over a link that is not
+    Preferred, // where the server offers it; commands only over one that is
+    Off        // plain text, passwords too
+};
+
 struct DeviceSettings {
     QString name; // the operator's name for it; empty: what the address calls it
     DeviceAddress address;
@@ -17,6 +25,9 @@ struct DeviceSettings {
     // Account of a NUT server; needed for commands only.
     QString user;
     QString secret;
+    TlsUse tls = TlsUse::Preferred;
+    QString caFile;      // authorities of its certificate, PEM; empty: the system's
+    QString fingerprint; // "sha256:..." of the one certificate that is trusted; empty: any good one
     // SNMP version 3.
     QString authSecret;
     QString privSecret;

@@ -11,9 +11,9 @@ namespace {
 bool isSameInFile(const DeviceSettings& a, const DeviceSettings& b)
 {
     const auto content = [](const DeviceSettings& d) {
-        return std::tie(d.name, d.address.text, d.group, d.user, d.pollInterval, d.timeout,
-                        d.retries, d.shutdownDelay, d.restartDuration, d.shutdownWholeUps, d.seed,
-                        d.scales);
+        return std::tie(d.name, d.address.text, d.group, d.user, d.tls, d.caFile, d.fingerprint,
+                        d.pollInterval, d.timeout, d.retries, d.shutdownDelay, d.restartDuration,
+                        d.shutdownWholeUps, d.seed, d.scales);
     };
     return content(a) == content(b);
 }

@@ -1,18 +1,13 @@
 #include "connectors/nut/nutconnector.h"
 
+#include "connectors/bootclock.h"
 #include "connectors/nut/nutserver.h"
 
 #include <cmath>
-#include <ctime>
 
 namespace {
 
-double secondsSinceBoot()
-{
-    timespec now = {};
-    clock_gettime(CLOCK_BOOTTIME, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
-}
+constexpr int kMsPerSecond = 1000;
 
 } // namespace
 
@@ -20,7 +15,7 @@ NutConnector::NutConnector(const DeviceSettings& settings, QObject* parent)
     : Connector(parent)
     , m_settings(settings)
     , m_server(NutServer::of(settings))
-    , m_clock(secondsSinceBoot)
+    , m_clock([] { return static_cast<double>(bootClockMs()) / kMsPerSecond; })
 {
     connect(m_server.get(), &NutServer::polled, this, &NutConnector::takePoll);
     connect(m_server.get(), &NutServer::commandFinished, this,

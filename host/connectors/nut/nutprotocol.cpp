@@ -69,9 +69,9 @@ constexpr RefusalRow kRefusals[] = {
 
 } // namespace
 
-std::optional<QList<QByteArray>> splitNutLine(const QByteArray& line)
+std::optional<NutWords> splitNutLine(const QByteArray& line)
 {
-    QList<QByteArray> words;
+    NutWords words;
     QByteArray word;
     bool quoted = false;
     bool inWord = false;
@@ -114,6 +114,14 @@ QByteArray nutQuoted(const QByteArray& word)
         quoted += c;
     }
     return quoted + '"';
+}
+
+NutFailure nutNonsense(const QString& server)
+{
+    return {LinkState::Lost,
+            {},
+            Tr::tr("What %1 answers is not the language of a NUT server; check host and port.")
+                .arg(server)};
 }
 
 NutFailure nutRefusal(const QByteArray& word)

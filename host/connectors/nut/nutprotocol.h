@@ -12,6 +12,8 @@
 
 #include <optional>
 
+using NutWords = QList<QByteArray>;
+
 // Why a request brought nothing; state is Live when it brought what was asked for.
 struct NutFailure {
     LinkState state = LinkState::Live;
@@ -31,10 +33,13 @@ Q_DECLARE_METATYPE(NutUpsEntry)
 
 // The words of one line; blanks part them, double quotes hold them together and a backslash takes
 // the next character as it is. Empty when a quote stays open.
-std::optional<QList<QByteArray>> splitNutLine(const QByteArray& line);
+std::optional<NutWords> splitNutLine(const QByteArray& line);
 
 // One word in quotes, safe to put into a line: control characters are dropped.
 QByteArray nutQuoted(const QByteArray& word);
+
+// What answers is no NUT server. server: "HOST port PORT".
+NutFailure nutNonsense(const QString& server);
 
 // The link state and the plain text of a server's "ERR WORD".
 NutFailure nutRefusal(const QByteArray& word);

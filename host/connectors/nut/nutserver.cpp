@@ -1,41 +1,27 @@
 #include "connectors/nut/nutserver.h"
 
+#include "connectors/nut/networkthread.h"
+#include "connectors/nut/nutorder.h"
+#include "connectors/nut/nutpoll.h"
+
 #include <QMap>
-#include <QStringList>
-#include <QThread>
 
 #include <algorithm>
-#include <vector>
+#include <atomic>
 
 namespace {
 
-// Threads that are on their way out. The program's end is the one place that waits for them, at
-// most as long as the request that each is still in.
-class EndingThreads
+std::chrono::milliseconds limitOf(const DeviceSettings& settings)
 {
-public:
-    ~EndingThreads()
-    {
-        for (const auto& thread : m_threads)
-            thread->wait();
-    }
+    constexpr int kShortest = 1;
+    constexpr int kLongest = 60;
+    return std::chrono::seconds(std::clamp(settings.timeout, kShortest, kLongest));
+}
 
-    void add(std::unique_ptr<QThread> thread)
-    {
-        m_threads.erase(std::remove_if(m_threads.begin(), m_threads.end(),
-                                       [](const auto& other) { return other->isFinished(); }),
-                        m_threads.end());
-        m_threads.push_back(std::move(thread));
-    }
-
-private:
-    std::vector<std::unique_ptr<QThread>> m_threads;
-};
-
-EndingThreads& endingThreads()
+quint64 nextTicket()
 {
-    static EndingThreads threads;
-    return threads;
+    static std::atomic<quint64> tickets{0};
+    return ++tickets;
 }
 
 void registerTypes()
@@ -45,79 +31,167 @@ void registerTypes()
     qRegisterMetaType<QVector<NutUpsEntry>>();
 }
 
+NutFailure failureOf(const PollResult& result)
+{
+    return {result.state, {}, result.message};
+}
+
 } // namespace
+
+// A poll or a list of devices, waiting for the line or on it.
+struct NutServer::Job {
+    std::unique_ptr<NutDialogue> dialogue;
+    std::chrono::milliseconds limit;
+    qint64 postedMs = 0;
+    std::function<NutFailure()> failure;                 // of the dialogue, when it has ended
+    std::function<void(const NutFailure& instead)> tell; // instead: of a job that never ran
+};
+
+struct NutServer::Order {
+    Order(const NutEndpoint& endpoint, const UpsCommand& command,
+          const NutOrder::Settings& settings)
+        : dialogue(command, settings)
+        , line(endpoint)
+    {}
+    NutOrder dialogue;
+    NutLine line;
+};
 
 std::shared_ptr<NutServer> NutServer::of(const DeviceSettings& settings)
 {
-    static QMap<QStringList, std::weak_ptr<NutServer>> servers;
-    const NutAccount account{settings.address.host, settings.address.port, settings.user,
-                             settings.secret};
-    const QStringList key{account.host, QString::number(account.port), account.user,
-                          account.secret};
-    std::shared_ptr<NutServer> server = servers.value(key).lock();
-    if (!server) {
-        for (auto it = servers.begin(); it != servers.end();)
-            it = it.value().expired() ? servers.erase(it) : std::next(it);
-        server.reset(new NutServer(account));
-        servers.insert(key, server);
-    }
+    static QMap<QString, std::weak_ptr<NutServer>> servers;
+    const NutEndpoint endpoint = NutEndpoint::of(settings);
+    std::shared_ptr<NutServer> server = servers.value(endpoint.key()).lock();
+    if (server)
+        return server;
+    for (auto it = servers.begin(); it != servers.end();)
+        it = it.value().expired() ? servers.erase(it) : std::next(it);
+    registerTypes();
+    const std::shared_ptr<NetworkThread> thread = NetworkThread::instance();
+    auto* made = new NutServer(endpoint);
+    made->moveToThread(thread.get());
+    // The thread is held until its server has been told to go.
+    server.reset(made, [thread](NutServer* gone) { gone->deleteLater(); });
+    servers.insert(endpoint.key(), server);
     return server;
 }
 
-NutServer::NutServer(const NutAccount& account)
-    : m_thread(std::make_unique<QThread>())
-    , m_worker(new NutWorker(account))
+NutServer::NutServer(const NutEndpoint& endpoint)
+    : m_endpoint(endpoint)
+    , m_line(endpoint, this)
 {
-    registerTypes();
-    endingThreads(); // exists before, so outlives, every thread
-    m_thread->setObjectName(QStringLiteral("nut"));
-    m_worker->moveToThread(m_thread.get());
-    // In its own thread, and not by an event: at the program's end there may be no application left
-    // to deliver one.
-    connect(m_thread.get(), &QThread::finished, [worker = m_worker] { delete worker; });
-    connect(m_worker, &NutWorker::polled, this, &NutServer::polled);
-    connect(m_worker, &NutWorker::listed, this, &NutServer::listed);
-    connect(m_worker, &NutWorker::commandFinished, this, &NutServer::commandFinished);
-    m_thread->start();
+    m_clock.start();
+    connect(&m_line, &NutLine::ended, this, &NutServer::endJob);
 }
 
-NutServer::~NutServer()
-{
-    m_worker->abort();
-    m_thread->quit();
-    endingThreads().add(std::move(m_thread));
-}
-
-NutRequest NutServer::request(const DeviceSettings& settings)
-{
-    constexpr int kShortest = 1;
-    constexpr int kLongest = 60;
-    NutRequest request;
-    request.ticket = ++m_tickets;
-    request.ups = settings.address.ups;
-    request.limit = std::chrono::seconds(std::clamp(settings.timeout, kShortest, kLongest));
-    request.posted = NutSession::Clock::now();
-    return request;
-}
+NutServer::~NutServer() = default;
 
 quint64 NutServer::poll(const DeviceSettings& settings)
 {
-    const NutRequest posted = request(settings);
-    QMetaObject::invokeMethod(m_worker, [worker = m_worker, posted] { worker->poll(posted); });
-    return posted.ticket;
+    const quint64 ticket = nextTicket();
+    const qint64 posted = m_clock.elapsed();
+    QMetaObject::invokeMethod(this, [this, ticket, posted, settings] {
+        auto dialogue = std::make_unique<NutPoll>(m_endpoint.label(), settings.address.ups);
+        NutPoll* poll = dialogue.get();
+        auto job = std::make_unique<Job>();
+        job->dialogue = std::move(dialogue);
+        job->limit = limitOf(settings);
+        job->postedMs = posted;
+        job->failure = [poll] { return failureOf(poll->result()); };
+        job->tell = [this, ticket, poll](const NutFailure& instead) {
+            PollResult result = poll->result();
+            if (instead) {
+                result.state = instead.state;
+                result.message = instead.message;
+            }
+            emit polled(ticket, result);
+        };
+        enqueue(std::move(job));
+    });
+    return ticket;
 }
 
 quint64 NutServer::list(const DeviceSettings& settings)
 {
-    const NutRequest posted = request(settings);
-    QMetaObject::invokeMethod(m_worker, [worker = m_worker, posted] { worker->list(posted); });
-    return posted.ticket;
+    const quint64 ticket = nextTicket();
+    const qint64 posted = m_clock.elapsed();
+    QMetaObject::invokeMethod(this, [this, ticket, posted, settings] {
+        auto dialogue = std::make_unique<NutDevices>(m_endpoint.label());
+        NutDevices* devices = dialogue.get();
+        auto job = std::make_unique<Job>();
+        job->dialogue = std::move(dialogue);
+        job->limit = limitOf(settings);
+        job->postedMs = posted;
+        job->failure = [devices] { return devices->failure(); };
+        job->tell = [this, ticket, devices](const NutFailure& instead) {
+            const NutFailure failure = instead ? instead : devices->failure();
+            emit listed(ticket, failure ? QVector<NutUpsEntry>() : devices->devices(),
+                        failure.message);
+        };
+        enqueue(std::move(job));
+    });
+    return ticket;
 }
 
 quint64 NutServer::send(const DeviceSettings& settings, const UpsCommand& command)
 {
-    const NutRequest posted = request(settings);
+    const quint64 ticket = nextTicket();
     QMetaObject::invokeMethod(
-        m_worker, [worker = m_worker, posted, command] { worker->send(posted, command); });
-    return posted.ticket;
+        this, [this, ticket, settings, command] { startOrder(ticket, settings, command); });
+    return ticket;
+}
+
+void NutServer::enqueue(std::unique_ptr<Job> job)
+{
+    m_jobs.push_back(std::move(job));
+    if (!m_isRunning)
+        runNext();
+}
+
+// A request that waited while the server was found lost shares that finding, so that many devices
+// do not wait one time-out each.
+void NutServer::runNext()
+{
+    while (!m_jobs.empty() && m_lostFailure && m_jobs.front()->postedMs < m_lostAt) {
+        const std::unique_ptr<Job> job = std::move(m_jobs.front());
+        m_jobs.pop_front();
+        job->tell(m_lostFailure);
+    }
+    m_isRunning = !m_jobs.empty();
+    if (m_isRunning)
+        m_line.run(m_jobs.front()->dialogue.get(), m_jobs.front()->limit);
+}
+
+void NutServer::endJob()
+{
+    const std::unique_ptr<Job> job = std::move(m_jobs.front());
+    m_jobs.pop_front();
+    const NutFailure failure = job->failure();
+    const bool isLost = failure.state == LinkState::Lost;
+    m_lostFailure = isLost ? failure : NutFailure();
+    m_lostAt = isLost ? m_clock.elapsed() : -1;
+    job->tell({});
+    runNext();
+}
+
+void NutServer::startOrder(quint64 ticket, const DeviceSettings& settings,
+                           const UpsCommand& command)
+{
+    m_orders.push_back(std::make_unique<Order>(
+        m_endpoint, command,
+        NutOrder::Settings{m_endpoint.label(), settings.address.ups, settings.user, settings.secret,
+                           limitOf(settings)}));
+    Order* order = m_orders.back().get();
+    connect(&order->line, &NutLine::ended, this, [this, ticket, order] {
+        emit commandFinished(ticket, order->dialogue.result());
+        // From the event loop: the line is still in its signal.
+        QMetaObject::invokeMethod(
+            this,
+            [this, order] {
+                m_orders.erase(std::find_if(m_orders.begin(), m_orders.end(),
+                                            [order](const auto& o) { return o.get() == order; }));
+            },
+            Qt::QueuedConnection);
+    });
+    order->line.run(&order->dialogue, limitOf(settings));
 }

@@ -1,29 +1,29 @@
 #ifndef NUTSERVER_H
 #define NUTSERVER_H
 
-// One NUT server as its devices share it: one connection, one worker thread.
-// May touch: its worker, through queued calls only. Lives on the GUI thread; nothing here blocks.
+// One NUT server as its devices share it: one connection for all polls, one after the other, and
+// one of its own for each command, so that neither holds up the other. Polls need no account, so
+// devices with different accounts share the connection, and no password is ever on it.
+// May touch: lines and dialogues. Lives on the network thread; its functions may be called from the
+// GUI thread, and none blocks.
 
-#include "connectors/nut/nutworker.h"
+#include "connectors/connector.h"
+#include "connectors/nut/nutdevices.h"
+#include "connectors/nut/nutline.h"
 
-#include "connectors/devicesettings.h"
+#include <QVector>
 
-#include <QObject>
-
+#include <deque>
 #include <memory>
-
-class QThread;
 
 class NutServer : public QObject
 {
     Q_OBJECT
 
 public:
-    // The server of these settings; devices with the same host, port and account get the same one.
+    // The server of these settings; devices with the same host, port and trust get the same one.
+    // GUI thread only, and so is letting go of it: what is under way is broken off then.
     static std::shared_ptr<NutServer> of(const DeviceSettings& settings);
-
-    // What is under way is broken off and the thread ends by itself; nobody waits for it before
-    // the program ends.
     ~NutServer() override;
 
     // Each returns the ticket that the one answer carries.
@@ -37,12 +37,24 @@ signals:
     void commandFinished(quint64 ticket, const CommandResult& result);
 
 private:
-    explicit NutServer(const NutAccount& account);
-    NutRequest request(const DeviceSettings& settings);
+    struct Job;
+    struct Order;
+    using Finish = std::function<void()>;
 
-    std::unique_ptr<QThread> m_thread;
-    NutWorker* m_worker; // deleted by its thread
-    quint64 m_tickets = 0;
+    explicit NutServer(const NutEndpoint& endpoint);
+    void enqueue(std::unique_ptr<Job> job);
+    void runNext();
+    void endJob();
+    void startOrder(quint64 ticket, const DeviceSettings& settings, const UpsCommand& command);
+
+    const NutEndpoint m_endpoint;
+    NutLine m_line;
+    std::deque<std::unique_ptr<Job>> m_jobs; // the first one is under way
+    bool m_isRunning = false;
+    std::vector<std::unique_ptr<Order>> m_orders;
+    QElapsedTimer m_clock;
+    qint64 m_lostAt = -1; // ms of the clock at which the server was last found lost
+    NutFailure m_lostFailure;
 };
 
 #endif // NUTSERVER_H
