@@ -8,6 +8,7 @@
 #include <QString>
 
 struct LinkSecurity {
+    bool isLocal = false; // it does not leave this machine
     bool isEncrypted = false;
     bool isTrusted = false;
     QString issue;       // why it is not trusted, for the operator

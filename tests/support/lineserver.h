@@ -1,13 +1,16 @@
 #ifndef LINESERVER_H
 #define LINESERVER_H
 
-// A server of text lines on a free loopback port that answers what a test tells it to.
+// A server of text lines on a free loopback port that answers what a test tells it to, under TLS
+// from the answer "OK STARTTLS" on where it has a certificate.
 // May touch: sockets of Qt Network. Needs the event loop of its thread.
 
 #include <QByteArray>
 #include <QList>
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QSslSocket>
 #include <QTcpServer>
-#include <QTcpSocket>
 
 #include <algorithm>
 #include <functional>
@@ -21,22 +24,12 @@ public:
     explicit LineServer(const Answer& answer)
         : m_answer(answer)
     {
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            QTcpSocket* socket = nextPendingConnection();
-            ++connections;
-            m_sockets << socket;
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket] { read(socket); });
-            connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
-                m_sockets.removeOne(socket);
-                socket->deleteLater();
-            });
-        });
         listen(QHostAddress::LocalHost);
     }
 
     void write(const QByteArray& octets)
     {
-        for (QTcpSocket* socket : qAsConst(m_sockets))
+        for (QSslSocket* socket : qAsConst(m_sockets))
             if (socket->state() == QTcpSocket::ConnectedState)
                 socket->write(octets);
     }
@@ -44,7 +37,7 @@ public:
     void closeConnections()
     {
         const auto sockets = m_sockets; // each takes itself off the list
-        for (QTcpSocket* socket : sockets)
+        for (QSslSocket* socket : sockets)
             socket->abort();
     }
 
@@ -57,29 +50,54 @@ public:
 
     bool hasConnections() const
     {
-        return std::any_of(m_sockets.begin(), m_sockets.end(), [](const QTcpSocket* socket) {
+        return std::any_of(m_sockets.begin(), m_sockets.end(), [](const QSslSocket* socket) {
             return socket->state() == QTcpSocket::ConnectedState;
         });
     }
 
     QList<QByteArray> lines; // all that came, in order
+    QList<int> lineOf;       // the connection that brought each of them, from 1
     int connections = 0;
     bool closesAfterAnswers = false;
+    QSslCertificate certificate;
+    QSslKey key;
+
+protected:
+    void incomingConnection(qintptr descriptor) override
+    {
+        auto* socket = new QSslSocket(this);
+        const int number = ++connections;
+        socket->setSocketDescriptor(descriptor);
+        m_sockets << socket;
+        connect(socket, &QSslSocket::readyRead, this,
+                [this, socket, number] { read(socket, number); });
+        connect(socket, &QSslSocket::disconnected, this, [this, socket] {
+            m_sockets.removeOne(socket);
+            socket->deleteLater();
+        });
+    }
 
 private:
-    void read(QTcpSocket* socket)
+    void read(QSslSocket* socket, int number)
     {
         while (socket->canReadLine()) {
             const QByteArray line = socket->readLine().trimmed();
             lines << line;
-            socket->write(m_answer(line));
+            lineOf << number;
+            const QByteArray answer = m_answer(line);
+            socket->write(answer);
+            if (answer == "OK STARTTLS\n" && !key.isNull()) {
+                socket->setLocalCertificate(certificate);
+                socket->setPrivateKey(key);
+                socket->startServerEncryption();
+            }
             if (closesAfterAnswers)
                 socket->disconnectFromHost();
         }
     }
 
     const Answer m_answer;
-    QList<QTcpSocket*> m_sockets;
+    QList<QSslSocket*> m_sockets;
 };
 
 #endif // LINESERVER_H

@@ -15,6 +15,7 @@ struct NutQuestion {
     std::chrono::milliseconds delay{0}; // to wait before sending
     bool isSecret = false;              // only over a link that may carry secrets
     bool isOrder = false;               // goes out once, whatever happens
+    quint64 connection = 0;             // only over this one; 0: over any
     bool startsLimit = false;           // the time limit begins anew with this question
 };
 

@@ -1,5 +1,6 @@
 #include "connectors/nut/nutline.h"
 
+#include <QHostAddress>
 #include <QNetworkProxy>
 #include <QSet>
 #include <QSslConfiguration>
@@ -7,6 +8,8 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
+
+#include <utility>
 
 namespace {
 
@@ -79,6 +82,7 @@ void NutLine::ask()
         return;
     }
     m_question = *question;
+    m_isAsked = true;
     m_wasSent = false;
     m_asked.start();
     if (m_question.delay.count() == 0)
@@ -91,7 +95,10 @@ void NutLine::send()
 {
     if (m_question.startsLimit || !m_limit.isActive())
         m_limit.start(m_limitMs);
-    if (m_state != State::Ready)
+    const bool isOpen = m_state == State::Ready;
+    if (m_question.connection != 0 && (!isOpen || m_question.connection != m_connection))
+        return answer({LinkState::Lost, {}, closedByServer()});
+    if (!isOpen)
         return open();
     if (m_question.isSecret && !mayCarrySecrets())
         return answer({LinkState::Refused, kNotTrusted,
@@ -151,6 +158,7 @@ void NutLine::connected()
     m_share.stop();
     ++m_connection;
     m_security = {};
+    m_security.isLocal = m_socket.peerAddress().isLoopback();
     m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
     if (m_endpoint.tls == TlsUse::Off)
         ready();
@@ -202,6 +210,10 @@ void NutLine::encrypted()
 {
     m_security =
         judgeCertificate(m_endpoint, m_socket.peerCertificate(), m_socket.sslHandshakeErrors());
+    const bool hasNoAuthority = m_endpoint.fingerprint.isEmpty() && !m_endpoint.caFile.isEmpty() &&
+                                m_socket.sslConfiguration().caCertificates().isEmpty();
+    if (hasNoAuthority)
+        m_security.issue = tr("there is no certificate to be read in %1.").arg(m_endpoint.caFile);
     if (m_endpoint.tls == TlsUse::Required && !m_security.isTrusted)
         refuse(tr("%1 cannot be trusted: %2 Its certificate is %3.")
                    .arg(m_endpoint.label(), m_security.issue, m_security.fingerprint));
@@ -257,8 +269,8 @@ void NutLine::takeLine(const QByteArray& line)
 
 void NutLine::answer(const NutFailure& failure, const QList<NutWords>& rows)
 {
-    if (!m_dialogue)
-        return;
+    if (!std::exchange(m_isAsked, false))
+        return; // nobody waits for it: a connection that ends between two questions
     NutReply reply;
     reply.failure = failure;
     reply.rows = rows;
@@ -289,12 +301,19 @@ void NutLine::socketFailed()
                               .arg(m_endpoint.label())
                         : tr("%1 offers encryption, but this machine has no TLS library.")
                               .arg(m_endpoint.label()));
-    if (m_dialogue && m_mayReplace && m_state == State::Ready && !m_question.isOrder) {
+    if (m_pause.isActive())
+        return close(); // the question that is to come opens another one
+    if (m_isAsked && m_mayReplace && m_state == State::Ready && !m_question.isOrder) {
         m_mayReplace = false;
         close();
         return open();
     }
-    fail(tr("%1 closed the connection.").arg(m_endpoint.label()));
+    fail(closedByServer());
+}
+
+QString NutLine::closedByServer() const
+{
+    return tr("%1 closed the connection.").arg(m_endpoint.label());
 }
 
 QString NutLine::connectError() const

@@ -55,6 +55,7 @@ private:
     void close();
     bool mayCarrySecrets() const;
     QString shownAddress() const;
+    QString closedByServer() const;
     QString connectError() const;
 
     const NutEndpoint m_endpoint;
@@ -74,6 +75,7 @@ private:
     NutQuestion m_question;
     NutAnswer m_answer{{}};
     QElapsedTimer m_asked;
+    bool m_isAsked = false; // the question waits for its one answer
     bool m_wasSent = false;
     bool m_mayReplace = false; // the connection is old, and nothing has been heard on it yet
 };

@@ -1,5 +1,7 @@
 #include "connectors/nut/nutorder.h"
 
+#include <utility>
+
 QString NutOrder::Step::label() const
 {
     return QString::fromLatin1(variable.isEmpty() ? text : variable + " = " + text);
@@ -52,17 +54,21 @@ std::optional<NutQuestion> NutOrder::next()
     case Phase::Password:
         question.line = "PASSWORD " + nutQuoted(m_settings.secret.toUtf8());
         question.isSecret = true;
+        question.connection = m_login;
         return question;
     case Phase::Tracking:
         question.line = "SET TRACKING ON";
+        question.connection = m_login;
         return question;
     case Phase::Send:
         question.line = m_steps.first().line(m_ups);
         question.isOrder = true;
+        question.connection = m_login;
         question.startsLimit = true;
         return question;
     case Phase::Follow:
         question.line = "GET TRACKING " + nutQuoted(m_tracking);
+        question.connection = m_login;
         question.delay = kFollowInterval;
         question.startsLimit = true;
         return question;
@@ -148,6 +154,7 @@ void NutOrder::takeLogin(const NutReply& reply)
     if (failure)
         return refuseBefore(failure);
     if (m_phase == Phase::User) {
+        m_login = reply.connection;
         m_phase = Phase::Password;
     } else if (m_phase == Phase::Password) {
         m_phase = Phase::Tracking;
@@ -160,13 +167,16 @@ void NutOrder::takeLogin(const NutReply& reply)
 void NutOrder::takeSent(const NutReply& reply)
 {
     const NutFailure& failure = reply.failure;
+    const bool isLoginLost = failure && !failure.isAnswer() && !reply.wasSent;
+    if (isLoginLost && !std::exchange(m_isLoginLost, true))
+        return; // logs in again
     m_connection = reply.connection;
     m_followed = std::chrono::milliseconds(0);
     if (failure.isAnswer())
         return finish(CommandOutcome::Refused, tr("%1: %2").arg(label(), failure.message));
     if (failure && !reply.wasSent)
-        return finish(CommandOutcome::NoAnswer,
-                      tr("%1 %2 was not sent.").arg(failure.message, label()));
+        return refuseBefore(failure);
+    m_hasSent = true;
     const NutWords words = reply.rows.value(0);
     if (failure || words.value(0) != "OK")
         return finish(
@@ -228,6 +238,9 @@ void NutOrder::goOn(bool isTracked)
 
 void NutOrder::refuseBefore(const NutFailure& failure)
 {
+    if (m_hasSent)
+        return finish(CommandOutcome::Unknown,
+                      tr("%1 %2 was not sent.").arg(failure.message, label()));
     finish(failure.state == LinkState::Lost ? CommandOutcome::NoAnswer : CommandOutcome::Refused,
            tr("%1 Nothing was sent.").arg(failure.message));
 }

@@ -68,6 +68,9 @@ private:
     NutCommandPlan m_plan;
     QList<Step> m_steps; // the first one is under way
     bool m_loggedIn = false;
+    quint64 m_login = 0;        // the connection that the server knows the account on
+    bool m_isLoginLost = false; // once: it may have closed between login and order
+    bool m_hasSent = false;     // a step, at least
     bool m_isFollowing = false; // a login leads back to that
     QByteArray m_tracking;
     quint64 m_connection = 0; // that took the step

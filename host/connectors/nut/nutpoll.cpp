@@ -105,6 +105,8 @@ void NutPoll::finish(const QByteArray& description)
 void NutPoll::noteSecurity(UpsReading& reading) const
 {
     const LinkSecurity& link = m_result.security;
+    if (!link.isEncrypted && link.isLocal)
+        return;
     if (!link.isEncrypted)
         reading.notes << tr("The link to the server is in plain text: others on the network can "
                             "read and change what it says.");
