@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -107,6 +108,7 @@ private slots:
     void settingsAreKept();
     void secretsAreNotShown();
     void connectionTest();
+    void aCertificateIsPinned();
     void refusalStaysInTheDialog();
     void nameIsWhatTheDeviceSays();
     void kindAloneIsNoMistake();
@@ -168,6 +170,8 @@ void TestDeviceDialog::errors()
         {nut + QStringList{"PasswordEdit=x"}, "Enter the user"},
         {v3 + QStringList{"PrivSecretEdit=1234567"}, "at least 8"},
         {{"AddressEdit=snmp://a:b@h?version=3"}, "SNMP secrets belong"},
+        {nut + QStringList{"FingerprintEdit=sha256:12"}, "64 hexadecimal digits"},
+        {nut + QStringList{"CaFileEdit=/no/such.pem"}, "cannot be read: /no/such.pem"},
         {nut + QStringList{"NameEdit= Taken "}, "\"Taken\" already"},
     };
     for (const auto& row : rows) {
@@ -252,6 +256,34 @@ void TestDeviceDialog::connectionTest()
     desk.set("HostEdit=other"); // its answer would speak of another host
     desk.connector->answer(LinkState::Live);
     QCOMPARE(desk.message(), QString());
+}
+
+void TestDeviceDialog::aCertificateIsPinned()
+{
+    DeviceSettings settings = device("A", "nut://h/ups");
+    settings.tls = TlsUse::Required;
+    Desk desk(settings);
+    LinkSecurity link;
+    link.isEncrypted = true;
+    link.issue = "it has <b>expired</b>";
+    link.fingerprint = "sha256:" + QString("0123456789abcdef").repeated(4);
+    desk.test();
+    desk.connector->answer(LinkState::Refused, {}, "not trusted", link);
+    const auto* shown = desk.field<QLabel>("CertificateLabel");
+    QVERIFY2(shown->isVisible() && shown->text().contains(link.issue) &&
+                 shown->text().contains("0123456789abcdef 0123456789abcdef"),
+             qPrintable(shown->text()));
+    QCOMPARE(shown->textFormat(), Qt::PlainText);
+    auto* pin = desk.field<QPushButton>("PinButton");
+    QTest::mouseClick(pin, Qt::LeftButton);
+    QVERIFY(!pin->isVisible());
+    QCOMPARE(desk.dialog->settings().fingerprint, link.fingerprint);
+    QCOMPARE(desk.dialog->settings().tls, TlsUse::Required);
+
+    desk.set("HostEdit=other"); // whose certificate nobody has seen
+    QVERIFY(!shown->isVisible());
+    desk.set("AddressEdit=sim:mains");
+    QCOMPARE(desk.dialog->settings().fingerprint, QString());
 }
 
 void TestDeviceDialog::refusalStaysInTheDialog()

@@ -134,6 +134,7 @@ void Device::takeResult(const PollResult& result)
         m_plan.failed(m_clock.monotonicMs());
     if (std::exchange(m_followUp, false))
         m_plan.hurry(m_clock.monotonicMs());
+    m_security = result.security;
     const bool isConfirmed =
         result.state != LinkState::Lost || m_link != LinkState::Live || m_plan.isSilenceConfirmed();
     if (isConfirmed) {

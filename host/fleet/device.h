@@ -35,6 +35,8 @@ public:
     // outlived its limit (a machine back from suspend) is stale whatever the last poll said.
     LinkState link() const;
     QString message() const; // why the device is not live; plain text
+    // What the last answer came over.
+    const LinkSecurity& security() const { return m_security; }
     int failedPolls() const { return m_plan.failures(); }
 
     // The last good reading, null before the first.
@@ -100,6 +102,7 @@ private:
     Thresholds m_thresholds;
     LinkState m_link = LinkState::Connecting;
     QString m_message;
+    LinkSecurity m_security;
     std::optional<UpsReading> m_reading;
     qint64 m_readingBootMs = 0;
     qint64 m_readingNumber = 0;

@@ -5,6 +5,7 @@
 // May touch: Qt Widgets, addresses and settings.
 
 #include "connectors/devicesettings.h"
+#include "connectors/linksecurity.h"
 
 #include <QWidget>
 
@@ -24,6 +25,9 @@ public:
     // What the fields say; text is left empty.
     virtual DeviceAddress address() const = 0;
     virtual void readAccount(DeviceSettings& settings) const { Q_UNUSED(settings) }
+
+    // What a connection test has found out about the link.
+    virtual void showSecurity(const LinkSecurity& link) { Q_UNUSED(link) }
 
     // What is wrong or missing, for the operator; empty: nothing that is known here.
     virtual QString error() const = 0;

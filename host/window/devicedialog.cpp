@@ -231,6 +231,9 @@ DeviceSettings DeviceDialog::settings() const
     settings.secret.clear();
     settings.authSecret.clear();
     settings.privSecret.clear();
+    settings.tls = DeviceSettings().tls;
+    settings.caFile.clear();
+    settings.fingerprint.clear();
     fields()->readAccount(settings);
     settings.pollInterval = m_interval->value();
     m_advanced->readSettings(settings);
@@ -365,6 +368,10 @@ void DeviceDialog::showTestResult()
     const Device& device = m_test->device();
     QString text = testResultText(device);
     const bool live = device.link() == LinkState::Live;
+    if (live)
+        for (const QString& note : device.reading()->notes)
+            text += QLatin1Char('\n') + note;
+    fields()->showSecurity(device.security());
     if (live && !device.settings().user.isEmpty())
         text += QLatin1Char('\n') +
                 tr("The server looks at user and password only when a command is sent.");

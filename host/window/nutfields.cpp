@@ -2,6 +2,7 @@
 
 #include "connectors/nut/nutserverlist.h"
 #include "window/hostport.h"
+#include "window/nuttrustfields.h"
 #include "window/secretedit.h"
 
 #include <QComboBox>
@@ -49,14 +50,17 @@ NutFields::NutFields(QWidget* parent)
     static_cast<QLabel*>(form->labelForField(ups))->setBuddy(m_ups);
     form->addRow(tr("U&ser"), m_user);
     form->addRow(tr("Pass&word"), m_password);
+    m_trust = new NutTrustFields(form, this);
 
     connect(m_host, &HostPort::edited, this, [this] {
         forgetList();
+        m_trust->showCertificate({});
         emit edited();
     });
     connect(m_ups, &QComboBox::editTextChanged, this, &AddressFields::edited);
     connect(m_user, &QLineEdit::textChanged, this, &AddressFields::edited);
     connect(m_password, &QLineEdit::textChanged, this, &AddressFields::edited);
+    connect(m_trust, &NutTrustFields::edited, this, &AddressFields::edited);
     connect(m_ask, &QPushButton::clicked, this, &NutFields::ask);
 }
 
@@ -70,6 +74,7 @@ void NutFields::showAccount(const DeviceSettings& settings)
 {
     m_user->setText(settings.user);
     m_password->setKept(settings.secret);
+    m_trust->showSettings(settings);
 }
 
 DeviceAddress NutFields::address() const
@@ -83,8 +88,14 @@ DeviceAddress NutFields::address() const
 
 void NutFields::readAccount(DeviceSettings& settings) const
 {
+    m_trust->readSettings(settings);
     settings.user = m_user->text().trimmed();
     settings.secret = settings.user.isEmpty() ? QString() : m_password->secret();
+}
+
+void NutFields::showSecurity(const LinkSecurity& link)
+{
+    m_trust->showCertificate(link);
 }
 
 QString NutFields::error() const
@@ -94,7 +105,7 @@ QString NutFields::error() const
         return error;
     return m_user->text().trimmed().isEmpty() && !m_password->text().isEmpty()
                ? tr("Enter the user that the password is for.")
-               : QString();
+               : m_trust->error();
 }
 
 QString NutFields::proposedName() const
@@ -114,6 +125,7 @@ void NutFields::ask()
     forgetList();
     DeviceSettings settings;
     settings.address = address();
+    m_trust->readSettings(settings);
     m_list = new NutServerList(settings, this);
     connect(m_list, &NutServerList::finished, this, &NutFields::takeList);
     m_ask->setEnabled(false);

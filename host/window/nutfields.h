@@ -8,6 +8,7 @@
 
 class HostPort;
 class NutServerList;
+class NutTrustFields;
 class QComboBox;
 class QLineEdit;
 class QPushButton;
@@ -26,6 +27,7 @@ public:
     void showAccount(const DeviceSettings& settings) override;
     DeviceAddress address() const override;
     void readAccount(DeviceSettings& settings) const override;
+    void showSecurity(const LinkSecurity& link) override;
     QString error() const override;
     QString proposedName() const override;
 
@@ -39,6 +41,7 @@ private:
     QPushButton* m_ask;
     QLineEdit* m_user;
     SecretEdit* m_password;
+    NutTrustFields* m_trust;
     NutServerList* m_list = nullptr; // while the server is asked
 };
 

@@ -15,9 +15,10 @@ public:
     void poll() override { ++polls; }
     void send(const UpsCommand& command) override { sent << command; }
 
-    void answer(LinkState state, const UpsReading& reading = {}, const QString& message = {})
+    void answer(LinkState state, const UpsReading& reading = {}, const QString& message = {},
+                const LinkSecurity& security = {})
     {
-        emit polled({state, reading, message});
+        emit polled({state, reading, message, security});
     }
     void finish(quint64 id, CommandOutcome outcome, const QString& message = {})
     {
