@@ -1,5 +1,6 @@
 #include "cli/clisupport.h"
 
+#include "config/configkeys.h"
 #include "config/deskconfig.h"
 #include "connectors/nearestname.h"
 #include "connectors/simulator/simulatorscenarios.h"
@@ -11,6 +12,7 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <utility>
 
 void printOut(const QString& line)
 {
@@ -24,8 +26,13 @@ void printError(const QString& line)
 
 namespace {
 
-// For NUT commands on a device that is not in the configuration.
-constexpr char kUserVariable[] = "UPSDESK_NUT_USER";
+// For NUT servers that are not in the configuration: variables and the keys whose values they take.
+constexpr std::pair<const char*, const char*> kVariables[] = {
+    {"UPSDESK_NUT_USER", "user"},
+    {"UPSDESK_NUT_TLS", "tls"},
+    {"UPSDESK_NUT_CA_FILE", "ca-file"},
+    {"UPSDESK_NUT_FINGERPRINT", "fingerprint"},
+};
 
 // The simulator moves quickly, and asking it costs nothing.
 constexpr int kSimulatorPollSeconds = 1;
@@ -51,6 +58,25 @@ QString unknownScenario(const DeviceAddress& address)
     const bool simulated = address.scheme == DeviceAddress::Scheme::Simulator;
     return simulated && !findScenario(address.scenario) ? unknownScenarioText(address.scenario)
                                                         : QString();
+}
+
+// What is wrong in the environment; empty: it is applied.
+QString applyVariables(DeviceSettings& settings)
+{
+    for (const auto& [variable, name] : kVariables) {
+        const QString text = qEnvironmentVariable(variable);
+        for (const auto& key : deviceKeys()) {
+            if (text.isEmpty() || QLatin1String(key.name) != QLatin1String(name))
+                continue;
+            const std::optional<QVariant> value = key.type.parse(text);
+            if (!value)
+                return QCoreApplication::translate("CliSupport", "%1 is %2")
+                    .arg(QLatin1String(variable), key.type.description());
+            key.set(settings, *value);
+        }
+    }
+    applySecretOverrides(settings);
+    return {};
 }
 
 DeviceSettings withStoredSecrets(const DeviceSettings& device, SecretsChoice choice)
@@ -89,8 +115,8 @@ ChosenDevice chooseDevice(const QString& text, const QStringList& otherNames)
     settings.pollInterval = parsed.address->scheme == DeviceAddress::Scheme::Simulator
                                 ? kSimulatorPollSeconds
                                 : config.settings().pollInterval;
-    settings.user = qEnvironmentVariable(kUserVariable);
-    applySecretOverrides(settings);
+    if (const QString wrong = applyVariables(settings); !wrong.isEmpty())
+        return {{}, wrong};
     return {settings, {}};
 }
 
