@@ -5,16 +5,17 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 
 constexpr int kLongestPath = 4096;
 constexpr int kLongestFingerprint = 110; // with colons
 constexpr int kDigitsInAGroup = 16;
+constexpr int kLongestHolder = 40; // characters of it that are shown
 
 struct ChoiceRow {
     TlsUse use;
@@ -27,14 +28,15 @@ constexpr ChoiceRow kChoices[] = {
     {TlsUse::Off, QT_TRANSLATE_NOOP("NutTrustFields", "Off: passwords go in plain text")},
 };
 
-// In groups that a person can compare and a line can be broken at.
-QString grouped(const QString& fingerprint)
+// In groups that a person can compare, half of them a line.
+QString inGroups(const QString& fingerprint)
 {
+    QString text = fingerprint;
     const int start = fingerprint.indexOf(QLatin1Char(':')) + 1;
-    QStringList groups{fingerprint.left(start)};
-    for (int i = start; i < fingerprint.size(); i += kDigitsInAGroup)
-        groups << fingerprint.mid(i, kDigitsInAGroup);
-    return groups.join(QLatin1Char(' '));
+    const int middle = (fingerprint.size() - start) / 2;
+    for (int at = fingerprint.size() - start - kDigitsInAGroup; at > 0; at -= kDigitsInAGroup)
+        text.insert(start + at, QLatin1Char(at == middle ? '\n' : ' '));
+    return text;
 }
 
 } // namespace
@@ -45,7 +47,7 @@ NutTrustFields::NutTrustFields(QFormLayout* form, QObject* parent)
     , m_caFile(new QLineEdit)
     , m_fingerprint(new QLineEdit)
     , m_certificate(new QLabel)
-    , m_pin(new QPushButton(tr("P&in this certificate")))
+    , m_pin(new QPushButton(tr("P&in it")))
 {
     m_tls->setObjectName(QStringLiteral("TlsBox"));
     for (const ChoiceRow& row : kChoices)
@@ -58,16 +60,18 @@ NutTrustFields::NutTrustFields(QFormLayout* form, QObject* parent)
     m_fingerprint->setPlaceholderText(tr("none pinned; the connection test shows it"));
     m_certificate->setObjectName(QStringLiteral("CertificateLabel"));
     m_certificate->setTextFormat(Qt::PlainText);
-    m_certificate->setWordWrap(true);
     m_certificate->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_pin->setObjectName(QStringLiteral("PinButton"));
     m_pin->setAutoDefault(false);
+    m_pin->setToolTip(tr("Trust this certificate, and no other, from now on"));
 
     form->addRow(tr("&Encryption"), m_tls);
     form->addRow(tr("Authorities"), m_caFile);
     form->addRow(tr("&Fingerprint"), m_fingerprint);
-    form->addRow(QString(), m_certificate);
-    form->addRow(QString(), m_pin);
+    auto* shown = new QHBoxLayout;
+    shown->addWidget(m_certificate, 1);
+    shown->addWidget(m_pin, 0, Qt::AlignBottom);
+    form->addRow(QString(), shown);
     showCertificate({});
 
     connect(m_tls, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -106,11 +110,10 @@ void NutTrustFields::showCertificate(const LinkSecurity& link)
 {
     m_shown = link.fingerprint;
     const bool isPinned = m_shown == normalizedFingerprint(m_fingerprint->text());
-    const QString verdict = link.isTrusted
-                                ? tr("The server's certificate is trusted.")
-                                : tr("The server's certificate is not trusted: %1").arg(link.issue);
-    m_certificate->setText(
-        QStringList{verdict, link.holder, grouped(m_shown)}.join(QLatin1Char('\n')));
+    const QString holder = link.holder.left(kLongestHolder);
+    const QString who =
+        link.isTrusted ? tr("%1, trusted").arg(holder) : tr("%1, not trusted").arg(holder);
+    m_certificate->setText(who + QLatin1Char('\n') + inGroups(m_shown));
     m_certificate->setVisible(!m_shown.isEmpty());
     m_pin->setVisible(!m_shown.isEmpty() && !isPinned);
 }

@@ -16,7 +16,8 @@
 namespace {
 
 constexpr int kStartLimit = 10000; // ms
-constexpr int kMaxAge = 2;         // s until the server calls silent drivers stale
+constexpr int kMostPorts = 5;
+constexpr int kMaxAge = 2; // s until the server calls silent drivers stale
 
 // Ends with the test program, however that ends.
 class ChildProcess : public QProcess
@@ -68,7 +69,6 @@ NutServerFixture::~NutServerFixture()
 
 QString NutServerFixture::start()
 {
-    m_port = freePort();
     QByteArray devices = "maxretry = 1\npollinterval = 1\n";
     for (const QString& recording : m_recordings) {
         const QString name = QFileInfo(recording).completeBaseName();
@@ -78,19 +78,25 @@ QString NutServerFixture::start()
         devices += "[" + name.toUtf8() + "]\n  driver = dummy-ups\n  port = \"" + copy.toUtf8() +
                    "\"\n  mode = dummy-once\n  desc = \"Test device " + name.toUtf8() + "\"\n";
     }
-    const QByteArray server = "LISTEN 127.0.0.1 " + QByteArray::number(m_port) + "\nMAXAGE " +
-                              QByteArray::number(kMaxAge) + "\n";
     const QByteArray users = "[operator]\n  password = secret\n  actions = SET\n  instcmds = ALL\n"
                              "[guest]\n  password = guest\n";
-    if (!writeFile("ups.conf", devices) || !writeFile("upsd.conf", server) ||
-        !writeFile("upsd.users", users))
+    if (!writeFile("ups.conf", devices) || !writeFile("upsd.users", users))
         return "cannot write to " + m_folder.path();
     if (findProgram("dummy-ups").isEmpty() || findProgram("upsd").isEmpty())
         return "upsd or dummy-ups is missing: install nut-server";
     for (const QString& recording : m_recordings)
         if (!startDriver(QFileInfo(recording).completeBaseName()))
             return "the driver for " + recording + " does not start";
-    return startServer() ? QString() : QString("upsd does not start");
+    // Somebody else may take the port before the server does; then it ends at once.
+    for (int tries = 0; tries < kMostPorts; ++tries) {
+        m_port = freePort();
+        const QByteArray server = "LISTEN 127.0.0.1 " + QByteArray::number(m_port) + "\nMAXAGE " +
+                                  QByteArray::number(kMaxAge) + "\n";
+        if (writeFile("upsd.conf", server) && startServer())
+            return {};
+        stopServer();
+    }
+    return "upsd does not start";
 }
 
 QString NutServerFixture::address(const QString& device) const
@@ -101,13 +107,13 @@ QString NutServerFixture::address(const QString& device) const
 bool NutServerFixture::startServer()
 {
     m_server = launch("upsd", {"-F", "-u", userName()});
-    return QTest::qWaitFor(
-        [this] {
-            QTcpSocket socket;
-            socket.connectToHost(QHostAddress::LocalHost, m_port);
-            return socket.waitForConnected(100);
-        },
-        kStartLimit);
+    const auto isUp = [this] {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, m_port);
+        return socket.waitForConnected(100);
+    };
+    const auto hasEnded = [this] { return m_server->state() == QProcess::NotRunning; };
+    return QTest::qWaitFor([&] { return hasEnded() || isUp(); }, kStartLimit) && !hasEnded();
 }
 
 void NutServerFixture::stopServer()

@@ -70,6 +70,6 @@ LinkSecurity judgeCertificate(const NutEndpoint& endpoint, const QSslCertificate
     security.isTrusted = errors.isEmpty() && !certificate.isNull();
     if (!security.isTrusted)
         security.issue = errors.isEmpty() ? Tr::tr("the server shows no certificate.")
-                                          : errors.first().errorString();
+                                          : errors.first().errorString() + QLatin1Char('.');
     return security;
 }
