@@ -87,7 +87,7 @@ void feedDay(const HistoryWriterOptions& options, int devices, int hours)
     const double needed = devices * 1000.0 / kIntervalMs;
     out() << fed << " samples of " << devices << " devices, " << hours
           << " h at 5 s: " << qRound(static_cast<double>(fed) / seconds)
-          << " samples/s with means (needed: " << needed << "), at most " << most << " waiting, "
+          << " samples/s (needed: " << needed << "), at most " << most << " waiting, "
           << writer.lostSamples() << " lost\n";
     out().flush();
 }
@@ -119,6 +119,23 @@ void tellSizes(HistoryStore& store)
               << QString::number(perRow * rowsPerDay / 1024, 'f', 1) << " KiB per device and day\n";
     }
     out().flush();
+}
+
+// What the writer has not come to yet.
+void makeMeans(HistoryStore& store)
+{
+    constexpr int spans = 200;
+    Rollup rollup(store);
+    if (!rollup.resume())
+        qFatal("%s", qPrintable(store.errorText()));
+    QElapsedTimer clock;
+    clock.start();
+    qint64 made = 0;
+    for (int step = 1; step > 0; made += step)
+        step = rollup.step(QDateTime::currentMSecsSinceEpoch(), spans);
+    out() << "  "
+          << qRound(made * 1000.0 / static_cast<double>(std::max<qint64>(clock.elapsed(), 1)))
+          << " means/s\n";
 }
 
 // Means of a year, as they would have been made.
@@ -193,6 +210,7 @@ int run(const StoreAddress& address, int devices, int hours)
         out() << store->errorText() << '\n';
         return 1;
     }
+    makeMeans(*store);
     tellSizes(*store);
     fillYear(*store);
     askAll(*store);
