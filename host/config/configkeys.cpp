@@ -104,7 +104,7 @@ const std::vector<ConfigKey<DeskSettings>>& deskKeys()
                                                   C::choice({{"desk", ""}, {"viewer", ""}})),
         desk<&D::history, &HistorySettings::tls>(
             "history", "tls", "", C::choice({{"required", ""}, {"preferred", ""}, {"off", ""}})),
-        desk<&D::history, &HistorySettings::certificateAuthority>("history", "ca", "",
+        desk<&D::history, &HistorySettings::certificateAuthority>("history", "ca-file", "",
                                                                   C::text(kMaxPath)),
         desk<&D::history, &HistorySettings::keepSamples>("history", "keep-samples", "",
                                                          C::number(1, 366, "days")),

@@ -13,7 +13,9 @@
 #include <QObject>
 #include <QPointer>
 #include <QThread>
+#include <QTimer>
 
+#include <atomic>
 #include <functional>
 
 class HistoryReader : public QObject
@@ -50,10 +52,14 @@ private:
 
     void post(const Job& job);
     void run(const Job& job);
+    void watchStore();
 
     QThread m_thread;
     QObject* m_worker; // lives in the thread
     std::unique_ptr<HistoryStore> m_store;
+    std::atomic<bool> m_isEnding{false};
+    std::atomic<qint64> m_busySinceMs{0}; // boot clock; 0: no question is under way
+    QTimer m_watch;
 };
 
 #endif // HISTORYREADER_H
