@@ -8,6 +8,8 @@
 #include "connectors/connectorfactory.h"
 #include "fleet/watchlist.h"
 #include "history/deskhistory.h"
+#include "metrics/metricsserver.h"
+#include "notify/notifier.h"
 #include "openfilelimit.h"
 #include "operators/operatorsession.h"
 #include "promptexit.h"
@@ -16,6 +18,7 @@
 #include "window/mainwindow.h"
 #include "window/operatordesk.h"
 #include "window/themechoice.h"
+#include "window/trayicon.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -114,15 +117,69 @@ void followTheme(MainWindow& window, WatchList& list, ThemeChoice shown)
     });
 }
 
-int runWindow(const WindowOptions& options)
+// Notifications and metrics as the settings want them; what fails stands in the event list.
+void followOutside(Notifier& notifier, MetricsServer& metrics, WatchList& list, EventLog& log)
+{
+    const auto note = [&log](const QString& text, const QString& reason) {
+        DeskEvent event;
+        event.kind = EventKind::Fault;
+        event.text = text;
+        event.outcome = MainWindow::tr("failed");
+        event.message = reason;
+        event.isBad = true;
+        log.append(event);
+    };
+    QObject::connect(&notifier, &Notifier::failed, &notifier,
+                     [note](Notifier::Channel channel, const QString& reason) {
+                         note(Notifier::channelName(channel), reason);
+                     });
+    QObject::connect(&notifier, &Notifier::beep, &notifier, &QApplication::beep);
+    auto listening = std::make_shared<QString>();
+    const auto follow = [&notifier, &metrics, &list, note, listening] {
+        const DeskSettings& settings = list.config().settings();
+        notifier.setSettings(settings.notify);
+        if (settings.metrics == *listening)
+            return;
+        *listening = settings.metrics;
+        if (const QString reason = metrics.listen(settings.metrics); !reason.isEmpty())
+            note(MainWindow::tr("Metrics"), reason);
+    };
+    follow();
+    QObject::connect(&list, &WatchList::changed, &notifier, follow);
+}
+
+// Empty where one of the addresses is none; why has been said.
+std::optional<QVector<DeviceSettings>> devicesOf(const QStringList& addresses)
 {
     QVector<DeviceSettings> devices;
-    for (const QString& address : options.addresses) {
+    for (const QString& address : addresses) {
         const auto settings = settingsForAddress(address, subcommandNames());
         if (!settings)
-            return ExitUsage;
+            return {};
         devices << *settings;
     }
+    return devices;
+}
+
+// Those of the command line, else those of the configuration, else the simulator.
+void watchDevices(const QVector<DeviceSettings>& devices, Fleet& fleet, WatchList& list,
+                  MainWindow& window, bool isWall)
+{
+    for (const DeviceSettings& settings : devices)
+        fleet.add(settings);
+    if (devices.isEmpty())
+        list.load();
+    if (fleet.count() == 0)
+        window.setSimulation(fleet.add(*settingsForAddress(QStringLiteral("sim:"))));
+    if (fleet.count() == 1 && !isWall)
+        window.openDevice(fleet.at(0));
+}
+
+int runWindow(const WindowOptions& options)
+{
+    const auto devices = devicesOf(options.addresses);
+    if (!devices)
+        return ExitUsage;
 
     const WindowState state = options.kiosk ? WindowState() : WindowState::load();
     const DeskConfig config = DeskConfig::load();
@@ -156,14 +213,15 @@ int runWindow(const WindowOptions& options)
     if (!options.kiosk)
         window.setActions(new DeviceActions(fleet, list, makeConnector, session, &window),
                           operators->settingsAction());
-    for (const DeviceSettings& settings : qAsConst(devices))
-        fleet.add(settings);
-    if (devices.isEmpty())
-        list.load();
-    if (fleet.count() == 0)
-        window.setSimulation(fleet.add(*settingsForAddress(QStringLiteral("sim:"))));
-    if (fleet.count() == 1 && !options.kiosk)
-        window.openDevice(fleet.at(0));
+    Notifier notifier(fleet, config.settings().notify);
+    MetricsServer metrics(fleet);
+    followOutside(notifier, metrics, list, log);
+    const Attention attention(fleet);
+    QObject::connect(&attention, &Attention::changed, &window,
+                     [&] { window.setTroubleCount(attention.count()); });
+    TrayIcon tray(attention, window);
+    QObject::connect(&tray, &TrayIcon::muted, &notifier, &Notifier::setMuted);
+    watchDevices(*devices, fleet, list, window, options.kiosk);
     // A simulation is worth keeping only where somebody has put it into the configuration.
     DeskHistory history(fleet, log, [&list](const Device& device) {
         return !device.isSimulated() || list.isConfigured(&device);

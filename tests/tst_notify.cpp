@@ -200,10 +200,12 @@ void TestNotify::desktop()
         return made;
     });
     NotifySettings settings;
-    settings.quiet = {QTime(22, 0), QTime(7, 0)};
+    settings.quietFrom = QStringLiteral("22:00");
+    settings.quietTo = QStringLiteral("07:00");
     Notifier notifier(fleet, settings, bus.connection());
-    QSignalSpy failed(&notifier, &Notifier::failed);
-    notifier.test(Notifier::Desktop); // nobody offers the service yet
+    const auto trial = Notifier::makeChannel(Notifier::Desktop, settings, bus.connection());
+    QSignalSpy failed(trial.get(), &NotifyChannel::failed);
+    trial->tell(Notifier::trial()); // nobody offers the service yet
     QVERIFY(failed.wait());
 
     NotificationService service(bus);

@@ -16,7 +16,11 @@ constexpr int kMaxSeconds = 86400;
 constexpr int kMaxInterval = 3600; // s
 constexpr int kMaxGroup = 100;
 constexpr int kMaxUser = 255;
-constexpr int kMaxPath = 1000;
+constexpr int kMaxPath = 4096;
+constexpr int kMaxTime = 5; // HH:MM
+constexpr char kTimeOfDay[] = "(([01][0-9]|2[0-3]):[0-5][0-9])?";
+constexpr char kWebAddress[] =
+    "(https://[^/ ]+(/.*)?|http://(127\\.0\\.0\\.1|localhost|\\[::1\\])(:[0-9]+)?(/.*)?)?";
 constexpr int kMaxFingerprint = 110; // with colons
 
 // The value that a path of members leads to, as a QVariant: at<&DeskSettings::thresholds,
@@ -68,6 +72,14 @@ const std::vector<ConfigKey<DeskSettings>>& deskKeys()
 {
     using D = DeskSettings;
     using C = ConfigType;
+    using N = NotifySettings;
+    static const C level =
+        C::choice({{"never", QT_TRANSLATE_NOOP("ConfigKeys", "never")},
+                   {"warning", QT_TRANSLATE_NOOP("ConfigKeys", "from warnings on")},
+                   {"alarm", QT_TRANSLATE_NOOP("ConfigKeys", "from alarms on")},
+                   {"critical", QT_TRANSLATE_NOOP("ConfigKeys", "when critical")}});
+    static const C timeOfDay =
+        C::matching(kTimeOfDay, kMaxTime, QT_TRANSLATE_NOOP("ConfigKeys", "a time like 22:00"));
     static const std::vector<ConfigKey<D>> keys{
         desk<&D::pollInterval>("poll", "interval", QT_TRANSLATE_NOOP("ConfigKeys", "&Poll every"),
                                C::number(1, kMaxInterval, "s")),
@@ -112,6 +124,27 @@ const std::vector<ConfigKey<DeskSettings>>& deskKeys()
                                                          C::number(1, 3660, "days")),
         desk<&D::history, &HistorySettings::keepQuarters>("history", "keep-quarters", "",
                                                           C::number(1, 36600, "days")),
+        desk<&D::notify, &N::desktopFrom>(
+            "notify", "desktop", QT_TRANSLATE_NOOP("ConfigKeys", "&Desktop notifications"), level),
+        desk<&D::notify, &N::soundFrom>("notify", "sound",
+                                        QT_TRANSLATE_NOOP("ConfigKeys", "with so&und"), level),
+        desk<&D::notify, &N::quietFrom>("notify", "quiet-from",
+                                        QT_TRANSLATE_NOOP("ConfigKeys", "&Quiet from"), timeOfDay),
+        desk<&D::notify, &N::quietTo>("notify", "quiet-to", QT_TRANSLATE_NOOP("ConfigKeys", "t&o"),
+                                      timeOfDay),
+        desk<&D::notify, &N::command>(
+            "notify", "command", QT_TRANSLATE_NOOP("ConfigKeys", "&Command"), C::text(kMaxPath)),
+        desk<&D::notify, &N::commandFrom>("notify", "command-level",
+                                          QT_TRANSLATE_NOOP("ConfigKeys", "&run it"), level),
+        desk<&D::notify, &N::webhook>(
+            "notify", "webhook", QT_TRANSLATE_NOOP("ConfigKeys", "&Webhook"),
+            C::matching(kWebAddress, kMaxPath,
+                        QT_TRANSLATE_NOOP("ConfigKeys", "an address that begins with https://"))
+                .hidden()),
+        desk<&D::notify, &N::webhookFrom>("notify", "webhook-level",
+                                          QT_TRANSLATE_NOOP("ConfigKeys", "&tell it"), level),
+        desk<&D::metrics>("collector", "metrics",
+                          QT_TRANSLATE_NOOP("ConfigKeys", "Serve &metrics at"), C::text(kMaxPath)),
     };
     return keys;
 }
@@ -173,22 +206,22 @@ bool hasControlCharacters(const QString& text)
 
 ConfigType ConfigType::number(int minimum, int maximum, const char* unit)
 {
-    return {Kind::Number, minimum, maximum, unit, {}, "", ""};
+    return {Kind::Number, minimum, maximum, unit, {}, "", "", false};
 }
 
 ConfigType ConfigType::yesNo()
 {
-    return {Kind::Switch, 0, 0, "", {}};
+    return {Kind::Switch, 0, 0, "", {}, "", "", false};
 }
 
 ConfigType ConfigType::choice(const std::vector<ConfigWord>& words)
 {
-    return {Kind::Choice, 0, 0, "", words};
+    return {Kind::Choice, 0, 0, "", words, "", "", false};
 }
 
 ConfigType ConfigType::text(int longest)
 {
-    return {Kind::Text, 0, longest, "", {}, "", ""};
+    return {Kind::Text, 0, longest, "", {}, "", "", false};
 }
 
 ConfigType ConfigType::matching(const char* pattern, int longest, const char* meaning)
@@ -196,6 +229,13 @@ ConfigType ConfigType::matching(const char* pattern, int longest, const char* me
     ConfigType type = text(longest);
     type.pattern = pattern;
     type.meaning = meaning;
+    return type;
+}
+
+ConfigType ConfigType::hidden() const
+{
+    ConfigType type = *this;
+    type.isPrivate = true;
     return type;
 }
 

@@ -32,12 +32,14 @@ struct ConfigType {
     std::vector<ConfigWord> words;
     const char* pattern = ""; // Text; a regular expression that all of it has to fit
     const char* meaning = ""; // of the pattern, to be translated
+    bool isPrivate = false;   // may hold a secret: never shown but where it is edited
 
     static ConfigType number(int minimum, int maximum, const char* unit = "");
     static ConfigType yesNo();
     static ConfigType choice(const std::vector<ConfigWord>& words);
     static ConfigType text(int longest);
     static ConfigType matching(const char* pattern, int longest, const char* meaning);
+    ConfigType hidden() const; // the same, private
 
     // Nothing where the text is no such value.
     std::optional<QVariant> parse(const QString& text) const;

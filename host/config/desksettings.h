@@ -2,8 +2,9 @@
 #define DESKSETTINGS_H
 
 // The settings of the desk itself, as plain values.
-// May touch: thresholds, Qt Core.
+// May touch: thresholds, other settings.
 
+#include "config/notifysettings.h"
 #include "reading/thresholds.h"
 
 #include <QString>
@@ -37,6 +38,8 @@ struct DeskSettings {
     ThemeChoice theme = ThemeChoice::Light;
     SecretsChoice secrets = SecretsChoice::Keychain;
     HistorySettings history;
+    NotifySettings notify;
+    QString metrics; // where metrics are served, "127.0.0.1:9199" or a port; empty: nowhere
 };
 
 #endif // DESKSETTINGS_H

@@ -17,8 +17,8 @@
 struct PollResult {
     LinkState state = LinkState::Connecting;
     UpsReading reading;
-    QString message;       // why it is not Live, naming the cause; plain text for the operator
-    LinkSecurity security; // of links that can be encrypted
+    QString message;            // why it is not Live, naming the cause; plain text for the operator
+    LinkSecurity security = {}; // of links that can be encrypted
 };
 Q_DECLARE_METATYPE(PollResult)
 

@@ -13,8 +13,9 @@
 
 enum class EventKind {
     Command,
-    LogIn,        // also log-outs and attempts that failed
-    Configuration // devices and settings
+    LogIn,         // also log-outs and attempts that failed
+    Configuration, // devices and settings
+    Fault          // of the desk itself: a notification that did not go out, metrics not served
 };
 
 struct DeskEvent {

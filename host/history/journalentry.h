@@ -25,7 +25,7 @@ enum class JournalKind {
     Configuration, // who changed what
     Store,         // the history could not be written
     Clock,         // the desk's clock was set
-    Desk           // recording began
+    Desk           // recording began; the desk itself failed somebody
 };
 
 QString journalKindName(JournalKind kind);

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -16,7 +17,8 @@ constexpr double kLongestAge = 10 * 365 * 86400.0; // s; what a device says beyo
 
 // By the numbers of EventKind.
 constexpr JournalKind kEventKinds[] = {JournalKind::Command, JournalKind::Operator,
-                                       JournalKind::Configuration};
+                                       JournalKind::Configuration, JournalKind::Desk};
+static_assert(std::size(kEventKinds) == static_cast<int>(EventKind::Fault) + 1);
 
 // "refused: not now", or what there is of it.
 QString outcomeText(const DeskEvent& event)

@@ -36,6 +36,9 @@ Notifier::Notifier(Fleet& fleet, const NotifySettings& settings, const QDBusConn
     connect(&fleet, &Fleet::deviceAboutToBeRemoved, this, [this](int index) {
         m_announcer.forget(reinterpret_cast<Announcer::Key>(m_fleet.at(index)));
     });
+    setUp(Desktop);
+    connect(static_cast<DesktopChannel*>(m_channels[Desktop].get()), &DesktopChannel::beep, this,
+            &Notifier::beep);
     setSettings(settings);
 }
 
@@ -47,16 +50,42 @@ QString Notifier::channelName(Channel channel)
     return names[channel];
 }
 
-void Notifier::makeChannel(Channel channel, std::unique_ptr<NotifyChannel> made)
+std::unique_ptr<NotifyChannel>
+Notifier::makeChannel(Channel channel, const NotifySettings& settings, const QDBusConnection& bus)
+{
+    switch (channel) {
+    case Desktop:
+        return std::make_unique<DesktopChannel>(bus);
+    case Command:
+        if (!settings.command.isEmpty())
+            return std::make_unique<CommandChannel>(settings.command);
+        break;
+    case Webhook:
+        if (!settings.webhook.isEmpty())
+            return std::make_unique<WebhookChannel>(QUrl(settings.webhook));
+        break;
+    }
+    return {};
+}
+
+Announcement Notifier::trial()
+{
+    Announcement trial;
+    trial.condition.state = tr("upsdesk: a trial");
+    trial.condition.text = tr("Notifications arrive here.");
+    trial.condition.alarms = QStringList{trial.condition.text};
+    trial.since = QDateTime::currentDateTime();
+    trial.isTest = true;
+    return trial;
+}
+
+void Notifier::setUp(Channel channel)
 {
     auto& place = m_channels[static_cast<std::size_t>(channel)];
-    place = std::move(made);
-    if (!place)
-        return;
-    connect(place.get(), &NotifyChannel::delivered, this,
-            [this, channel] { emit delivered(channel); });
-    connect(place.get(), &NotifyChannel::failed, this,
-            [this, channel](const QString& reason) { emit failed(channel, reason); });
+    place = makeChannel(channel, m_settings, m_bus);
+    if (place)
+        connect(place.get(), &NotifyChannel::failed, this,
+                [this, channel](const QString& reason) { emit failed(channel, reason); });
 }
 
 // A channel that stays as it was keeps what it is doing.
@@ -64,19 +93,10 @@ void Notifier::setSettings(const NotifySettings& settings)
 {
     const NotifySettings before = m_settings;
     m_settings = settings;
-    if (!m_channels[Desktop]) {
-        auto desktop = std::make_unique<DesktopChannel>(m_bus);
-        connect(desktop.get(), &DesktopChannel::beep, this, &Notifier::beep);
-        makeChannel(Desktop, std::move(desktop));
-    }
     if (settings.command != before.command)
-        makeChannel(Command, settings.command.isEmpty()
-                                 ? nullptr
-                                 : std::make_unique<CommandChannel>(settings.command));
+        setUp(Command);
     if (settings.webhook != before.webhook)
-        makeChannel(Webhook, settings.webhook.isEmpty()
-                                 ? nullptr
-                                 : std::make_unique<WebhookChannel>(QUrl(settings.webhook)));
+        setUp(Webhook);
     applySound();
 }
 
@@ -90,22 +110,6 @@ void Notifier::applySound()
 {
     static_cast<DesktopChannel*>(m_channels[Desktop].get())
         ->setSound(m_isMuted ? std::nullopt : lowestOf(m_settings.soundFrom));
-}
-
-void Notifier::test(Channel channel)
-{
-    NotifyChannel* to = m_channels[static_cast<std::size_t>(channel)].get();
-    if (!to) {
-        emit failed(channel, tr("It is not set up."));
-        return;
-    }
-    Announcement trial;
-    trial.condition.state = tr("upsdesk: a trial");
-    trial.condition.text = tr("Notifications arrive here.");
-    trial.condition.alarms = QStringList{trial.condition.text};
-    trial.since = QDateTime::currentDateTime();
-    trial.isTest = true;
-    to->tell(trial);
 }
 
 void Notifier::takePoll(Device* device)
@@ -128,7 +132,7 @@ bool Notifier::wants(Channel channel, const Announcement& announcement) const
         return false;
     // Quiet is about who sits at this desk; who is on duty elsewhere is told as always.
     return channel != Desktop || announcement.weight >= Urgency::Critical ||
-           !m_settings.quiet.contains(m_wallClock());
+           !m_settings.quiet().contains(m_wallClock());
 }
 
 void Notifier::tell(const Announcement& announcement)

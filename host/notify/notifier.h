@@ -38,14 +38,17 @@ public:
     bool isMuted() const { return m_isMuted; }
     void setWallClock(const WallClock& clock) { m_wallClock = clock; }
 
-    // Sends a trial by this channel, whatever the levels are; ends with delivered() or failed().
-    void test(Channel channel);
+    // The channel as these settings want it; null where they do not set it up.
+    static std::unique_ptr<NotifyChannel>
+    makeChannel(Channel channel, const NotifySettings& settings,
+                const QDBusConnection& bus = QDBusConnection::sessionBus());
+    // What a channel is tried out with.
+    static Announcement trial();
 
     static QString channelName(Channel channel);
 
 signals:
     void announced(const Announcement& announcement); // whatever channels took it
-    void delivered(Notifier::Channel channel);
     void failed(Notifier::Channel channel, const QString& reason);
     void beep();
 
@@ -54,7 +57,7 @@ private:
     void tell(const Announcement& announcement);
     bool wants(Channel channel, const Announcement& announcement) const;
     void applySound();
-    void makeChannel(Channel channel, std::unique_ptr<NotifyChannel> made);
+    void setUp(Channel channel);
 
     Fleet& m_fleet;
     NotifySettings m_settings;

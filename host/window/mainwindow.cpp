@@ -294,7 +294,7 @@ void MainWindow::openOverview()
     m_overview->refreshAge();
     if (m_side)
         m_side->select(nullptr);
-    setWindowTitle(tr("upsdesk"));
+    retitle();
     choiceChanged();
 }
 
@@ -305,8 +305,21 @@ void MainWindow::openDevice(Device* device)
     m_pages->showDevice(device);
     if (m_side)
         m_side->select(device);
-    setWindowTitle(tr("%1 - upsdesk").arg(device->name()));
+    retitle();
     choiceChanged();
+}
+
+void MainWindow::setTroubleCount(int count)
+{
+    m_troubleCount = count;
+    retitle();
+}
+
+void MainWindow::retitle()
+{
+    const DevicePage* page = currentPage();
+    const QString title = page ? tr("%1 - upsdesk").arg(page->device().name()) : tr("upsdesk");
+    setWindowTitle(m_troubleCount == 0 ? title : tr("(%1) %2").arg(m_troubleCount).arg(title));
 }
 
 Device* MainWindow::chosenDevice() const

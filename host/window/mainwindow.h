@@ -58,6 +58,8 @@ public:
     void openOverview();
     // The page on show, null before a device is chosen and on the overview.
     DevicePage* currentPage() const;
+    // How many devices need somebody: in the title.
+    void setTroubleCount(int count);
     // Something the operator should know that concerns no device.
     void tell(const QString& text, bool isBad);
 
@@ -93,6 +95,7 @@ private:
     void showHelpOnPlaces();
     void showHelpOnVersion();
 
+    void retitle();
     Device* chosenDevice() const;
     void choiceChanged();
     void reportTest();
@@ -117,6 +120,7 @@ private:
     DeviceActions* m_actions = nullptr;
     QPushButton* m_wayBack = nullptr; // on a wall only
     std::unique_ptr<ConnectionTest> m_test;
+    int m_troubleCount = 0;
     bool m_reopenReplaced = false; // the device that went last was the one on show
 };
 

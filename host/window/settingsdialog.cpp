@@ -1,6 +1,7 @@
 #include "window/settingsdialog.h"
 
 #include "window/dialogmessage.h"
+#include "window/notifytests.h"
 #include "window/operatorspage.h"
 #include "window/settingsform.h"
 
@@ -33,6 +34,12 @@ constexpr PageRow kPages[] = {
                        "Passwords and keys of devices. Where another place is chosen, those that "
                        "the desk knows move there. The file is not encrypted: this user and the "
                        "administrator of this machine can read it.")},
+    {QT_TRANSLATE_NOOP("SettingsDialog", "&Notifications"), "notify",
+     QT_TRANSLATE_NOOP("SettingsDialog",
+                       "Power failures are told at once, anything else after it has held for one "
+                       "more poll. In quiet hours the desktop is told only what is critical. The "
+                       "command is a program with its arguments; what happened is in its "
+                       "environment (UPSDESK_TEXT and others).")},
 };
 
 } // namespace
@@ -52,6 +59,11 @@ SettingsDialog::SettingsDialog(WatchList& list, QWidget* parent, const HashLimit
         m_forms += new SettingsForm(sections, tr(row.help), list.config().settings());
         m_pages->addTab(m_forms.last(), tr(row.title));
     }
+    auto* trials = new NotifyTests([this] { return shown().notify; });
+    connect(trials, &NotifyTests::said, this, [this](const QString& text, bool isBad) {
+        m_message->say(text, isBad ? DialogMessage::Tone::Bad : DialogMessage::Tone::Good);
+    });
+    m_forms.last()->addBelow(trials);
     auto* operators = new OperatorsPage(list, limits);
     connect(operators, &OperatorsPage::said, this, [this](const QString& text, bool isBad) {
         m_message->say(text, isBad ? DialogMessage::Tone::Bad : DialogMessage::Tone::Good);
@@ -77,6 +89,14 @@ void SettingsDialog::accept()
         QDialog::accept();
     else
         m_message->say(reason, DialogMessage::Tone::Bad);
+}
+
+DeskSettings SettingsDialog::shown() const
+{
+    DeskSettings settings = m_list.config().settings();
+    for (const SettingsForm* form : m_forms)
+        form->readInto(settings);
+    return settings;
 }
 
 // Only what was changed here is changed there: the file may have been edited meanwhile.

@@ -27,6 +27,7 @@ public:
 
 private:
     QString save();
+    DeskSettings shown() const; // as the fields say now
 
     WatchList& m_list;
     QTabWidget* m_pages;

@@ -54,7 +54,9 @@ SettingsForm::SettingsForm(const QStringList& sections, const QString& help,
             continue;
         QWidget* field = makeField(key.type);
         field->setObjectName(QLatin1String(key.name));
-        field->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        const bool isText = key.type.kind == ConfigType::Kind::Text;
+        field->setSizePolicy(isText ? QSizePolicy::Expanding : QSizePolicy::Fixed,
+                             QSizePolicy::Fixed);
         field->setProperty(valueProperty(key.type), key.get(settings));
         form->addRow(configLabel(key.label), field);
         m_rows += Row{&key, field, key.get(settings)};
@@ -74,10 +76,19 @@ QStringList SettingsForm::readInto(DeskSettings& settings) const
         if (value == row.shown)
             continue;
         row.key->set(settings, value);
+        if (type.isPrivate) {
+            changes += QLatin1String(row.key->name);
+            continue;
+        }
         changes += QStringLiteral("%1 %2 \u2192 %3 %4")
                        .arg(QLatin1String(row.key->name), type.format(row.shown),
                             type.format(value), QString::fromUtf8(type.unit))
                        .trimmed();
     }
     return changes;
+}
+
+void SettingsForm::addBelow(QWidget* widget)
+{
+    static_cast<QFormLayout*>(layout())->addRow(widget);
 }

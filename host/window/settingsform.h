@@ -21,6 +21,9 @@ public:
     // Puts what was changed in here into the settings and names it: "interval 5 -> 10 s".
     QStringList readInto(DeskSettings& settings) const;
 
+    // Over the whole width, below the help.
+    void addBelow(QWidget* widget);
+
 private:
     struct Row {
         const ConfigKey<DeskSettings>* key;
