@@ -107,7 +107,7 @@ void TestMainWindow::latestPagesAreKept()
     open(0); // looked at again: now the second is the oldest
     QPointer<DevicePage> oldest(second);
     open(PageStack::kMostPages);
-    QVERIFY(!oldest);
+    QTRY_VERIFY(!oldest);
     QCOMPARE(desk.window.findChildren<DevicePage*>().size(), int(PageStack::kMostPages));
     QCOMPARE(desk.shown(), "u" + QString::number(PageStack::kMostPages));
 }

@@ -10,6 +10,9 @@ PageStack::PageStack(CommandDesk& desk, QWidget* overview, QWidget* parent)
     , m_overview(overview)
 {
     addWidget(overview);
+    m_dropTimer.setSingleShot(true);
+    m_dropTimer.setInterval(0);
+    connect(&m_dropTimer, &QTimer::timeout, this, &PageStack::dropOldest);
 }
 
 void PageStack::showOverview()
@@ -29,8 +32,16 @@ void PageStack::showDevice(Device* device)
     m_kept.prepend(page);
     page->showPage(m_page);
     setCurrentWidget(page);
-    while (m_kept.size() > kMostPages)
+    if (m_kept.size() > kMostPages)
+        m_dropTimer.start();
+}
+
+void PageStack::dropOldest()
+{
+    if (m_kept.size() > kMostPages)
         delete m_kept.takeLast();
+    if (m_kept.size() > kMostPages)
+        m_dropTimer.start();
 }
 
 DevicePage* PageStack::pageOf(Device* device)

@@ -8,6 +8,7 @@
 
 #include <QList>
 #include <QStackedWidget>
+#include <QTimer>
 
 class DevicePage;
 
@@ -37,10 +38,12 @@ signals:
 
 private:
     DevicePage* pageOf(Device* device);
+    void dropOldest();
 
     CommandDesk& m_desk;
     QWidget* m_overview;
     QList<DevicePage*> m_kept;
+    QTimer m_dropTimer; // taking a page apart costs as much as a paint: never in the same step
     int m_page = 0;
 };
 
