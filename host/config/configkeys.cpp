@@ -66,21 +66,13 @@ ConfigKey<DeviceSettings> device(const char* name, const char* label, const Conf
     return key<DeviceSettings, path...>("", name, label, type);
 }
 
-} // namespace
+using DeskKeys = std::vector<ConfigKey<DeskSettings>>;
+using D = DeskSettings;
+using C = ConfigType;
 
-const std::vector<ConfigKey<DeskSettings>>& deskKeys()
+DeskKeys generalKeys()
 {
-    using D = DeskSettings;
-    using C = ConfigType;
-    using N = NotifySettings;
-    static const C level =
-        C::choice({{"never", QT_TRANSLATE_NOOP("ConfigKeys", "never")},
-                   {"warning", QT_TRANSLATE_NOOP("ConfigKeys", "from warnings on")},
-                   {"alarm", QT_TRANSLATE_NOOP("ConfigKeys", "from alarms on")},
-                   {"critical", QT_TRANSLATE_NOOP("ConfigKeys", "when critical")}});
-    static const C timeOfDay =
-        C::matching(kTimeOfDay, kMaxTime, QT_TRANSLATE_NOOP("ConfigKeys", "a time like 22:00"));
-    static const std::vector<ConfigKey<D>> keys{
+    return {
         desk<&D::pollInterval>("poll", "interval", QT_TRANSLATE_NOOP("ConfigKeys", "&Poll every"),
                                C::number(1, kMaxInterval, "s")),
         desk<&D::thresholds, &Thresholds::chargeLow>(
@@ -111,6 +103,12 @@ const std::vector<ConfigKey<DeskSettings>>& deskKeys()
             C::choice(
                 {{"keychain", QT_TRANSLATE_NOOP("ConfigKeys", "the desktop's keychain")},
                  {"file", QT_TRANSLATE_NOOP("ConfigKeys", "a file that only you can read")}})),
+    };
+}
+
+DeskKeys historyKeys()
+{
+    return {
         desk<&D::history, &HistorySettings::store>("history", "store", "", C::text(kMaxPath)),
         desk<&D::history, &HistorySettings::mode>("history", "mode", "",
                                                   C::choice({{"desk", ""}, {"viewer", ""}})),
@@ -124,6 +122,20 @@ const std::vector<ConfigKey<DeskSettings>>& deskKeys()
                                                          C::number(1, 3660, "days")),
         desk<&D::history, &HistorySettings::keepQuarters>("history", "keep-quarters", "",
                                                           C::number(1, 36600, "days")),
+    };
+}
+
+DeskKeys outsideKeys()
+{
+    using N = NotifySettings;
+    static const C level =
+        C::choice({{"never", QT_TRANSLATE_NOOP("ConfigKeys", "never")},
+                   {"warning", QT_TRANSLATE_NOOP("ConfigKeys", "from warnings on")},
+                   {"alarm", QT_TRANSLATE_NOOP("ConfigKeys", "from alarms on")},
+                   {"critical", QT_TRANSLATE_NOOP("ConfigKeys", "when critical")}});
+    static const C timeOfDay =
+        C::matching(kTimeOfDay, kMaxTime, QT_TRANSLATE_NOOP("ConfigKeys", "a time like 22:00"));
+    return {
         desk<&D::notify, &N::desktopFrom>(
             "notify", "desktop", QT_TRANSLATE_NOOP("ConfigKeys", "&Desktop notifications"), level),
         desk<&D::notify, &N::soundFrom>("notify", "sound",
@@ -146,13 +158,24 @@ const std::vector<ConfigKey<DeskSettings>>& deskKeys()
         desk<&D::metrics>("collector", "metrics",
                           QT_TRANSLATE_NOOP("ConfigKeys", "Serve &metrics at"), C::text(kMaxPath)),
     };
+}
+
+} // namespace
+
+const std::vector<ConfigKey<DeskSettings>>& deskKeys()
+{
+    static const DeskKeys keys = [] {
+        DeskKeys all = generalKeys();
+        for (const DeskKeys& more : {historyKeys(), outsideKeys()})
+            all.insert(all.end(), more.begin(), more.end());
+        return all;
+    }();
     return keys;
 }
 
 const std::vector<ConfigKey<DeviceSettings>>& deviceKeys()
 {
     using D = DeviceSettings;
-    using C = ConfigType;
     static const std::vector<ConfigKey<D>> keys{
         device<&D::group>("group", "", C::text(kMaxGroup)),
         device<&D::user>("user", "", C::text(kMaxUser)),

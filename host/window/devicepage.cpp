@@ -27,6 +27,17 @@ namespace {
 constexpr QSize kWholeDiagram(760, 685);
 
 constexpr char kDiagramGround[] = "#e6e9f2";
+// The view's own ground would hide the theme's rule for these.
+const QString kLightPanelTitle =
+    QStringLiteral("#PanelTitle { background-color: #dddff5; color: #2947c6; }");
+const QString kDarkPanelTitle =
+    QStringLiteral("#PanelTitle { background-color: #30364a; color: #b9c4ff; }");
+constexpr int kHalfLight = 128;
+
+bool isDark(const QColor& ground)
+{
+    return ground.lightness() < kHalfLight;
+}
 
 // Longer than a held key takes for its next stroke: a page that is only passed builds nothing.
 constexpr int kBeforeFirstPieceMs = 50;
@@ -206,8 +217,9 @@ void DevicePage::colorDeviceView()
         return;
     m_ground = ground;
     m_view->setStyleSheet(
-        QStringLiteral("* { background-color: %1; } Energyline { background: %2; }")
-            .arg(ground.name(), kDiagramGround));
+        QStringLiteral("* { background-color: %1; } Energyline { background: %2; } %3")
+            .arg(ground.name(), kDiagramGround,
+                 isDark(ground) ? kDarkPanelTitle : kLightPanelTitle));
 }
 
 void DevicePage::changeEvent(QEvent* event)
