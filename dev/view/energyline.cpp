@@ -96,6 +96,19 @@ QPixmap boxImage(const char* name, qreal devicePixelRatio)
     return {};
 }
 
+void drawWiring(QPainter* painter, QPointF centre)
+{
+    constexpr qreal kWiringWidth = 10.0;
+    // Along the centre line with a branch down to the battery, and back over the bypass line.
+    constexpr QPointF kWiring[] = {{-225.0, 0.0}, {0.0, 0.0},   {0.0, 70.0},     {0.0, 0.0},
+                                   {225.0, 0.0},  {175.0, 0.0}, {175.0, -150.0}, {-225.0, -150.0}};
+    QPolygonF wiring;
+    for (const QPointF& point : kWiring)
+        wiring << centre + point;
+    painter->setPen(QPen(kPaleGrey, kWiringWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPolyline(wiring);
+}
+
 } // namespace
 
 Energyline::Energyline(QWidget* parent)
@@ -309,11 +322,6 @@ QPointF Energyline::centre()
 
 void Energyline::drawBase(QPainter* painter)
 {
-    constexpr qreal kWiringWidth = 10.0;
-    // Along the centre line with a branch down to the battery, and back over the bypass line.
-    constexpr QPointF kWiring[] = {{-225.0, 0.0}, {0.0, 0.0},   {0.0, 70.0},     {0.0, 0.0},
-                                   {225.0, 0.0},  {175.0, 0.0}, {175.0, -150.0}, {-225.0, -150.0}};
-
     constexpr qreal kCaptionHeight = 25.0;
     constexpr qreal kCaptionGap = 3.0; // to a text that is drawn right beside a caption
     constexpr int kBoxRoundness = 25;  // per cent
@@ -344,12 +352,7 @@ void Energyline::drawBase(QPainter* painter)
     const PainterSaver saver(painter);
     const QPointF c = centre();
 
-    QPolygonF wiring;
-    for (const QPointF& point : kWiring)
-        wiring << c + point;
-    painter->setPen(QPen(kPaleGrey, kWiringWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter->drawPolyline(wiring);
-
+    drawWiring(painter, c);
     painter->setPen(kCaptionGrey);
     painter->setFont(textFont(13, QFont::Bold));
     for (const Box& box : kBoxes) {
