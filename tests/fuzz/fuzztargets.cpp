@@ -1,7 +1,9 @@
 #include "fuzztargets.h"
 
 #include "config/deskconfig.h"
-#include "connectors/nut/nutprotocol.h"
+#include "connectors/nut/nutanswer.h"
+#include "connectors/nut/nutorder.h"
+#include "connectors/nut/nutpoll.h"
 #include "connectors/nut/nutreading.h"
 #include "connectors/snmp/snmpreading.h"
 #include "connectors/snmp/upsmib.h"
@@ -67,6 +69,33 @@ void requireSoundReading(const UpsReading& reading)
     REQUIRE(!conditionOf(LinkState::Live, &reading).text.isEmpty());
 }
 
+// The lines as the answers to one question after the other, of a poll or of an order.
+void runNutDialogue(NutDialogue& dialogue, const QByteArrayList& lines)
+{
+    constexpr int kMostQuestions = 1000;
+    int line = 0;
+    for (int i = 0; i < kMostQuestions; ++i) {
+        const auto question = dialogue.next();
+        if (!question)
+            return;
+        REQUIRE(!question->line.contains('\n'));
+        NutAnswer answer(question->line);
+        NutAnswer::State state = NutAnswer::State::Open;
+        while (state == NutAnswer::State::Open && line < lines.size())
+            state = answer.take(lines.at(line++));
+        NutReply reply;
+        reply.rows = answer.rows();
+        reply.failure = answer.refusal();
+        reply.wasSent = true;
+        reply.connection = static_cast<quint64>(line);
+        reply.elapsed = question->delay;
+        if (state == NutAnswer::State::Open || state == NutAnswer::State::Unusable)
+            reply = {nutNonsense("h"), {}, line % 2 == 0, reply.connection, {}, question->delay};
+        dialogue.take(reply);
+    }
+    REQUIRE(!"a dialogue comes to its end");
+}
+
 // The lines of an answer, as a session hands them on.
 void runNut(const QByteArray& input)
 {
@@ -87,6 +116,14 @@ void runNut(const QByteArray& input)
         if (words->size() >= 4 && !isPrivateNutVariable(words->at(2)))
             variables.insert(words->at(2), words->at(3));
     }
+    const QByteArrayList lines = input.split('\n');
+    NutPoll poll("h", lines.size() % 2 == 0 ? "unit" : "");
+    runNutDialogue(poll, lines);
+    if (poll.result().state == LinkState::Live)
+        requireSoundReading(poll.result().reading);
+    NutOrder order(UpsCommand(), {"h", "unit", "anna", "secret", std::chrono::seconds(1)});
+    runNutDialogue(order, lines);
+    REQUIRE(!order.result().message.isEmpty() && !order.result().message.contains("secret"));
     const UpsReading reading = readingFromNut(variables, input.left(40), QStringLiteral("unit"));
     requireSoundReading(reading);
     saysMains = variables.value("ups.status").contains("OL");
