@@ -12,6 +12,8 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <utility>
+
 namespace {
 
 constexpr int kPatience = 15000; // ms; far beyond any limit in here
@@ -265,6 +267,28 @@ private slots:
             QVERIFY(!result.message.isEmpty());
             bad = false;
             QCOMPARE(stateOf(connector), LinkState::Live);
+        }
+    }
+
+    // A server that was restarted, or has closed an idle connection, costs no poll.
+    void aDeadConnectionIsReplaced()
+    {
+        bool closing = false;
+        LineServer* self = nullptr;
+        LineServer server([&](const QByteArray& line) {
+            if (!std::exchange(closing, false))
+                return orderlyNutAnswer(line);
+            QTimer::singleShot(0, self, &LineServer::closeConnections);
+            return QByteArray();
+        });
+        self = &server;
+        NutConnector connector(settingsFor(addressOf(server)));
+        QCOMPARE(stateOf(connector), LinkState::Live);
+        for (int connections : {2, 3}) {
+            closing = true;
+            const PollResult result = pollOnce(connector);
+            QVERIFY2(result.state == LinkState::Live, qPrintable(result.message));
+            QCOMPARE(server.connections, connections);
         }
     }
 

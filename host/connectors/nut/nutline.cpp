@@ -286,11 +286,13 @@ void NutLine::answer(const NutFailure& failure, const QList<NutWords>& rows)
 
 // Failures
 
+// The socket tidies up after its signal, a connection that was begun in there included; so the next
+// one waits for the event loop.
 void NutLine::socketFailed()
 {
     if (m_state == State::Connecting) {
         if (!m_addresses.isEmpty())
-            return tryAddress();
+            return m_share.start(0); // the next one
         m_names.fail(m_address);
         return fail(connectError());
     }
@@ -306,7 +308,7 @@ void NutLine::socketFailed()
     if (m_isAsked && m_mayReplace && m_state == State::Ready && !m_question.isOrder) {
         m_mayReplace = false;
         close();
-        return open();
+        return m_pause.start(0);
     }
     fail(closedByServer());
 }
