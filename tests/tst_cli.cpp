@@ -1,6 +1,9 @@
 // upsdesk as a program: what each subcommand ends with and says, on the simulator, on a port where
 // nobody listens, and by names of a configuration.
 
+#include "support/lineserver.h"
+#include "support/nutanswers.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -49,13 +52,17 @@ private:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.path());
         environment.remove(QStringLiteral("QT_FATAL_WARNINGS"));
+        for (const auto& [name, value] :
+             {std::pair("USER", "anna"), {"SECRET", "secret"}, {"TLS", "off"}})
+            environment.insert(QStringLiteral("UPSDESK_NUT_") + name, value);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_home.path());
         process.start(QStringLiteral(UPSDESK), arguments);
         process.write(input);
         process.closeWriteChannel();
         constexpr int kPatience = 60000;
-        if (!process.waitForFinished(kPatience) || process.exitStatus() != QProcess::NormalExit)
+        const auto hasEnded = [&] { return process.state() == QProcess::NotRunning; };
+        if (!QTest::qWaitFor(hasEnded, kPatience) || process.exitStatus() != QProcess::NormalExit)
             return {};
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};
@@ -106,6 +113,7 @@ private slots:
             "UPS OK - ");
         row("check: configured threshold", {"check", "Rack 3"}, 1,
             "UPS WARNING - Rack 3: On mains");
+        row("check: by its address", {"check", "sim:mains"}, 1, "UPS WARNING - Rack 3: On mains");
         row("check: other thresholds", {"check", "Rack 3", "--warning", "load=90"}, 0, "%;90;;0 ");
         row("check: beyond a limit", {"check", "sim:mains", "--critical", "charge=@99:"}, 2,
             "charge 100 % (limit @99:)");
@@ -136,6 +144,19 @@ private slots:
         const Ended ended = run({"check", "A|B"});
         QVERIFY2(ended.out.contains("A/B: On mains"), qPrintable(ended.out));
         QCOMPARE(ended.out.count('|'), 1);
+    }
+
+    // A server of before tracking takes the order and never tells how it ended.
+    void commandOfUnknownResult()
+    {
+        LineServer server([](const QByteArray& line) {
+            return line.startsWith("INSTCMD") ? QByteArray("OK\n") : orderlyNutAnswer(line);
+        });
+        const QString port = QString::number(server.serverPort());
+        const Ended ended =
+            run({"command", "nut://127.0.0.1:" + port + "/unit", "self-test", "--yes"});
+        QVERIFY2(ended.code == 5, qPrintable(ended.out + ended.error));
+        QCOMPARE(server.count("INSTCMD"), 1);
     }
 
     void jsonHasPhysicalValuesBesideTheKeys()

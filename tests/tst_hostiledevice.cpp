@@ -1,7 +1,7 @@
 // Thousands of malformed answers from the network: every poll ends, and the device is live again as
 // soon as it answers well.
 
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 #include "support/hostiledevice.h"
 
 #include <QSignalSpy>

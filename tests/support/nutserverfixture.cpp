@@ -1,10 +1,11 @@
 #include "nutserverfixture.h"
 
+#include "freeport.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
 
@@ -16,8 +17,7 @@
 namespace {
 
 constexpr int kStartLimit = 10000; // ms
-constexpr int kMostPorts = 5;
-constexpr int kMaxAge = 2; // s until the server calls silent drivers stale
+constexpr int kMaxAge = 2;         // s until the server calls silent drivers stale
 
 // Ends with the test program, however that ends.
 class ChildProcess : public QProcess
@@ -35,12 +35,6 @@ QString userName()
 {
     const passwd* entry = getpwuid(getuid());
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString();
-}
-
-quint16 freePort()
-{
-    QTcpServer probe;
-    return probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : 0;
 }
 
 void end(QProcess& process)
@@ -87,16 +81,10 @@ QString NutServerFixture::start()
     for (const QString& recording : m_recordings)
         if (!startDriver(QFileInfo(recording).completeBaseName()))
             return "the driver for " + recording + " does not start";
-    // Somebody else may take the port before the server does; then it ends at once.
-    for (int tries = 0; tries < kMostPorts; ++tries) {
-        m_port = freePort();
-        const QByteArray server = "LISTEN 127.0.0.1 " + QByteArray::number(m_port) + "\nMAXAGE " +
-                                  QByteArray::number(kMaxAge) + "\n";
-        if (writeFile("upsd.conf", server) && startServer())
-            return {};
-        stopServer();
-    }
-    return "upsd does not start";
+    m_port = freePort();
+    const QByteArray server = "LISTEN 127.0.0.1 " + QByteArray::number(m_port) + "\nMAXAGE " +
+                              QByteArray::number(kMaxAge) + "\n";
+    return writeFile("upsd.conf", server) && startServer() ? QString() : "upsd does not start";
 }
 
 QString NutServerFixture::address(const QString& device) const

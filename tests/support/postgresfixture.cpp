@@ -1,12 +1,13 @@
 #include "postgresfixture.h"
 
+#include "freeport.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStandardPaths>
-#include <QTcpServer>
 #include <QThread>
 
 #include <csignal>
@@ -97,9 +98,7 @@ std::unique_ptr<QProcess> PostgresFixture::launch(const QString& program,
 
 QString PostgresFixture::start()
 {
-    QTcpServer probe;
-    m_port = probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : 0;
-    probe.close();
+    m_port = freePort();
     if (const passwd* user = serverUser())
         if (chown(qPrintable(m_folder.path()), user->pw_uid, user->pw_gid) != 0)
             return QStringLiteral("cannot hand over ") + m_folder.path();

@@ -1,22 +1,15 @@
 #include "snmpd.h"
 
+#include "freeport.h"
+
 #include <QDir>
 #include <QFile>
-#include <QUdpSocket>
 
 #include <csignal>
 
 namespace {
 
 constexpr int kPatience = 20000; // ms, for the slowest machine
-constexpr int kMostPorts = 10;
-
-quint16 freePort()
-{
-    QUdpSocket probe;
-    probe.bind(QHostAddress(QHostAddress::LocalHost));
-    return probe.localPort();
-}
 
 } // namespace
 
@@ -29,19 +22,12 @@ bool Snmpd::start(const QByteArray& objects, bool freshEngine)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("SNMP_PERSISTENT_DIR", state);
     m_process.setProcessEnvironment(environment);
-    // A port that was free a moment ago may be taken by now.
-    for (int i = 0; i < kMostPorts; ++i)
-        if (startAt(m_port ? m_port : freePort(), objects))
-            return true;
-    return false;
-}
-
-bool Snmpd::startAt(quint16 port, const QByteArray& objects)
-{
+    if (m_port == 0)
+        m_port = freePort();
     QFile conf(m_folder.filePath("agent.conf"));
     if (!conf.open(QIODevice::WriteOnly))
         return false;
-    conf.write("agentaddress udp:127.0.0.1:" + QByteArray::number(port) + '\n');
+    conf.write("agentaddress udp:127.0.0.1:" + QByteArray::number(m_port) + '\n');
     conf.write(R"(createUser operator SHA "auth-secret" AES "priv-secret"
 createUser watcher SHA-256 "auth-secret" AES-256 "priv-secret"
 rwuser operator priv
@@ -60,7 +46,6 @@ rouser watcher priv
             said += m_process.readAllStandardOutput();
         else
             return false;
-    m_port = port;
     return true;
 }
 

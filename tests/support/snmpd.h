@@ -24,8 +24,6 @@ public:
     QString address() const; // of the operator, with level and protocols
 
 private:
-    bool startAt(quint16 port, const QByteArray& objects);
-
     QTemporaryDir m_folder;
     QProcess m_process;
     quint16 m_port = 0;
