@@ -7,7 +7,7 @@
 #include "snmp3agents.h"
 #include "timedconnector.h"
 
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 #include "fleet/watchlist.h"
 #include "openfilelimit.h"
 #include "operators/operatorsession.h"

@@ -1,7 +1,7 @@
 // Malformed answers without end: does memory grow with them?
 // May touch: the connectors, the tests' hostile device, the memory figures of Linux.
 
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 #include "support/hostiledevice.h"
 
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 
 #include "meteredapplication.h"
 
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 #include "operators/operatorsession.h"
 #include "window/devicepage.h"
 #include "window/mainwindow.h"

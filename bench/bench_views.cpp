@@ -7,7 +7,7 @@
 #include "globalvar.h"
 #include "threedynamicchart.h"
 
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 #include "window/devicelistmodel.h"
 #include "window/overviewpage.h"
 #include "window/theme.h"

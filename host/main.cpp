@@ -5,7 +5,7 @@
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
 #include "config/deskconfig.h"
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 #include "fleet/watchlist.h"
 #include "history/deskhistory.h"
 #include "metrics/metricsserver.h"

@@ -9,7 +9,7 @@
 #include "cli/pluginrange.h"
 #include "cli/subcommands.h"
 #include "config/deskconfig.h"
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 
 #include <QCoreApplication>
 

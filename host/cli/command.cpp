@@ -6,7 +6,7 @@
 #include "cli/commandline.h"
 #include "cli/onepoll.h"
 #include "cli/subcommands.h"
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 #include "connectors/upscommand.h"
 
 #include <QTextStream>

@@ -7,7 +7,7 @@
 #include "cli/onepoll.h"
 #include "cli/subcommands.h"
 #include "config/deskconfig.h"
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 #include "fleet/device.h"
 #include "reading/keynames.h"
 

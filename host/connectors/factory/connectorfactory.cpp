@@ -1,4 +1,4 @@
-#include "connectors/connectorfactory.h"
+#include "connectors/factory/connectorfactory.h"
 
 #include "connectors/nut/nutconnector.h"
 #include "connectors/simulator/simulatorconnector.h"
