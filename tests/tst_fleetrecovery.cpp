@@ -3,6 +3,7 @@
 
 #include "connectors/factory/connectorfactory.h"
 #include "fleet/fleet.h"
+#include "support/freeport.h"
 #include "support/lineserver.h"
 #include "support/nutanswers.h"
 #include "support/snmpagent.h"
@@ -28,7 +29,13 @@ public:
 class Site
 {
 public:
-    Site() { start(); }
+    Site()
+    {
+        m_nutPort = freePort();
+        for (quint16& port : m_snmpPorts)
+            port = freePort();
+        start();
+    }
 
     void start()
     {
@@ -36,16 +43,12 @@ public:
         m_server = std::make_unique<LineServer>([this](const QByteArray& line) {
             return m_frozen ? QByteArray() : orderlyNutAnswer(line);
         });
-        if (m_nutPort != 0) {
-            m_server->close();
-            QVERIFY(m_server->listen(QHostAddress::LocalHost, m_nutPort));
-        }
-        m_nutPort = m_server->serverPort();
-        for (quint16& port : m_snmpPorts) {
+        m_server->close();
+        QVERIFY(m_server->listen(QHostAddress::LocalHost, m_nutPort));
+        for (const quint16 port : m_snmpPorts) {
             m_agents.push_back(std::make_unique<SnmpAgent>(nullptr, port));
             m_agents.back()->table.loadFile(QStringLiteral(TEST_DATA "/snmp/three-phase.txt"));
-            QVERIFY(port == 0 || m_agents.back()->port() == port);
-            port = m_agents.back()->port();
+            QCOMPARE(m_agents.back()->port(), port);
         }
     }
     void freeze()
