@@ -58,7 +58,7 @@ struct PhaseRow {
     double factor;
 };
 
-constexpr PhaseRow kPhases[] = {
+constexpr PhaseRow kPhaseRows[] = {
     {"ups_input_voltage_volts", "Voltage of the input.", &UpsReading::input, &LineReading::voltage,
      1},
     {"ups_input_current_amperes", "Current of the input.", &UpsReading::input,
@@ -83,8 +83,7 @@ constexpr PhaseRow kPhases[] = {
      &LineReading::frequency, 1},
 };
 
-constexpr const char* kPhaseNames[] = {"A", "B", "C"};
-static_assert(std::size(kPhaseNames) == std::tuple_size_v<PhaseValues>);
+constexpr const char* kPhaseNames[kPhases] = {"A", "B", "C"};
 
 // By number of Alarm, from 1.
 constexpr const char* kAlarmNames[] = {
@@ -222,7 +221,7 @@ std::vector<Family> metricFamilies(const std::vector<DeviceMetrics>& devices, qi
     families.push_back(ageFamily(devices, nowBootMs));
     for (const ScalarRow& row : kScalars)
         families.push_back(scalarFamily(row, devices));
-    for (const PhaseRow& row : kPhases)
+    for (const PhaseRow& row : kPhaseRows)
         families.push_back(phaseFamily(row, devices));
     families.push_back(alarmFamily(devices));
     return families;

@@ -107,6 +107,21 @@ constexpr double kKilowatts = 0.001;
 // The detail page doubles the apparent power it reads.
 constexpr double kHalved = 0.5;
 
+// Where the pages disagree; all else has one unit on every page.
+struct PageUnits {
+    double linePower; // scales; the rated powers stay in watts
+    double batteryTemperature;
+    bool hasCurrentSign; // of the battery current; else its magnitude
+};
+
+// By SnapshotPage.
+constexpr PageUnits kPageUnits[] = {
+    {kKilowatts, kTenths, true}, // EnergyFlow
+    {kWhole, kTenths, true},     // Device
+    {kWhole, kWhole, false},     // Chart
+};
+static_assert(std::size(kPageUnits) == static_cast<int>(SnapshotPage::Chart) + 1);
+
 constexpr ScalarRow kScalars[] = {
     {realdata_SecondsOnBat, &UpsReading::secondsOnBattery, kWhole, "s"},
     {realdata_BatVoltage, &UpsReading::batteryVoltage, kTenths, "V"},
@@ -262,7 +277,7 @@ class SnapshotWriter
 public:
     SnapshotWriter(const UpsReading& reading, SnapshotPage page)
         : m_reading(reading)
-        , m_powerScale(page == SnapshotPage::EnergyFlow ? kKilowatts : kWhole)
+        , m_units(kPageUnits[static_cast<int>(page)])
     {}
 
     QMap<int, QVariant> write()
@@ -278,6 +293,9 @@ public:
             m_map.insert(realdata_ConfigAudibleStatus, static_cast<int>(*m_reading.beeper));
         for (const ScalarRow& row : kScalars)
             writeNumber(row.key, m_reading.*row.value, row.scale);
+        writeNumber(realdata_BatTemp, m_reading.batteryTemperature, m_units.batteryTemperature);
+        if (m_reading.batteryCurrent && !m_units.hasCurrentSign)
+            writeNumber(realdata_BatCurrent, std::abs(*m_reading.batteryCurrent), kTenths);
         for (const GroupRow& row : kGroups)
             writeGroup(row);
         for (const LineRow& row : kLines)
@@ -325,14 +343,14 @@ private:
     {
         const LineReading& group = m_reading.*row.group;
         const int lines = shownLines(group);
-        const double scale = row.values == &LineReading::power ? m_powerScale : row.scale;
+        const double scale = row.values == &LineReading::power ? m_units.linePower : row.scale;
         for (int line = 0; line < lines; ++line)
             writeNumber(row.keyA + line * row.stride,
                         (group.*row.values)[static_cast<std::size_t>(line)], scale);
     }
 
     const UpsReading& m_reading;
-    const double m_powerScale; // of the lines' powers; ratings stay in watts
+    const PageUnits& m_units;
     QMap<int, QVariant> m_map;
 };
 
@@ -350,13 +368,6 @@ QMap<int, QVariant> deviceSnapshot(const UpsReading& reading, SnapshotPage page,
     for (const auto& [key, text] : texts)
         if (!text.isEmpty())
             map.insert(key, text);
-
-    if (page == SnapshotPage::Chart) {
-        if (reading.batteryTemperature)
-            map.insert(realdata_BatTemp, nearest(*reading.batteryTemperature));
-        if (reading.batteryCurrent)
-            map.insert(realdata_BatCurrent, nearest(std::abs(*reading.batteryCurrent) * kTenths));
-    }
     return map;
 }
 
@@ -398,8 +409,7 @@ int alarmKey(Alarm alarm)
 
 int shownLines(const LineReading& group)
 {
-    constexpr int threePhase = 3;
-    return group.lines == threePhase ? threePhase : 1;
+    return group.lines == kPhases ? kPhases : 1;
 }
 
 QStringList readingNotes(const UpsReading& reading)

@@ -15,8 +15,9 @@
 
 // A value that the device did not give, or gave as "not known", is empty; it is never 0.
 using Value = std::optional<double>;
+constexpr int kPhases = 3; // of the mains: the most lines that a reading has
 // Lines 1, 2, 3 (A, B, C). A single-phase quantity stands in line 1.
-using PhaseValues = std::array<Value, 3>;
+using PhaseValues = std::array<Value, kPhases>;
 
 // Numbers as the device views read them.
 enum class BatteryState {

@@ -68,9 +68,8 @@ constexpr GroupRow kGroups[] = {
     {&UpsReading::bypass, "input.bypass.", nullptr, QT_TRANSLATE_NOOP("NutReading", "Bypass")},
 };
 
-constexpr int kLines = 3;
-constexpr const char* kLineToNeutral[kLines] = {"L1-N.voltage", "L2-N.voltage", "L3-N.voltage"};
-constexpr const char* kLineToLine[kLines] = {"L1-L2.voltage", "L2-L3.voltage", "L3-L1.voltage"};
+constexpr const char* kLineToNeutral[kPhases] = {"L1-N.voltage", "L2-N.voltage", "L3-N.voltage"};
+constexpr const char* kLineToLine[kPhases] = {"L1-L2.voltage", "L2-L3.voltage", "L3-L1.voltage"};
 // What betrays a line when the device gives no count.
 constexpr const char* kSignsOfLine2[] = {"L2-N.voltage", "L2-L3.voltage",    "L2.current",
                                          "L2.realpower", "L2.power.percent", "L2.power"};
@@ -188,7 +187,7 @@ std::optional<int> lineCount(const GroupVariables& variables)
     if (count && *count >= 0 && *count <= kMostLines && *count == std::floor(*count))
         return static_cast<int>(*count);
     if (group.hasOneOf(kSignsOfLine3) || variables.unit.hasOneOf(kUnitSignsOfLine3))
-        return 3;
+        return kPhases;
     if (group.hasOneOf(kSignsOfLine2) || variables.unit.hasOneOf(kUnitSignsOfLine2))
         return 2;
     return std::nullopt;
@@ -254,7 +253,7 @@ void readGroup(const NutVariables& variables, const GroupRow& row, UpsReading& r
     const QString caption = Tr::tr(row.caption);
 
     lines.lines = lineCount(names);
-    const int count = std::min(std::max(lines.lines.value_or(1), 1), kLines);
+    const int count = std::min(std::max(lines.lines.value_or(1), 1), kPhases);
     QStringList totals;
     if (count == 1) {
         readTotals(names, lines, totals);

@@ -93,7 +93,7 @@ private:
 
     const UpsProfile& m_profile;
     std::mt19937 m_engine;
-    std::array<Line, 3> m_lines;
+    std::array<Line, kPhases> m_lines;
     Drift m_frequency;
     qint64 m_pending = 0; // ms not yet a tick
 

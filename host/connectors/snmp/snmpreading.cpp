@@ -163,7 +163,7 @@ std::optional<int> linesOfRows(const LineReading& lines)
     int last = 0;
     for (const auto member : {&LineReading::voltage, &LineReading::current, &LineReading::frequency,
                               &LineReading::power, &LineReading::load})
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < kPhases; ++i)
             if ((lines.*member)[i])
                 last = std::max(last, i + 1);
     return last > 0 ? std::optional<int>(last) : std::nullopt;
@@ -198,7 +198,7 @@ LineReading linesOf(const SnmpValues& values, const LineGroupRow& group)
                    [&](const SnmpOid& row, const SnmpValue& value) {
                        const quint32 line = row.front();
                        const Value raw = value.plausible();
-                       if (line >= 1 && line <= 3 && raw)
+                       if (line >= 1 && line <= kPhases && raw)
                            phases[line - 1] = physical(*raw, column.unit);
                    });
     }
@@ -209,13 +209,13 @@ LineReading linesOf(const SnmpValues& values, const LineGroupRow& group)
     // Rows beyond the count are no lines of this device.
     const int last = lines.lines.value_or(0);
     for (const ColumnRow& column : group.columns)
-        for (int i = last; i < 3; ++i)
+        for (int i = last; i < kPhases; ++i)
             (lines.*column.member)[i].reset();
 
     if (group.frequencyObject != 0) {
         const Value raw = numberOf(values, UpsMib::scalar(group.group, group.frequencyObject));
         // Without rows there is still one frequency, unless the agent says "no line".
-        const int carriers = lines.lines ? std::min(last, 3) : 1;
+        const int carriers = lines.lines ? std::min(last, kPhases) : 1;
         for (int i = 0; raw && i < carriers; ++i)
             lines.frequency[i] = physical(*raw, Unit::Tenths);
     }
