@@ -1,7 +1,7 @@
 #ifndef DEVVIEW_PAINTERSAVER_H
 #define DEVVIEW_PAINTERSAVER_H
 
-// Leaves a painter as it was found, whichever way a paint step ends. Inside the library only.
+// Leaves a painter as it was found, whichever way a paint step ends.
 // May touch: Qt Gui.
 
 #include <QPainter>

@@ -1,23 +1,21 @@
 #include "window/controlnotice.h"
 
+#include "window/plainlabel.h"
 #include "window/urgencycolors.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 
 ControlNotice::ControlNotice(const Device& device, CommandDesk& desk, QWidget* parent)
     : QFrame(parent)
     , m_device(device)
     , m_desk(desk)
-    , m_text(new QLabel)
+    , m_text(new PlainLabel)
     , m_logIn(new QPushButton(tr("Log in\u2026")))
 {
     setObjectName(QStringLiteral("ControlNotice"));
     setStyleSheet(QStringLiteral("#ControlNotice { background: %1; } QLabel { color: white; }")
                       .arg(urgencyColor(Urgency::Notice).name()));
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
     m_logIn->setObjectName(QStringLiteral("ControlLogin"));
     connect(m_logIn, &QPushButton::clicked, &desk, &CommandDesk::askForLogIn);
     auto* row = new QHBoxLayout(this);

@@ -1,6 +1,7 @@
 #include "window/deviceheading.h"
 
 #include "window/devicesummary.h"
+#include "window/plainlabel.h"
 #include "window/urgencycolors.h"
 
 #include "elidedlabel.h"
@@ -26,7 +27,7 @@ void styleAs(QWidget* widget, const QString& style)
 
 DeviceHeading::DeviceHeading(QWidget* parent)
     : QFrame(parent)
-    , m_alarms(new QLabel)
+    , m_alarms(new PlainLabel)
     , m_notes(new QToolButton)
 {
     setObjectName(QStringLiteral("DeviceHeading"));
@@ -39,8 +40,6 @@ DeviceHeading::DeviceHeading(QWidget* parent)
     m_name = addLine(texts, "HeadingName");
     texts->addLayout(makeStateLine());
     m_alarms->setObjectName(QStringLiteral("HeadingAlarms"));
-    m_alarms->setTextFormat(Qt::PlainText);
-    m_alarms->setWordWrap(true);
     texts->addWidget(m_alarms);
     texts->addLayout(makeAgeLine());
     std::size_t number = 0;

@@ -5,6 +5,8 @@
 #include "window/devicesummary.h"
 #include "window/urgencycolors.h"
 
+#include "paintersaver.h"
+
 #include <QApplication>
 #include <QPainter>
 
@@ -36,7 +38,7 @@ QRect paintSection(QPainter* painter, const QStyleOptionViewItem& option, const 
     line.setHeight(sectionHeight(option));
     QFont bold = option.font;
     bold.setBold(true);
-    painter->save();
+    const PainterSaver saver(painter);
     painter->setFont(bold);
     QColor soft = option.palette.color(QPalette::Text);
     soft.setAlphaF(0.75);
@@ -44,7 +46,6 @@ QRect paintSection(QPainter* painter, const QStyleOptionViewItem& option, const 
     painter->drawText(
         line.adjusted(kMargin, 0, -kMargin, 0), Qt::AlignLeft | Qt::AlignVCenter,
         painter->fontMetrics().elidedText(group, Qt::ElideRight, line.width() - 2 * kMargin));
-    painter->restore();
     return option.rect.adjusted(0, line.height(), 0, 0);
 }
 
@@ -72,7 +73,7 @@ void DeviceRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     const QColor soft = fadedColor(strong, option.palette.color(ground));
     const Condition condition = device->condition();
 
-    painter->save();
+    const PainterSaver saver(painter);
     const QRect marker(room.left(), room.top() + 1, kMarkerWidth, room.height() - 2);
     painter->fillRect(marker, urgencyColor(condition.urgency));
 
@@ -101,7 +102,6 @@ void DeviceRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     const bool fits = metrics.horizontalAdvance(condition.text + age) + kMargin <= line.width();
     writeLine(condition.text, fits ? age : QString(), stateColor);
     writeLine(device->address(), {}, soft);
-    painter->restore();
 }
 
 QSize DeviceRowDelegate::sizeHint(const QStyleOptionViewItem& option,

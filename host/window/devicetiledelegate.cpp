@@ -4,6 +4,8 @@
 #include "window/devicesummary.h"
 #include "window/urgencycolors.h"
 
+#include "paintersaver.h"
+
 #include <QPainter>
 
 namespace {
@@ -85,7 +87,7 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
                     device->condition(),
                     device->link() == LinkState::Live,
                     option.rect.adjusted(gap, gap, -gap, -gap)};
-    painter->save();
+    const PainterSaver saver(painter);
     if (m_form == Form::Compact) {
         drawCompact(tile);
     } else {
@@ -98,7 +100,6 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         drawData(tile, room);
         drawAlarms(tile, room);
     }
-    painter->restore();
 }
 
 void DeviceTileDelegate::drawCompact(const Tile& tile) const

@@ -20,11 +20,9 @@ const char* toneName(DialogMessage::Tone tone)
 } // namespace
 
 DialogMessage::DialogMessage(QWidget* parent)
-    : QLabel(parent)
+    : PlainLabel({}, parent)
 {
     setObjectName(QStringLiteral("DialogMessage"));
-    setTextFormat(Qt::PlainText);
-    setWordWrap(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setMinimumHeight(kRoomForLines * fontMetrics().lineSpacing() + kFrame);
 }

@@ -4,9 +4,9 @@
 // What a dialog has to say: a hint, what is wrong, or how a test ended. Plain text.
 // May touch: Qt Widgets.
 
-#include <QLabel>
+#include "window/plainlabel.h"
 
-class DialogMessage : public QLabel
+class DialogMessage : public PlainLabel
 {
     Q_OBJECT
 

@@ -1,25 +1,22 @@
 #include "window/linkband.h"
 
+#include "window/plainlabel.h"
 #include "window/urgencycolors.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 
 LinkBand::LinkBand(QWidget* parent)
     : QFrame(parent)
-    , m_title(new QLabel)
-    , m_text(new QLabel)
+    , m_title(new PlainLabel)
+    , m_text(new PlainLabel)
 {
     setObjectName(QStringLiteral("LinkBand"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 8, 16, 8);
     column->setSpacing(2);
     m_title->setObjectName(QStringLiteral("LinkBandTitle"));
-    for (QLabel* label : {m_title, m_text}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-        column->addWidget(label);
-    }
+    column->addWidget(m_title);
+    column->addWidget(m_text);
     hide();
 }
 

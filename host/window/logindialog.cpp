@@ -1,8 +1,9 @@
 #include "window/logindialog.h"
 
+#include "window/plainlabel.h"
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -18,7 +19,7 @@ LoginDialog::LoginDialog(OperatorSession& session, bool hasOperators, QWidget* p
     , m_session(session)
     , m_name(new QLineEdit)
     , m_password(new QLineEdit)
-    , m_message(new QLabel)
+    , m_message(new PlainLabel)
     , m_logIn(new QPushButton(tr("Log in")))
 {
     setObjectName(QStringLiteral("LoginDialog"));
@@ -29,8 +30,6 @@ LoginDialog::LoginDialog(OperatorSession& session, bool hasOperators, QWidget* p
     m_name->setMaxLength(kLongestInput);
     m_password->setMaxLength(kLongestInput);
     m_password->setEchoMode(QLineEdit::Password);
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setWordWrap(true);
 
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Name"), m_name);

@@ -3,10 +3,10 @@
 #include "operators/operatoredits.h"
 #include "window/confirmbox.h"
 #include "window/operatordialog.h"
+#include "window/plainlabel.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -26,10 +26,8 @@ OperatorsPage::OperatorsPage(WatchList& list, const HashLimits& limits, QWidget*
     m_table->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_table->header()->setStretchLastSection(false);
     auto* note =
-        new QLabel(tr("While there is no operator, everybody may change the desk and nobody "
-                      "may command a real UPS. Changes here are kept at once."));
-    note->setTextFormat(Qt::PlainText);
-    note->setWordWrap(true);
+        new PlainLabel(tr("While there is no operator, everybody may change the desk and nobody "
+                          "may command a real UPS. Changes here are kept at once."));
     auto* add = new QPushButton(tr("&Add\u2026"));
     add->setObjectName(QStringLiteral("OperatorAdd"));
     m_change->setObjectName(QStringLiteral("OperatorChange"));

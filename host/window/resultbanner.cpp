@@ -1,18 +1,17 @@
 #include "window/resultbanner.h"
 
+#include "window/plainlabel.h"
+
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QStyle>
 #include <QToolButton>
 #include <QVariant>
 
 ResultBanner::ResultBanner(QWidget* parent)
     : QFrame(parent)
-    , m_text(new QLabel)
+    , m_text(new PlainLabel)
 {
     setObjectName(QStringLiteral("ResultBanner"));
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
     auto* close = new QToolButton;
     close->setText(QStringLiteral("\u00d7"));
     close->setAccessibleName(tr("Close"));

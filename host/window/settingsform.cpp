@@ -1,9 +1,10 @@
 #include "window/settingsform.h"
 
+#include "window/plainlabel.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 
@@ -61,10 +62,7 @@ SettingsForm::SettingsForm(const QStringList& sections, const QString& help,
         form->addRow(configLabel(key.label), field);
         m_rows += Row{&key, field, key.get(settings)};
     }
-    auto* note = new QLabel(help);
-    note->setTextFormat(Qt::PlainText);
-    note->setWordWrap(true);
-    form->addRow(note);
+    form->addRow(new PlainLabel(help));
 }
 
 QStringList SettingsForm::readInto(DeskSettings& settings) const
