@@ -1,5 +1,5 @@
 // upsdesk add-operator NAME --level N: asks for the password, writes the configuration.
-// May touch: the operators room and the terminal.
+// May touch: the operators room, where the configuration is, the terminal.
 
 #include "cli/cliparser.h"
 #include "cli/clisupport.h"

@@ -1,6 +1,6 @@
 // upsdesk check ADDRESS: a plug-in for monitoring systems. One line and performance data on the
 // standard output, and a state as exit code, whatever happens.
-// May touch: devices, readings and the configured thresholds.
+// May touch: devices, their connectors, readings and the configured thresholds.
 
 #include "cli/cliparser.h"
 #include "cli/clisupport.h"

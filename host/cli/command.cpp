@@ -1,5 +1,5 @@
 // upsdesk command ADDRESS NAME [VALUE]: one command, asked about first, followed to its result.
-// May touch: devices and the terminal.
+// May touch: devices, their connectors and the terminal.
 
 #include "cli/cliparser.h"
 #include "cli/clisupport.h"

@@ -1,5 +1,5 @@
 // upsdesk picture ADDRESS --out DIR: one PNG per page, with or without a display.
-// May touch: the window room and devices.
+// May touch: the window room, devices and their connectors.
 
 #include "cli/cliparser.h"
 #include "cli/clisupport.h"

@@ -1,5 +1,5 @@
 // upsdesk probe ADDRESS [--json]: one poll, every value by the name of its data key.
-// May touch: devices and readings.
+// May touch: devices, their connectors, readings and the configured thresholds.
 
 #include "cli/cliparser.h"
 #include "cli/clisupport.h"

@@ -2,7 +2,7 @@
 #define STOREDHISTORY_H
 
 // The store of the configuration, opened for a subcommand that reads it.
-// May touch: the configuration, the secret store, the history.
+// May touch: the configuration, addresses, the secret store, the history.
 
 #include "history/historyqueries.h"
 

@@ -2,7 +2,7 @@
 #define HISTORYREADER_H
 
 // Asks the store for the window, in a thread of its own: nobody waits.
-// May touch: the store.
+// May touch: the store, the boot clock.
 //
 //     reader.ask<HistorySeries>(
 //         this, [=](HistoryQueries& store) { return store.series(id, range, 1000, wanted); },

@@ -3,7 +3,7 @@
 
 // One connection to the database of the history. All of it belongs to the thread that opens it,
 // and may block: never used on the GUI thread.
-// May touch: QtSql, the store's address, tiers.
+// May touch: QtSql, the store's address, tiers, readings.
 
 #include "history/storeaddress.h"
 #include "history/tiers.h"

@@ -3,7 +3,7 @@
 
 // Stored rows as text: CSV of RFC 4180 and JSON, for the command line and for files that the
 // window writes.
-// May touch: samples and journal entries.
+// May touch: samples, journal entries, readings.
 
 #include "history/journalentry.h"
 #include "history/sample.h"

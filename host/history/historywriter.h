@@ -3,7 +3,7 @@
 
 // Takes samples and journal entries and sees to it that they get into the store, in a thread of
 // its own: none of its functions waits for the database or the disk, but stop().
-// May touch: the store and the spool.
+// May touch: the store, the spool and the boot clock.
 
 #include "history/historyspool.h"
 #include "history/historystore.h"

@@ -3,7 +3,7 @@
 
 // Listens to the fleet and the desk and writes down what happens: samples of every poll, and in
 // the journal what is so of a device, from its onset to its end.
-// May touch: the fleet, the event log, the history's writer and reader; no widget.
+// May touch: the fleet, the event log, readings, the writer and the reader; no widget.
 
 #include "fleet/eventlog.h"
 #include "fleet/fleet.h"

@@ -3,7 +3,7 @@
 
 // Serves the fleet's metrics to Prometheus at /metrics. Answers in threads of the library, from
 // copies that are made on the fleet's thread: a slow reader holds up no poll.
-// May touch: the fleet, the metrics library.
+// May touch: the fleet, the boot clock, the metrics library.
 
 #include "fleet/fleet.h"
 

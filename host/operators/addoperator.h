@@ -2,7 +2,7 @@
 #define ADDOPERATOR_H
 
 // What `upsdesk add-operator` does.
-// May touch: the configuration file.
+// May touch: the configuration file, password hashes.
 
 #include "private/passwordhash.h"
 

@@ -2,7 +2,7 @@
 #define OPERATORS_H
 
 // Who may log in, and at which level.
-// May touch: Qt Core, libsodium through passwordhash.h. A value: copies may be used in any thread.
+// May touch: accounts, libsodium through passwordhash.h. A value: copies may be used in any thread.
 
 #include "config/operatoraccount.h"
 #include "private/passwordhash.h"

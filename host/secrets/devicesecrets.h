@@ -2,7 +2,7 @@
 #define DEVICESECRETS_H
 
 // Which secrets a device needs, and where they come from.
-// May touch: Qt Core, the secret store, the environment.
+// May touch: device settings, the secret store, the environment.
 
 #include "connectors/devicesettings.h"
 #include "secrets/secretstore.h"

@@ -3,7 +3,7 @@
 
 // The secrets' errands of a list of devices: fetched, kept, renamed, forgotten, taken along to
 // another store.
-// May touch: Qt Core, the secret store, the environment.
+// May touch: Qt Core, the secrets of devices, the secret store.
 
 #include "secrets/devicesecrets.h"
 

@@ -2,7 +2,7 @@
 #define SECRETSTORE_H
 
 // Where passwords and keys of devices are kept.
-// May touch: Qt Core. Never logs what it keeps.
+// May touch: Qt Core, the settings of the desk. Never logs what it keeps.
 
 #include "config/desksettings.h"
 #include "private/secrettext.h"

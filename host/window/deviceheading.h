@@ -3,7 +3,7 @@
 
 // The line above a device's views: condition and since when, what is wrong, battery, load, age of
 // the data. What the device does not report stands behind an (i).
-// May touch: devices.
+// May touch: devices, the library's label.
 
 #include "fleet/device.h"
 

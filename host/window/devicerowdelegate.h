@@ -2,7 +2,7 @@
 #define DEVICEROWDELEGATE_H
 
 // One device in the list: marker, name, state and age, address; above the first of a group, its
-// name. May touch: the device list model.
+// name. May touch: the device list model, the library's painter.
 
 #include <QStyledItemDelegate>
 

@@ -2,7 +2,7 @@
 #define DEVICETILEDELEGATE_H
 
 // One device as a tile that can be read across a room, or as a small one of many.
-// May touch: the device list model.
+// May touch: the device list model, the library's painter.
 
 #include <QStyledItemDelegate>
 

@@ -3,8 +3,8 @@
 
 // The desk: device list at the left, the chosen device or all of them at the right, events below.
 // As a wall display: nothing but the devices, and no commands.
-// May touch: the fleet, the command desk and the views through device pages; connectors by their
-// base class, to test one.
+// May touch: the fleet, the command desk, the views through device pages, operators, settings;
+// connectors by their base class, to test one.
 
 #include "config/desksettings.h"
 #include "fleet/commanddesk.h"

@@ -2,7 +2,7 @@
 #define OPERATORBAR_H
 
 // Who is logged in, and the button that changes it.
-// May touch: the operator session.
+// May touch: the operator session, the library's label.
 
 #include "operators/operatorsession.h"
 

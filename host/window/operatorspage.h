@@ -2,7 +2,7 @@
 #define OPERATORSPAGE_H
 
 // Who may log in at this desk: added, changed and removed one by one, each kept at once.
-// May touch: the watch list's configuration, operators' rules.
+// May touch: the watch list's configuration, operators' rules and hashes.
 
 #include "fleet/watchlist.h"
 #include "private/passwordhash.h"

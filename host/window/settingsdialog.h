@@ -3,7 +3,7 @@
 
 // The settings of the desk, so that nobody has to open an editor: one page per subject, kept in the
 // configuration file when OK is pressed; operators are kept one by one.
-// May touch: the watch list's configuration, Qt Widgets.
+// May touch: the watch list's configuration, the limits of hashes, Qt Widgets.
 
 #include "fleet/watchlist.h"
 #include "private/passwordhash.h"

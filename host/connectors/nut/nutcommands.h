@@ -2,7 +2,7 @@
 #define NUTCOMMANDS_H
 
 // Which instant command of NUT carries out which command of the operator.
-// May touch: Qt Core and commands. Pure functions, no socket.
+// May touch: Qt Core, commands, readings. Pure functions, no socket.
 
 #include "connectors/nut/nutreading.h"
 #include "connectors/upscommand.h"

@@ -2,7 +2,7 @@
 #define NUTDEVICES_H
 
 // Which devices a NUT server has, and which one is meant by an address without a name.
-// May touch: dialogues, the protocol's words. No socket.
+// May touch: dialogues, the protocol's words, readings. No socket.
 
 #include "connectors/nut/nutdialogue.h"
 

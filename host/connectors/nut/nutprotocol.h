@@ -2,7 +2,7 @@
 #define NUTPROTOCOL_H
 
 // The words of the NUT protocol: lines into words, words into lines, refusals into plain text.
-// May touch: Qt Core and link states. Pure functions, no socket.
+// May touch: Qt Core, link states, readings. Pure functions, no socket.
 
 #include "connectors/connector.h"
 

@@ -2,7 +2,7 @@
 #define NUTTRUST_H
 
 // Where a NUT server is, and what makes a link to it trusted.
-// May touch: certificates by Qt Network, device settings. No socket.
+// May touch: certificates by Qt Network, device settings, readings. No socket.
 
 #include "connectors/devicesettings.h"
 #include "connectors/linksecurity.h"

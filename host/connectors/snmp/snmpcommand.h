@@ -2,7 +2,7 @@
 #define SNMPCOMMAND_H
 
 // One command to one agent, from looking whether it has the objects to seeing the result.
-// May touch: values, commands and the UPS-MIB.
+// May touch: values, commands, readings and the UPS-MIB.
 //
 // A setting is sent once; after a silence it is looked at, not sent again. A test counts as done
 // when it has begun: a discharge test runs for hours, and how it ends is told by the alarms of the

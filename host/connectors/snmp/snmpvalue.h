@@ -2,7 +2,7 @@
 #define SNMPVALUE_H
 
 // One object of an SNMP agent as a value of our own, apart from the protocol library.
-// May touch: Qt Core and the standard library.
+// May touch: Qt Core, the standard library, readings.
 
 #include <QByteArray>
 #include <QString>
