@@ -92,7 +92,8 @@ private slots:
             O outcome;
         } rows[] = {
             {"plain", none, T::Preferred, "", "", LinkState::Live, "", O::Refused},
-            {"plain, pinned", none, T::Preferred, "", pin, LinkState::Live, "", O::Refused},
+            {"plain, pinned", none, T::Preferred, "", pin, LinkState::Refused, "no encryption",
+             O::Refused},
             {"plain, off", none, T::Off, "", "", LinkState::Live, "", O::Done},
             {"plain, required", none, T::Required, ca, "", LinkState::Refused, "no encryption",
              O::Refused},
@@ -108,8 +109,8 @@ private slots:
              LinkState::Live, "", O::Done},
             {"pinned, other name", &m_misnamed, T::Preferred, "", otherPin, LinkState::Live, "",
              O::Done},
-            {"another pinned", &m_good, T::Preferred, ca, otherPin, LinkState::Live, "not trusted",
-             O::Refused},
+            {"another pinned", &m_good, T::Preferred, ca, otherPin, LinkState::Refused,
+             "cannot be trusted", O::Refused},
             {"another pinned, required", &m_good, T::Required, ca, otherPin, LinkState::Refused,
              "cannot be trusted", O::Refused},
         };

@@ -194,8 +194,9 @@ void NutLine::takeTlsAnswer(const QByteArray& line)
         m_socket.setSslConfiguration(configuration);
         m_socket.setPeerVerifyName(m_endpoint.host);
         m_socket.startClientEncryption();
-    } else if (m_endpoint.tls == TlsUse::Required) {
-        refuse(tr("%1 offers no encryption, and the configuration requires it (tls = required).")
+    } else if (m_endpoint.isTrustRequired()) {
+        refuse(tr("%1 offers no encryption, and the configuration requires it (tls = required, or "
+                  "a certificate to trust).")
                    .arg(m_endpoint.label()));
     } else if (serversWithTls().contains(m_endpoint.label())) {
         refuse(tr("%1 has offered encryption before and offers none now: somebody may be in "
@@ -214,7 +215,7 @@ void NutLine::encrypted()
                                 m_socket.sslConfiguration().caCertificates().isEmpty();
     if (hasNoAuthority)
         m_security.issue = tr("there is no certificate to be read in %1.").arg(m_endpoint.caFile);
-    if (m_endpoint.tls == TlsUse::Required && !m_security.isTrusted)
+    if (m_endpoint.isTrustRequired() && !m_security.isTrusted)
         refuse(tr("%1 cannot be trusted: %2 Its certificate is %3.")
                    .arg(m_endpoint.label(), m_security.issue, m_security.fingerprint));
     else

@@ -24,6 +24,12 @@ NutEndpoint NutEndpoint::of(const DeviceSettings& settings)
             pinned.isEmpty() ? settings.fingerprint : pinned};
 }
 
+bool NutEndpoint::isTrustRequired() const
+{
+    const bool isNamed = !caFile.isEmpty() || !fingerprint.isEmpty();
+    return tls == TlsUse::Required || (tls == TlsUse::Preferred && isNamed);
+}
+
 QString NutEndpoint::label() const
 {
     return Tr::tr("%1 port %2").arg(host).arg(port);

@@ -18,6 +18,8 @@ struct NutEndpoint {
     QString fingerprint; // "sha256:..." of the one certificate that is trusted; empty: any good one
 
     static NutEndpoint of(const DeviceSettings& settings);
+    // Required, or named: who names a certificate or an authority expects nobody else's answers.
+    bool isTrustRequired() const;
     QString label() const; // "HOST port PORT", for messages
     QString key() const;   // equal for endpoints that may share a connection
 };
