@@ -17,12 +17,11 @@ public:
     explicit TestCertificate(const QString& altName)
     {
         const QString keyPath = m_folder.filePath("key.pem");
-        QProcess::execute("sh", {"-c",
-                                 "exec openssl req -x509 -newkey ec -pkeyopt "
-                                 "ec_paramgen_curve:P-256 -nodes -days 2 -subj '/CN=test server' "
-                                 "-addext \"subjectAltName=$1\" -keyout \"$2\" -out \"$3\" "
-                                 "2>/dev/null",
-                                 "sh", altName, keyPath, path()});
+        const QString command =
+            "exec openssl req -x509 -newkey ec -pkeyopt "
+            "ec_paramgen_curve:P-256 -nodes -days 2 -subj '/CN=test server' "
+            "-addext \"subjectAltName=$1\" -keyout \"$2\" -out \"$3\" 2>/dev/null";
+        QProcess::execute("sh", {"-c", command, "sh", altName, keyPath, path()});
         certificate = QSslCertificate::fromPath(path()).value(0);
         QFile file(keyPath);
         if (file.open(QIODevice::ReadOnly))
