@@ -82,6 +82,10 @@ void TestDataChart::repaintsOnlyWhenTheValueChanges()
     gauge.show();
     QVERIFY(QTest::qWaitForWindowExposed(&gauge));
     QTRY_VERIFY(!gauge.updateTimer->isActive()); // it runs once; no value starts it again
+    QCoreApplication::processEvents();
+    gauge.paints = 0;
+    QMetaObject::invokeMethod(&gauge, "UpdateGraph");
+    QTRY_VERIFY(gauge.paints > 0); // each step shows
     const auto paintsOf = [&](double value) {
         QCoreApplication::processEvents();
         gauge.paints = 0;

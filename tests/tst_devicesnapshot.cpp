@@ -22,6 +22,7 @@ class TestDeviceSnapshot : public QObject
 
 private slots:
     void everyKeyOfItsOwn();
+    void everyUnit();
     void numbers_data();
     void numbers();
     void absentStaysAbsent();
@@ -117,6 +118,29 @@ void TestDeviceSnapshot::everyKeyOfItsOwn()
         texts << map.value(key).toString();
     QCOMPARE(texts.join('|'), QString("model|maker|name|attached|software|agent|location"));
     QCOMPARE(map.value(info_alanum).toInt(), 4);
+}
+
+// The unit by the name of the key; the number is the page's, by one of its scales.
+void TestDeviceSnapshot::everyUnit()
+{
+    const std::pair<const char*, const char*> units[] = {
+        {"Vol", "V"},        {"Current", "A"},   {"Fre", "Hz"},       {"VA", "VA"},
+        {"Power", "W"},      {"OPW", "W"},       {"Load", "%"},       {"Charge", "%"},
+        {"Temp", "\u00b0C"}, {"Minutes", "min"}, {"BattTime", "min"}, {"Seconds", "s"}};
+    const auto page = deviceSnapshot(distinctReading(), SnapshotPage::Device);
+    const auto physical = physicalValues(distinctReading());
+    QCOMPARE(physical.size(), 51);
+    for (auto it = physical.begin(); it != physical.end(); ++it) {
+        const QString name = keyName(it.key());
+        QString unit;
+        for (const auto& [word, of] : units)
+            if (unit.isEmpty() && name.contains(QLatin1String(word)))
+                unit = QString::fromUtf8(of);
+        QCOMPARE(name + ' ' + it->unit, name + ' ' + unit);
+        const double scale = page.value(it.key()).toInt() / it->value;
+        QVERIFY2(qFuzzyCompare(scale, 1) || qFuzzyCompare(scale, 10) || qFuzzyCompare(scale, 0.5),
+                 qPrintable(name));
+    }
 }
 
 void TestDeviceSnapshot::numbers_data()

@@ -296,6 +296,10 @@ void TestWatchList::secretsAreKept()
     QTRY_COMPARE(desk.store->secrets,
                  (Secrets{{"device/B/auth", "authentic"}, {"device/B/priv", "new and private"}}));
 
+    settings.address = *parseDeviceAddress(QString(kSecured) + "&level=authNoPriv").address;
+    QCOMPARE(desk.list->change(desk.list->find("B"), settings), QString());
+    QTRY_COMPARE(desk.store->secrets, (Secrets{{"device/B/auth", "authentic"}})); // all it needs
+
     QCOMPARE(desk.list->remove(desk.list->find("B")), QString());
     QTRY_VERIFY(desk.store->secrets.isEmpty());
 }
