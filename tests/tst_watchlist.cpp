@@ -22,6 +22,7 @@ public:
         QMap<QString, QString> secrets;
         bool broken = false;
         int calls = 0;
+        int delayMs = 0; // until it answers
     };
 
     explicit ScriptedStore(const std::shared_ptr<Content>& content)
@@ -37,7 +38,7 @@ protected:
             results += m_content->broken
                            ? SecretResult{Status::Failed, {}, "the keychain is broken"}
                            : carryOutOne(errand);
-        done(results);
+        QTimer::singleShot(m_content->delayMs, [done, results] { done(results); });
     }
 
 private:
@@ -309,6 +310,7 @@ void TestWatchList::secretsAreWaitedFor()
 {
     for (bool known : {true, false}) {
         Desk desk;
+        desk.store->delayMs = 100; // a poll would be there long before
         if (known)
             desk.store->secrets = {{"device/A/auth", "authentic"}, {"device/A/priv", "privately"}};
         desk.open(devices({"A", "B"}, kSecured));
