@@ -320,21 +320,44 @@ QPointF Energyline::centre()
     return {wid, hei};
 }
 
-void Energyline::drawBase(QPainter* painter)
+namespace {
+
+constexpr qreal kCaptionGap = 3.0; // to a text that is drawn right beside a caption
+
+struct Box {
+    QRectF rect;
+    const char* caption;
+    int captionAlignment;
+    qreal captionWidth;
+    const char* image;
+    QRectF imageRect;
+};
+
+void drawBox(QPainter* painter, const Box& box, QPointF centre)
 {
     constexpr qreal kCaptionHeight = 25.0;
-    constexpr qreal kCaptionGap = 3.0; // to a text that is drawn right beside a caption
-    constexpr int kBoxRoundness = 25;  // per cent
+    constexpr int kRoundness = 25; // per cent
+
+    const QRect rect = wholePixels(box.rect.translated(centre));
+    QLinearGradient gradient(rect.x(), rect.y(), rect.x(), rect.y() + rect.height());
+    gradient.setColorAt(0.0, kBoxTop);
+    gradient.setColorAt(1.0, kBoxBottom);
+    painter->setBrush(gradient);
+    painter->drawRoundedRect(rect, kRoundness, kRoundness, Qt::RelativeSize);
+    const QRectF caption(box.rect.x(), box.rect.y() - kCaptionHeight, box.captionWidth,
+                         kCaptionHeight);
+    drawTextLine(painter, caption.translated(centre), box.captionAlignment,
+                 Energyline::tr(box.caption));
+    painter->drawPixmap(wholePixels(box.imageRect.translated(centre)),
+                        boxImage(box.image, painter->device()->devicePixelRatioF()));
+}
+
+} // namespace
+
+void Energyline::drawBase(QPainter* painter)
+{
     constexpr QSizeF kMainsSize{30.0, 10.0};
     constexpr QSizeF kSymbolSize{70.0, 55.0};
-    struct Box {
-        QRectF rect;
-        const char* caption;
-        int captionAlignment;
-        qreal captionWidth;
-        const char* image;
-        QRectF imageRect;
-    };
     constexpr qreal kWide = kBoxSize.width();
     constexpr qreal kBesideLoad = kLoadText.x() - kLoadBox.x() - kCaptionGap;
     // clang-format off
@@ -355,19 +378,8 @@ void Energyline::drawBase(QPainter* painter)
     drawWiring(painter, c);
     painter->setPen(kCaptionGrey);
     painter->setFont(textFont(13, QFont::Bold));
-    for (const Box& box : kBoxes) {
-        const QRect rect = wholePixels(box.rect.translated(c));
-        QLinearGradient gradient(rect.x(), rect.y(), rect.x(), rect.y() + rect.height());
-        gradient.setColorAt(0.0, kBoxTop);
-        gradient.setColorAt(1.0, kBoxBottom);
-        painter->setBrush(gradient);
-        painter->drawRoundedRect(rect, kBoxRoundness, kBoxRoundness, Qt::RelativeSize);
-        const QRectF caption(box.rect.x(), box.rect.y() - kCaptionHeight, box.captionWidth,
-                             kCaptionHeight);
-        drawTextLine(painter, caption.translated(c), box.captionAlignment, tr(box.caption));
-        painter->drawPixmap(wholePixels(box.imageRect.translated(c)),
-                            boxImage(box.image, painter->device()->devicePixelRatioF()));
-    }
+    for (const Box& box : kBoxes)
+        drawBox(painter, box, c);
     drawTextLine(painter, kBatteryCaption.translated(c).adjusted(0.0, 0.0, -kCaptionGap, 0.0),
                  Qt::AlignJustify, tr("BATTERY"));
 }

@@ -268,44 +268,56 @@ void RateInfoForm::InitRateData()
     }
 }
 
-void RateInfoForm::ShowPanalView(QWidget* panel, QString title, QList<ParameterInformation*> rows,
-                                 QList<QLabel*>& labels)
+namespace {
+
+QLabel* titleOf(const QString& text)
 {
-    auto* titleLabel = new QLabel(title);
-    titleLabel->setObjectName(QStringLiteral("PanelTitle"));
-    titleLabel->setStyleSheet(QString::fromLatin1(kTitleStyle));
+    auto* title = new QLabel(text);
+    title->setObjectName(QStringLiteral("PanelTitle"));
+    title->setStyleSheet(QString::fromLatin1(kTitleStyle));
     QFont font;
     font.setBold(true);
     font.setFamily(QString::fromLatin1(kTitleFamily));
-    titleLabel->setFont(font);
-    titleLabel->setIndent(kTitleIndent);
+    title->setFont(font);
+    title->setIndent(kTitleIndent);
+    return title;
+}
 
+// Returns the label of the value.
+QLabel* addRow(QGridLayout* grid, int row, const ParameterInformation& p)
+{
+    auto* name = new QLabel(p.strName);
+    name->setObjectName(QStringLiteral("PanalBodyKeyName"));
+    name->setTextFormat(Qt::PlainText);
+    auto* value = new ElidedLabel(
+        p.strUnit.isEmpty() ? p.strValue : RateInfoForm::tr("%1 %2").arg(p.strValue, p.strUnit),
+        roomFor(p.formatType));
+    value->setObjectName(QStringLiteral("PanalBodyKeyValue"));
+    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(name, row, NameColumn);
+    grid->addWidget(value, row, ValueColumn);
+    return value;
+}
+
+} // namespace
+
+void RateInfoForm::ShowPanalView(QWidget* panel, QString title, QList<ParameterInformation*> rows,
+                                 QList<QLabel*>& labels)
+{
     auto* body = new QWidget;
     body->setObjectName(QStringLiteral("PanelBody"));
     auto* layout = new QVBoxLayout(panel);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(titleLabel);
+    layout->addWidget(titleOf(title));
     layout->addWidget(body, 1); // all height beyond the title
 
     auto* grid = new QGridLayout(body);
     grid->setAlignment(Qt::AlignTop);
     grid->setColumnStretch(ValueColumn, 1);
     labels.clear();
-    for (int i = 0; i < rows.size(); ++i) {
-        const ParameterInformation& p = *rows.at(i);
-        auto* name = new QLabel(p.strName);
-        name->setObjectName(QStringLiteral("PanalBodyKeyName"));
-        name->setTextFormat(Qt::PlainText);
-        auto* value = new ElidedLabel(p.strUnit.isEmpty() ? p.strValue
-                                                          : tr("%1 %2").arg(p.strValue, p.strUnit),
-                                      roomFor(p.formatType));
-        value->setObjectName(QStringLiteral("PanalBodyKeyValue"));
-        value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(name, i, NameColumn);
-        grid->addWidget(value, i, ValueColumn);
-        labels.append(value);
-    }
+    for (int i = 0; i < rows.size(); ++i)
+        labels.append(addRow(grid, i, *rows.at(i)));
 }
 
 void RateInfoForm::RefreshRateInfo(QMap<int, QVariant> data)

@@ -52,6 +52,17 @@ int confirmedChoice(const QButtonGroup* group, const char* handler)
     return group->checkedId();
 }
 
+// The position of its command.
+template <std::size_t N>
+void setIds(QButtonGroup& group, QRadioButton* const (&buttons)[N])
+{
+    int id = 0;
+    for (QRadioButton* button : buttons) {
+        button->setFont(QFont(QString::fromLatin1(kFontFamily), kChoicePointSize));
+        group.setId(button, id++);
+    }
+}
+
 } // namespace
 
 SetInfoForm::SetInfoForm(QWidget* parent)
@@ -65,20 +76,10 @@ SetInfoForm::SetInfoForm(QWidget* parent)
     QRadioButton* const powers[] = {ui->OffSet_0, ui->OffSet_1, ui->OffSet_2, ui->OffSet_3};
     static_assert(std::size(powers) == std::size(kPowerCommands), "one button per command");
 
-    QFont font(QString::fromLatin1(kFontFamily), kChoicePointSize);
-    int id = 0;
-    for (QRadioButton* button : tests) {
-        button->setFont(font);
-        ui->DevTest_Group->setId(button, id++);
-    }
-    id = 0;
-    for (QRadioButton* button : powers) {
-        button->setFont(font);
-        ui->OffSet_Group->setId(button, id++);
-    }
+    setIds(*ui->DevTest_Group, tests);
+    setIds(*ui->OffSet_Group, powers);
 
-    font.setBold(true);
-    font.setPointSize(kTitlePointSize);
+    const QFont font(QString::fromLatin1(kFontFamily), kTitlePointSize, QFont::Bold);
     for (QLabel* title : {ui->label_device_test, ui->label_onoff_setting}) {
         title->setFont(font);
         title->setObjectName(QStringLiteral("DevBigTitle"));

@@ -13,6 +13,7 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <optional>
 #include <termios.h>
 #include <unistd.h>
 
@@ -50,6 +51,19 @@ bool isSame(const SecretText& a, const SecretText& b)
     return a.toString() == b.toString();
 }
 
+// Twice where it is typed. Empty: the two differ, which has been said.
+std::optional<SecretText> askPassword()
+{
+    const SecretText password =
+        askSecret(QCoreApplication::translate("AddOperator", "Password (at least %1 characters): ")
+                      .arg(kMinPasswordLength));
+    if (!isatty(STDIN_FILENO) ||
+        isSame(password, askSecret(QCoreApplication::translate("AddOperator", "Once more: "))))
+        return password;
+    printError(QCoreApplication::translate("AddOperator", "the two passwords differ"));
+    return {};
+}
+
 } // namespace
 
 int runAddOperator(const QStringList& arguments)
@@ -69,17 +83,12 @@ int runAddOperator(const QStringList& arguments)
         return ExitUsage;
     }
 
-    const SecretText password =
-        askSecret(QCoreApplication::translate("AddOperator", "Password (at least %1 characters): ")
-                      .arg(kMinPasswordLength));
-    if (isatty(STDIN_FILENO) &&
-        !isSame(password, askSecret(QCoreApplication::translate("AddOperator", "Once more: ")))) {
-        printError(QCoreApplication::translate("AddOperator", "the two passwords differ"));
+    const std::optional<SecretText> password = askPassword();
+    if (!password)
         return ExitUsage;
-    }
     const QString path = DeskConfig::defaultPath();
     const QString name = parser.positionalArguments().first();
-    const QString refusal = addOperator(path, name, level, password);
+    const QString refusal = addOperator(path, name, level, *password);
     if (!refusal.isEmpty()) {
         printError(refusal);
         return ExitRefused;

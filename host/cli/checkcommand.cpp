@@ -192,6 +192,29 @@ QString performanceOf(const Quantity& quantity, double value, const GivenLimits&
     return data;
 }
 
+// Of a live reading: what is beyond its limit, and all numbers for the graphs.
+QStringList judgeAll(const UpsReading& reading, const GivenLimits& limits,
+                     const Thresholds& thresholds, State& state, QStringList& texts)
+{
+    QStringList performance;
+    for (const Quantity& quantity : kQuantities) {
+        const QString name = QLatin1String(quantity.name);
+        if (const Value value = quantity.valueOf(reading)) {
+            judge(quantity, *value, limits, state, texts);
+            performance << performanceOf(quantity, *value, limits, thresholds);
+        } else if (limits.warning.contains(name) || limits.critical.contains(name)) {
+            state = std::max(state, State::Unknown);
+            texts << Tr::tr("%1 is not reported").arg(name);
+        }
+    }
+    for (const Figure& figure : kFigures)
+        if (const Value value = figure.valueOf(reading))
+            performance << QStringLiteral("'%1'=%2%3")
+                               .arg(QLatin1String(figure.label), numberText(*value),
+                                    QLatin1String(figure.unit));
+    return performance;
+}
+
 int report(const Device& device, const GivenLimits& limits, const Thresholds& thresholds)
 {
     State state = stateOf(device);
@@ -199,29 +222,20 @@ int report(const Device& device, const GivenLimits& limits, const Thresholds& th
     if (!device.message().isEmpty())
         texts << device.message();
     QStringList performance;
-    if (device.link() == LinkState::Live) {
-        const UpsReading& reading = *device.reading();
-        for (const Quantity& quantity : kQuantities) {
-            const Value value = quantity.valueOf(reading);
-            if (!value) {
-                const QString name = QLatin1String(quantity.name);
-                if (limits.warning.contains(name) || limits.critical.contains(name)) {
-                    state = std::max(state, State::Unknown);
-                    texts << Tr::tr("%1 is not reported").arg(name);
-                }
-                continue;
-            }
-            judge(quantity, *value, limits, state, texts);
-            performance << performanceOf(quantity, *value, limits, thresholds);
-        }
-        for (const Figure& figure : kFigures)
-            if (const Value value = figure.valueOf(reading))
-                performance << QStringLiteral("'%1'=%2%3")
-                                   .arg(QLatin1String(figure.label), numberText(*value),
-                                        QLatin1String(figure.unit));
-    }
+    if (device.link() == LinkState::Live)
+        performance = judgeAll(*device.reading(), limits, thresholds, state, texts);
     return finish(state, device.name() + QStringLiteral(": ") + texts.join(QStringLiteral(", ")),
                   performance.join(QLatin1Char(' ')));
+}
+
+// Those that the command line does not replace.
+Thresholds withoutGiven(Thresholds thresholds, const GivenLimits& limits)
+{
+    for (const Quantity& quantity : kQuantities)
+        if (const QString name = QLatin1String(quantity.name);
+            limits.warning.contains(name) || limits.critical.contains(name))
+            quantity.takeOut(thresholds);
+    return thresholds;
 }
 
 } // namespace
@@ -246,13 +260,8 @@ int runCheck(const QStringList& arguments)
         return finish(State::Unknown, chosen.error);
 
     const Thresholds configured = DeskConfig::load().settings().thresholds;
-    Thresholds remaining = configured;
-    for (const Quantity& quantity : kQuantities)
-        if (const QString name = QLatin1String(quantity.name);
-            limits.warning.contains(name) || limits.critical.contains(name))
-            quantity.takeOut(remaining);
     Device device(*chosen.settings, makeConnector(*chosen.settings), FleetClock::system(), 0);
-    device.setThresholds(remaining);
+    device.setThresholds(withoutGiven(configured, limits));
     pollOnce(device);
     return report(device, limits, configured);
 }

@@ -51,20 +51,15 @@ ParsedAddress parseNut(const QUrl& url, DeviceAddress address)
     return {address, {}};
 }
 
-ParsedAddress parseSnmp(const QUrl& url, DeviceAddress address)
+// What is wrong in the options; empty: they are read.
+QString readSnmpOptions(const QUrlQuery& query, DeviceAddress& address)
 {
-    if (!url.password().isEmpty())
-        return failure(Tr::tr("SNMP secrets belong in the configuration, not in the address"));
-    address.scheme = DeviceAddress::Scheme::Snmp;
-    address.port = static_cast<quint16>(url.port(DeviceAddress::kSnmpPort));
-
-    const QUrlQuery query(url);
     const QStringList known{"version", "level", "auth", "priv", "context"};
     const auto items = query.queryItems();
     for (const auto& item : items)
         if (!known.contains(item.first))
-            return failure(Tr::tr("unknown option \"%1\"; known are %2")
-                               .arg(item.first.left(40), known.join(QStringLiteral(", "))));
+            return Tr::tr("unknown option \"%1\"; known are %2")
+                .arg(item.first.left(40), known.join(QStringLiteral(", ")));
 
     QString version = QStringLiteral("2c");
     QString error;
@@ -73,9 +68,26 @@ ParsedAddress parseSnmp(const QUrl& url, DeviceAddress address)
                     error) ||
         !readChoice(query, "auth", DeviceAddress::authProtocols(), address.authProtocol, error) ||
         !readChoice(query, "priv", DeviceAddress::privProtocols(), address.privProtocol, error))
-        return failure(error);
+        return error;
     address.snmpVersion = version.left(1).toInt();
     address.context = query.queryItemValue(QStringLiteral("context"), QUrl::FullyDecoded);
+    return {};
+}
+
+void setUnlessGiven(QString& text, const char* usual)
+{
+    if (text.isEmpty())
+        text = QLatin1String(usual);
+}
+
+ParsedAddress parseSnmp(const QUrl& url, DeviceAddress address)
+{
+    if (!url.password().isEmpty())
+        return failure(Tr::tr("SNMP secrets belong in the configuration, not in the address"));
+    address.scheme = DeviceAddress::Scheme::Snmp;
+    address.port = static_cast<quint16>(url.port(DeviceAddress::kSnmpPort));
+    if (const QString wrong = readSnmpOptions(QUrlQuery(url), address); !wrong.isEmpty())
+        return failure(wrong);
 
     const QString name = url.userName(QUrl::FullyDecoded);
     if (address.snmpVersion < 3) {
@@ -85,12 +97,9 @@ ParsedAddress parseSnmp(const QUrl& url, DeviceAddress address)
     if (name.isEmpty())
         return failure(Tr::tr("SNMPv3 needs a user: snmp://USER@HOST?version=3"));
     address.user = name;
-    if (address.securityLevel.isEmpty())
-        address.securityLevel = QStringLiteral("authPriv");
-    if (address.authProtocol.isEmpty())
-        address.authProtocol = QStringLiteral("SHA");
-    if (address.privProtocol.isEmpty())
-        address.privProtocol = QStringLiteral("AES");
+    setUnlessGiven(address.securityLevel, "authPriv");
+    setUnlessGiven(address.authProtocol, "SHA");
+    setUnlessGiven(address.privProtocol, "AES");
     return {address, {}};
 }
 

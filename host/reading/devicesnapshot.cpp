@@ -282,38 +282,53 @@ public:
 
     QMap<int, QVariant> write()
     {
+        writeStates();
+        writeNumbers();
+        for (const GroupRow& row : kGroups)
+            writeGroup(row);
+        for (const LineRow& row : kLines)
+            writeLines(row);
+        writeAlarms();
+        for (const TextRow& row : kTexts)
+            if (!(m_reading.*row.text).isEmpty())
+                m_map.insert(row.key, m_reading.*row.text);
+        return m_map;
+    }
+
+private:
+    void writeStates()
+    {
         m_map.insert(realdata_BatteryStatus, static_cast<int>(m_reading.batteryState));
         m_map.insert(realdata_OutputSource, static_cast<int>(m_reading.outputSource));
+        if (m_reading.beeper)
+            m_map.insert(realdata_ConfigAudibleStatus, static_cast<int>(*m_reading.beeper));
+    }
+
+    void writeNumbers()
+    {
         writeMinutes(realdata_MinutesRemaining, m_reading.runtime);
         writeMinutes(realdata_ConfigLowBattTime, m_reading.lowBatteryTime);
         if (m_reading.charge)
             m_map.insert(realdata_ChargeRemaining,
                          std::clamp(nearest(*m_reading.charge), 0, kFullCharge));
-        if (m_reading.beeper)
-            m_map.insert(realdata_ConfigAudibleStatus, static_cast<int>(*m_reading.beeper));
         for (const ScalarRow& row : kScalars)
             writeNumber(row.key, m_reading.*row.value, row.scale);
         writeNumber(realdata_BatTemp, m_reading.batteryTemperature, m_units.batteryTemperature);
         if (m_reading.batteryCurrent && !m_units.hasCurrentSign)
             writeNumber(realdata_BatCurrent, std::abs(*m_reading.batteryCurrent), kTenths);
-        for (const GroupRow& row : kGroups)
-            writeGroup(row);
-        for (const LineRow& row : kLines)
-            writeLines(row);
+    }
+
+    void writeAlarms()
+    {
         for (const AlarmRow& row : kAlarms)
             if (row.key != kNoKey)
                 m_map.insert(row.key, m_reading.alarms.contains(row.alarm) ? 1 : 0);
         for (int key : kSilentAlarmKeys)
             m_map.insert(key, 0);
-        for (const TextRow& row : kTexts)
-            if (!(m_reading.*row.text).isEmpty())
-                m_map.insert(row.key, m_reading.*row.text);
         if (m_reading.alarmCount)
             m_map.insert(info_alanum, *m_reading.alarmCount);
-        return m_map;
     }
 
-private:
     void writeNumber(int key, const Value& value, double scale)
     {
         if (!value)

@@ -36,26 +36,30 @@ void setUnlessSet(const char* variable, int seconds, const NutVariables& writabl
     plan.before << NutSetting{variable, QByteArray::number(seconds)};
 }
 
+// The first of the row's names that is offered, unless there is a command already.
+bool chooseCommand(const CommandRow& row, const QList<QByteArray>& offered, NutCommandPlan& plan)
+{
+    for (const char* name : row.names) {
+        if (!name || !plan.command.isEmpty())
+            return false;
+        plan.lookedFor << name;
+        if (offered.contains(name)) {
+            plan.command = name;
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 NutCommandPlan planNutCommand(const UpsCommand& command, const QList<QByteArray>& offered,
                               const NutVariables& writable)
 {
     NutCommandPlan plan;
-    for (const CommandRow& row : kCommands) {
-        if (row.kind != command.kind)
-            continue;
-        for (const char* name : row.names) {
-            if (!name || !plan.command.isEmpty())
-                continue;
-            plan.lookedFor << name;
-            if (!offered.contains(name))
-                continue;
-            plan.command = name;
-            if (row.hasDelay)
-                setUnlessSet(kShutdownDelay, command.shutdownDelay, writable, plan);
-        }
-    }
+    for (const CommandRow& row : kCommands)
+        if (row.kind == command.kind && chooseCommand(row, offered, plan) && row.hasDelay)
+            setUnlessSet(kShutdownDelay, command.shutdownDelay, writable, plan);
     if (command.kind == CommandKind::Standby && !plan.command.isEmpty()) {
         setUnlessSet(kStartDelay, kSecondsPerMinute * command.standbyMinutes, writable, plan);
         plan.startDelayIsFixed = !writable.contains(kStartDelay);

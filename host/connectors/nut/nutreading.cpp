@@ -242,49 +242,77 @@ void readTotals(const GroupVariables& variables, LineReading& reading, QStringLi
     }
 }
 
+// With one line the total is the line.
+void readOneLine(const GroupVariables& names, LineReading& lines)
+{
+    QStringList totals;
+    readTotals(names, lines, totals);
+    LineReading named;
+    readLines(names, 1, named);
+    for (PhaseValues LineReading::*quantity :
+         {&LineReading::voltage, &LineReading::current, &LineReading::power, &LineReading::load})
+        if (isEmpty(lines.*quantity))
+            lines.*quantity = named.*quantity;
+    lines.frequency = named.frequency;
+    const Value total = firstOf(names.unit.number("power"), names.own.number("power"));
+    lines.apparentPower[0] = firstOf(total, named.apparentPower[0]);
+}
+
+void readSeveralLines(const GroupVariables& names, int count, const QString& caption,
+                      LineReading& lines, QStringList& notes)
+{
+    readLines(names, count, lines);
+    if (isEmpty(lines.voltage)) {
+        for (int i = 0; i < count; ++i)
+            lines.voltage[i] = names.own.number(kLineToLine[i]);
+        if (!isEmpty(lines.voltage))
+            notes << Tr::tr("%1 voltages are line to line.").arg(caption);
+    }
+    QStringList totals;
+    readTotals(names, lines, totals);
+    if (!totals.isEmpty())
+        notes << Tr::tr("%1: one value for all lines (%2), shown in the first.")
+                     .arg(caption, totals.join(QStringLiteral(", ")));
+}
+
 void readGroup(const NutVariables& variables, const GroupRow& row, UpsReading& reading)
 {
     static const NutVariables none;
     const GroupVariables names{Variables(variables, row.prefix),
                                row.unitPrefix ? Variables(variables, row.unitPrefix)
                                               : Variables(none, "")};
-    const Variables& group = names.own;
     LineReading& lines = reading.*row.target;
-    const QString caption = Tr::tr(row.caption);
-
     lines.lines = lineCount(names);
     const int count = std::min(std::max(lines.lines.value_or(1), 1), kPhases);
-    QStringList totals;
-    if (count == 1) {
-        readTotals(names, lines, totals);
-        totals.clear(); // with one line the total is the line
-        LineReading named;
-        readLines(names, 1, named);
-        for (PhaseValues LineReading::*quantity : {&LineReading::voltage, &LineReading::current,
-                                                   &LineReading::power, &LineReading::load})
-            if (isEmpty(lines.*quantity))
-                lines.*quantity = named.*quantity;
-        lines.frequency = named.frequency;
-        const Value total = firstOf(names.unit.number("power"), names.own.number("power"));
-        lines.apparentPower[0] = firstOf(total, named.apparentPower[0]);
-    } else {
-        readLines(names, count, lines);
-        if (isEmpty(lines.voltage)) {
-            for (int i = 0; i < count; ++i)
-                lines.voltage[i] = group.number(kLineToLine[i]);
-            if (!isEmpty(lines.voltage))
-                reading.notes << Tr::tr("%1 voltages are line to line.").arg(caption);
-        }
-        readTotals(names, lines, totals);
-    }
-    const Value frequency = group.number("frequency");
+    if (count == 1)
+        readOneLine(names, lines);
+    else
+        readSeveralLines(names, count, Tr::tr(row.caption), lines, reading.notes);
+    const Value frequency = names.own.number("frequency");
     for (int i = 0; i < count; ++i)
         if (!lines.frequency[i])
             lines.frequency[i] = frequency;
+}
 
-    if (!totals.isEmpty())
-        reading.notes << Tr::tr("%1: one value for all lines (%2), shown in the first.")
-                             .arg(caption, totals.join(QStringLiteral(", ")));
+void readPowerPath(const Tokens& tokens, const QByteArray& charger, UpsReading& reading)
+{
+    reading.saysMains = tokens.contains("OL");
+    for (const SourceRow& row : kSources) {
+        if (hasAny(tokens, row.tokens)) {
+            reading.outputSource = row.source;
+            break;
+        }
+    }
+    for (const BatteryRow& row : kBattery) {
+        if (hasAny(tokens, row.tokens) || (row.charger && charger == row.charger)) {
+            reading.batteryState = row.state;
+            break;
+        }
+    }
+    if (tokens.contains("OB") && reading.charge && *reading.charge <= 0) {
+        reading.batteryState = BatteryState::Depleted;
+        reading.notes << Tr::tr("Battery depleted: derived from a charge of 0 %.");
+    }
 }
 
 void readStatus(const NutVariables& variables, UpsReading& reading)
@@ -305,25 +333,7 @@ void readStatus(const NutVariables& variables, UpsReading& reading)
                               : Tr::tr("The UPS does not say where its power comes from."));
         return;
     }
-    reading.saysMains = tokens.contains("OL");
-    for (const SourceRow& row : kSources) {
-        if (hasAny(tokens, row.tokens)) {
-            reading.outputSource = row.source;
-            break;
-        }
-    }
-
-    const QByteArray charger = variables.value("battery.charger.status").trimmed();
-    for (const BatteryRow& row : kBattery) {
-        if (hasAny(tokens, row.tokens) || (row.charger && charger == row.charger)) {
-            reading.batteryState = row.state;
-            break;
-        }
-    }
-    if (tokens.contains("OB") && reading.charge && *reading.charge <= 0) {
-        reading.batteryState = BatteryState::Depleted;
-        reading.notes << Tr::tr("Battery depleted: derived from a charge of 0 %.");
-    }
+    readPowerPath(tokens, variables.value("battery.charger.status").trimmed(), reading);
 }
 
 bool isGood(const QByteArray& status)

@@ -36,13 +36,25 @@ NutFailure failureOf(const PollResult& result)
     return {result.state, {}, result.message};
 }
 
+PollResult lostPoll(const NutFailure& failure)
+{
+    PollResult result;
+    result.state = failure.state;
+    result.message = failure.message;
+    return result;
+}
+
 } // namespace
 
 // A poll or a list of devices, waiting for the line or on it.
 struct NutServer::Job {
+    Job(const DeviceSettings& settings, qint64 postedMs)
+        : limit(limitOf(settings))
+        , postedMs(postedMs)
+    {}
     std::unique_ptr<NutDialogue> dialogue;
     std::chrono::milliseconds limit;
-    qint64 postedMs = 0;
+    qint64 postedMs;
     std::function<NutFailure()> failure;                 // of the dialogue, when it has ended
     std::function<void(const NutFailure& instead)> tell; // instead: of a job that never ran
 };
@@ -93,18 +105,11 @@ quint64 NutServer::poll(const DeviceSettings& settings)
     QMetaObject::invokeMethod(this, [this, ticket, posted, settings] {
         auto dialogue = std::make_unique<NutPoll>(m_endpoint.label(), settings.address.ups);
         NutPoll* poll = dialogue.get();
-        auto job = std::make_unique<Job>();
+        auto job = std::make_unique<Job>(settings, posted);
         job->dialogue = std::move(dialogue);
-        job->limit = limitOf(settings);
-        job->postedMs = posted;
         job->failure = [poll] { return failureOf(poll->result()); };
         job->tell = [this, ticket, poll](const NutFailure& instead) {
-            PollResult result = poll->result();
-            if (instead) {
-                result.state = instead.state;
-                result.message = instead.message;
-            }
-            emit polled(ticket, result);
+            emit polled(ticket, instead ? lostPoll(instead) : poll->result());
         };
         enqueue(std::move(job));
     });
@@ -118,10 +123,8 @@ quint64 NutServer::list(const DeviceSettings& settings)
     QMetaObject::invokeMethod(this, [this, ticket, posted, settings] {
         auto dialogue = std::make_unique<NutDevices>(m_endpoint.label());
         NutDevices* devices = dialogue.get();
-        auto job = std::make_unique<Job>();
+        auto job = std::make_unique<Job>(settings, posted);
         job->dialogue = std::move(dialogue);
-        job->limit = limitOf(settings);
-        job->postedMs = posted;
         job->failure = [devices] { return devices->failure(); };
         job->tell = [this, ticket, devices](const NutFailure& instead) {
             const NutFailure failure = instead ? instead : devices->failure();
