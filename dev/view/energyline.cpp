@@ -384,12 +384,27 @@ void Energyline::drawBase(QPainter* painter)
                  Qt::AlignJustify, tr("BATTERY"));
 }
 
+namespace {
+
+void drawCap(QPainter* painter, const QRectF& battery, qreal radius)
+{
+    constexpr qreal kHeight = 10.0;
+    const qreal third = battery.width() / 3.0;
+    const QRectF cap(QPointF(battery.left() + third, battery.top() - kHeight),
+                     QPointF(battery.right() - third, battery.top()));
+    QLinearGradient gradient(cap.topLeft(), cap.bottomLeft());
+    gradient.setColorAt(0.0, Qt::darkGray);
+    gradient.setColorAt(1.0, Qt::gray);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(gradient);
+    painter->drawRoundedRect(cap, radius, radius);
+}
+
+} // namespace
+
 void Energyline::drawBattery(QPainter* painter)
 {
     constexpr qreal kOutlineWidth = 5.0;
-    constexpr qreal kCapHeight = 10.0;
-    const QColor borderStart = Qt::darkGray;
-    const QColor borderEnd = Qt::gray;
 
     const PainterSaver saver(painter);
     borderRadius = 8;
@@ -398,21 +413,13 @@ void Energyline::drawBattery(QPainter* painter)
     batteryRect = kBatteryBody.translated(centre());
 
     painter->setPen(
-        QPen(QBrush(borderStart), kOutlineWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        QPen(QBrush(Qt::darkGray), kOutlineWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     painter->setBrush(Qt::NoBrush);
     painter->drawRoundedRect(batteryRect, borderRadius, borderRadius);
 
     drawBatteryFill(painter);
 
-    const qreal third = batteryRect.width() / 3.0;
-    const QRectF cap(QPointF(batteryRect.left() + third, batteryRect.top() - kCapHeight),
-                     QPointF(batteryRect.right() - third, batteryRect.top()));
-    QLinearGradient capGradient(cap.topLeft(), cap.bottomLeft());
-    capGradient.setColorAt(0.0, borderStart);
-    capGradient.setColorAt(1.0, borderEnd);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(capGradient);
-    painter->drawRoundedRect(cap, headRadius, headRadius);
+    drawCap(painter, batteryRect, headRadius);
 }
 
 void Energyline::drawBatteryFill(QPainter* painter)
@@ -563,25 +570,34 @@ void Energyline::tellValues()
     setAccessibleName(told.join(QLatin1String("; ")));
 }
 
+namespace {
+
+// Around the title and so many lines below it.
+void drawFrame(QPainter* painter, const QRectF& titleLine, int lines)
+{
+    constexpr qreal kMargin = 10.0; // left and right of the lines
+    constexpr qreal kFoot = 4.0;    // below the last line
+    constexpr int kRoundness = 5;   // per cent
+
+    QRectF frame = titleLine.adjusted(-kMargin, 0.0, kMargin, 0.0);
+    frame.setHeight((1 + lines) * titleLine.height() + kFoot);
+    painter->setPen(Qt::white);
+    painter->drawRoundedRect(wholePixels(frame), kRoundness, kRoundness, Qt::RelativeSize);
+}
+
+} // namespace
+
 void Energyline::drawPanel(QPainter* painter, const Panel& panel)
 {
     constexpr QSizeF kLineSize{230.0, 25.0};
-    constexpr qreal kFrameMargin = 10.0; // left and right of the lines
-    constexpr qreal kFrameFoot = 4.0;    // below the last line
-    constexpr int kFrameRoundness = 5;   // per cent
-    constexpr qreal kLabelGap = 6.0;     // least distance from a label to its value
+    constexpr qreal kLabelGap = 6.0; // least distance from a label to its value
 
     const QRectF titleLine(centre() + panel.origin, kLineSize);
     const auto lineAt = [titleLine](int i) {
         return titleLine.translated(0.0, (i + 1) * titleLine.height());
     };
 
-    QRectF frame = titleLine.adjusted(-kFrameMargin, 0.0, kFrameMargin, 0.0);
-    frame.setHeight((1 + panel.count) * kLineSize.height() + kFrameFoot);
-    painter->setPen(Qt::white);
-    painter->drawRoundedRect(wholePixels(frame), kFrameRoundness, kFrameRoundness,
-                             Qt::RelativeSize);
-
+    drawFrame(painter, titleLine, panel.count);
     painter->setPen(kLabelGrey);
     drawTextLine(painter, titleLine, Qt::AlignCenter, tr(panel.title));
     for (int i = 0; i < panel.count; ++i)

@@ -238,10 +238,24 @@ ParameterInformation* RateInfoForm::addDataDesc(QList<ParameterInformation*>& li
     return p;
 }
 
-void RateInfoForm::InitRateData()
+void RateInfoForm::fillCatalogue(const Panel& panel)
 {
     const auto text = [](const char* source) { return source ? tr(source) : QString(); };
+    for (const Row& row : kCatalogue) {
+        if (row.group != panel.group)
+            continue;
+        ParameterInformation* p = addDataDesc(this->*panel.rows, text(row.label),
+                                              text(row.placeholder), text(row.unit), row.factor);
+        p->setFormat(row.key, row.format, row.min, row.max);
+        QStringList comboTexts;
+        for (const char* const* combo = row.comboTexts; combo && *combo; ++combo)
+            comboTexts << text(*combo);
+        p->addCombo(comboTexts);
+    }
+}
 
+void RateInfoForm::InitRateData()
+{
     setObjectName(QStringLiteral("realDataTable"));
     auto* page = new QGridLayout(this);
     page->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, 0);
@@ -249,20 +263,9 @@ void RateInfoForm::InitRateData()
     page->setRowStretch(kRowBelowPanels, 1);
 
     for (const Panel& panel : kPanels) {
-        for (const Row& row : kCatalogue) {
-            if (row.group != panel.group)
-                continue;
-            ParameterInformation* p =
-                addDataDesc(this->*panel.rows, text(row.label), text(row.placeholder),
-                            text(row.unit), row.factor);
-            p->setFormat(row.key, row.format, row.min, row.max);
-            QStringList comboTexts;
-            for (const char* const* combo = row.comboTexts; combo && *combo; ++combo)
-                comboTexts << text(*combo);
-            p->addCombo(comboTexts);
-        }
+        fillCatalogue(panel);
         auto* widget = new QWidget;
-        ShowPanalView(widget, text(panel.title), this->*panel.rows, this->*panel.labels);
+        ShowPanalView(widget, tr(panel.title), this->*panel.rows, this->*panel.labels);
         page->addWidget(widget, panel.row, panel.column);
         page->setColumnStretch(panel.column, 1);
     }

@@ -88,6 +88,7 @@ protected:
 private:
     struct Panel;
     static const Panel kPanels[];
+    void fillCatalogue(const Panel& panel);
 
     QVariant rawAt(int key, int offset) const;
     int scaledInt(const ParameterInformation& p, int offset = 0) const;

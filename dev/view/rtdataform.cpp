@@ -154,16 +154,8 @@ QString textOfCode(const QVector<QString>& texts, int code, int otherwise)
     return texts.at(known ? code - 1 : otherwise);
 }
 
-} // namespace
-
-RTDataForm::RTDataForm(QWidget* parent)
-    : QWidget(parent)
-    , ui(new Ui_RTDataForm)
-    , isSinglePhase(true)
+void setupTable(QTableWidget* table)
 {
-    ui->setupUi(this);
-
-    QTableWidget* table = ui->tableWidget;
     table->setColumnCount(ColumnCount);
     table->setRowCount(kRowCount);
     table->setColumnWidth(GroupColumn, kColumnWidths[GroupColumn]);
@@ -175,7 +167,18 @@ RTDataForm::RTDataForm(QWidget* parent)
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setTabKeyNavigation(false); // Tab leads on, out of the table
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setAccessibleName(ui->label_10->text());
+}
+
+} // namespace
+
+RTDataForm::RTDataForm(QWidget* parent)
+    : QWidget(parent)
+    , ui(new Ui_RTDataForm)
+    , isSinglePhase(true)
+{
+    ui->setupUi(this);
+    setupTable(ui->tableWidget);
+    ui->tableWidget->setAccessibleName(ui->label_10->text());
 
     for (const char* text : kBatteryStates)
         bat_fault.append(tr(text));

@@ -174,34 +174,44 @@ void RTEventForm::setCurrentName(QString name)
     currentName = name;
 }
 
+namespace {
+
+QTableWidget* makeTable(QWidget* parent)
+{
+    auto* table = new QTableWidget(parent);
+    table->setObjectName(QStringLiteral("basicTable"));
+    table->setFont(QFont(QStringLiteral("Microsoft YaHei"), kTablePointSize));
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setFocusPolicy(Qt::NoFocus);
+    table->setShowGrid(false);
+    table->verticalHeader()->setVisible(false);
+    // Rows grow: a text wider than its column wraps instead of losing its end.
+    QHeaderView* rows = table->verticalHeader();
+    rows->setMinimumSectionSize(rows->defaultSectionSize());
+    rows->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->setColumnCount(ColumnCount);
+    table->setHorizontalHeaderLabels(
+        {RTEventForm::tr("Data/Time"), RTEventForm::tr("Event description")});
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setAlternatingRowColors(true);
+    table->setStyleSheet(
+        QStringLiteral("alternate-background-color: #DDDFF5; background: #FFFFFF;"));
+    table->setMinimumHeight(kTableMinimumHeight);
+    return table;
+}
+
+} // namespace
+
 void RTEventForm::initTable()
 {
     ui->widget->setObjectName(QStringLiteral("AlarmTable"));
     auto* layout = new QVBoxLayout(ui->widget);
     layout->setAlignment(Qt::AlignTop);
 
-    table_alarm_record = new QTableWidget(this);
-    table_alarm_record->setObjectName(QStringLiteral("basicTable"));
-    table_alarm_record->setFont(QFont(QStringLiteral("Microsoft YaHei"), kTablePointSize));
-    table_alarm_record->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table_alarm_record->setFocusPolicy(Qt::NoFocus);
-    table_alarm_record->setShowGrid(false);
-    table_alarm_record->verticalHeader()->setVisible(false);
-    // Rows grow: a text wider than its column wraps instead of losing its end.
-    QHeaderView* rows = table_alarm_record->verticalHeader();
-    rows->setMinimumSectionSize(rows->defaultSectionSize());
-    rows->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table_alarm_record->setColumnCount(ColumnCount);
-    table_alarm_record->setHorizontalHeaderLabels({tr("Data/Time"), tr("Event description")});
-    table_alarm_record->horizontalHeader()->setHighlightSections(false);
-    table_alarm_record->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    table_alarm_record->setSelectionMode(QAbstractItemView::SingleSelection);
-    table_alarm_record->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_alarm_record->setAlternatingRowColors(true);
-    table_alarm_record->setStyleSheet(
-        QStringLiteral("alternate-background-color: #DDDFF5; background: #FFFFFF;"));
-    table_alarm_record->setMinimumHeight(kTableMinimumHeight);
-
+    table_alarm_record = makeTable(this);
     layout->addWidget(table_alarm_record);
     layout->addStretch(0);
 }

@@ -11,6 +11,19 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+namespace {
+
+void printFault(const QString& path, const ConfigFault& fault)
+{
+    const bool isError = fault.severity == ConfigSeverity::Error;
+    printOut(QStringLiteral("%1:%2: %3: %4")
+                 .arg(path)
+                 .arg(fault.line)
+                 .arg(isError ? QStringLiteral("error") : QStringLiteral("warning"), fault.text));
+}
+
+} // namespace
+
 int runCheckConfig(const QStringList& arguments)
 {
     CliParser parser(QStringLiteral("check-config"));
@@ -24,12 +37,7 @@ int runCheckConfig(const QStringList& arguments)
     }
     const ConfigFaults faults = checkConfig(path);
     for (const ConfigFault& fault : faults)
-        printOut(QStringLiteral("%1:%2: %3: %4")
-                     .arg(path)
-                     .arg(fault.line)
-                     .arg(fault.severity == ConfigSeverity::Error ? QStringLiteral("error")
-                                                                  : QStringLiteral("warning"),
-                          fault.text));
+        printFault(path, fault);
     if (faults.isEmpty())
         printOut(QCoreApplication::translate("CheckConfig", "%1: no faults").arg(path));
     return hasErrors(faults) ? ExitUsage : ExitOk;

@@ -48,6 +48,16 @@ int exitCodeOf(CommandOutcome outcome)
     return ExitNotReachable;
 }
 
+int carryOut(const DeviceSettings& settings, const UpsCommand& command)
+{
+    Device device(settings, makeConnector(settings), FleetClock::system(), 0);
+    const CommandResult result = sendOnce(device, command, kResultLimitSeconds);
+    printOut(result.message.isEmpty()
+                 ? outcomeLabel(result.outcome)
+                 : outcomeLabel(result.outcome) + QStringLiteral(": ") + result.message);
+    return exitCodeOf(result.outcome);
+}
+
 } // namespace
 
 int runCommand(const QStringList& arguments)
@@ -76,11 +86,5 @@ int runCommand(const QStringList& arguments)
                                  .arg(settings->displayName(), commandSentence(*request.command));
     if (!parser.isSet(yes) && !isConfirmed(question))
         return ExitRefused;
-
-    Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
-    const CommandResult result = sendOnce(device, *request.command, kResultLimitSeconds);
-    printOut(result.message.isEmpty()
-                 ? outcomeLabel(result.outcome)
-                 : outcomeLabel(result.outcome) + QStringLiteral(": ") + result.message);
-    return exitCodeOf(result.outcome);
+    return carryOut(*settings, *request.command);
 }

@@ -10,28 +10,37 @@
 #include <QDateTime>
 #include <QEventLoop>
 
+namespace {
+
+// With its secret, where it has one; what goes wrong with that is said.
+StoreAddress completed(StoreAddress store, SecretsChoice choice)
+{
+    const auto secrets = SecretStore::make(choice);
+    QEventLoop loop;
+    bool isReady = false;
+    withStoreSecret(store, *secrets, &loop, [&](const StoreAddress& address, const QString& fault) {
+        if (!fault.isEmpty())
+            printError(fault);
+        store = address;
+        isReady = true;
+        loop.quit();
+    });
+    if (!isReady)
+        loop.exec();
+    return store;
+}
+
+} // namespace
+
 std::unique_ptr<HistoryStore> openStoredHistory()
 {
     const DeskSettings settings = DeskConfig::load().settings();
-    ParsedStore store = storeOf(settings.history);
+    const ParsedStore store = storeOf(settings.history);
     if (!store.error.isEmpty()) {
         printError(store.error);
         return nullptr;
     }
-    const auto secrets = SecretStore::make(settings.secrets);
-    QEventLoop loop;
-    bool isReady = false;
-    withStoreSecret(store.address, *secrets, &loop,
-                    [&](const StoreAddress& address, const QString& fault) {
-                        if (!fault.isEmpty())
-                            printError(fault);
-                        store.address = address;
-                        isReady = true;
-                        loop.quit();
-                    });
-    if (!isReady)
-        loop.exec();
-    auto opened = HistoryStore::make(store.address);
+    auto opened = HistoryStore::make(completed(store.address, settings.secrets));
     if (opened->open(HistoryStore::Access::Read))
         return opened;
     printError(opened->errorText());

@@ -315,6 +315,14 @@ bool ConfigDocument::reorderSections(const QString& type, const QStringList& nam
         headers += section->header;
         wanted += block(*section);
     }
+    moveBlocks(wanted);
+    index();
+    return true;
+}
+
+// Into each other's places, in this order.
+void ConfigDocument::moveBlocks(const QVector<Block>& wanted)
+{
     QVector<Block> places = wanted;
     std::sort(places.begin(), places.end(),
               [](const Block& a, const Block& b) { return a.begin < b.begin; });
@@ -328,8 +336,6 @@ bool ConfigDocument::reorderSections(const QString& type, const QStringList& nam
     }
     lines += m_lines.mid(next);
     m_lines = lines;
-    index();
-    return true;
 }
 
 void ConfigDocument::setValue(const ConfigSection& section, const QString& key,

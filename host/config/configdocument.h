@@ -106,6 +106,7 @@ private:
     int entry(const ConfigSection& section, const QString& key) const; // index, -1: none
     int lastEntry(const Section& section) const;
     Block block(const Section& section) const;
+    void moveBlocks(const QVector<Block>& wanted);
     void replaceInLine(int index, const QByteArray& text);
     void insertLines(int index, const QList<QByteArray>& lines);
     void endLastLine();

@@ -137,19 +137,24 @@ private:
         case 't':
             text += QLatin1Char('\t');
             return true;
-        case 'u': {
-            const QByteArray digits = m_bytes.mid(m_position + 1, 4);
-            bool ok = digits.size() == 4 && std::all_of(digits.begin(), digits.end(), [](char c) {
-                          return isxdigit(static_cast<unsigned char>(c));
-                      });
-            const ushort unit = ok ? digits.toUShort(&ok, 16) : 0;
-            m_position += 4;
-            text += QChar(unit);
-            return ok;
-        }
+        case 'u':
+            return unicode(text);
         default:
             return false;
         }
+    }
+
+    // Four digits.
+    bool unicode(QString& text)
+    {
+        const QByteArray digits = m_bytes.mid(m_position + 1, 4);
+        bool ok = digits.size() == 4 && std::all_of(digits.begin(), digits.end(), [](char c) {
+                      return isxdigit(static_cast<unsigned char>(c));
+                  });
+        const ushort unit = ok ? digits.toUShort(&ok, 16) : 0;
+        m_position += 4;
+        text += QChar(unit);
+        return ok;
     }
 
     const QByteArray& m_bytes;
@@ -273,6 +278,17 @@ QByteArray quoted(const QString& text)
     return '"' + result.toUtf8() + '"';
 }
 
+// What no line may hold; empty: nothing is wrong.
+QString faultOf(const QByteArray& bytes)
+{
+    if (bytes.size() > ConfigLine::kMaxBytes)
+        return Tr::tr("longer than %1 bytes").arg(ConfigLine::kMaxBytes);
+    if (std::any_of(bytes.begin(), bytes.end(),
+                    [](char c) { return c != '\t' && isControl(static_cast<uchar>(c)); }))
+        return Tr::tr("holds control characters");
+    return isUtf8(bytes) ? QString() : Tr::tr("is not UTF-8 text");
+}
+
 } // namespace
 
 ConfigLine parseConfigLine(const QByteArray& bytes)
@@ -289,13 +305,8 @@ ConfigLine parseConfigLine(const QByteArray& bytes)
     }
     const bool section = reader.peek() == '[';
     const auto kind = section ? ConfigLine::Kind::FaultySection : ConfigLine::Kind::Faulty;
-    if (bytes.size() > ConfigLine::kMaxBytes)
-        return faulty(kind, Tr::tr("longer than %1 bytes").arg(ConfigLine::kMaxBytes));
-    if (std::any_of(bytes.begin(), bytes.end(),
-                    [](char c) { return c != '\t' && isControl(static_cast<uchar>(c)); }))
-        return faulty(kind, Tr::tr("holds control characters"));
-    if (!isUtf8(bytes))
-        return faulty(kind, Tr::tr("is not UTF-8 text"));
+    if (const QString fault = faultOf(bytes); !fault.isEmpty())
+        return faulty(kind, fault);
     return section ? parseSection(reader) : parseEntry(reader);
 }
 

@@ -26,6 +26,20 @@ qint64 holdMs(const DeviceSettings& device)
     return snmp && lacksSecrets(device) ? WatchList::kSecretsPatienceMs : 0;
 }
 
+// False where there are none to take.
+bool takeLackingSecrets(DeviceSettings& settings, const DeviceSettings& given)
+{
+    bool better = false;
+    for (SecretPurpose purpose : neededSecrets(settings)) {
+        const QString secret = deviceSecret(given, purpose);
+        if (secret.isEmpty() || !deviceSecret(settings, purpose).isEmpty())
+            continue;
+        setDeviceSecret(settings, purpose, secret);
+        better = true;
+    }
+    return better;
+}
+
 } // namespace
 
 WatchList::WatchList(Fleet& fleet, const DeskConfig& config, const SecretKeeper::Maker& makeStore,
@@ -281,15 +295,7 @@ void WatchList::takeSecrets(const QVector<DeviceSettings>& devices)
         if (!device)
             continue;
         DeviceSettings settings = device->settings(); // may have been changed since
-        bool better = false;
-        for (SecretPurpose purpose : neededSecrets(settings)) {
-            const QString secret = deviceSecret(given, purpose);
-            if (secret.isEmpty() || !deviceSecret(settings, purpose).isEmpty())
-                continue;
-            setDeviceSecret(settings, purpose, secret);
-            better = true;
-        }
-        if (better)
+        if (takeLackingSecrets(settings, given))
             replace(device, settings);
         else
             m_fleet.release(device);

@@ -34,31 +34,33 @@ constexpr Fault kFaults[] = {
     {"57P", QT_TRANSLATE_NOOP("PostgresStore", "%1 is shutting down or starting up")},
 };
 
+QStringList optionsOf(const StoreAddress& store)
+{
+    QStringList options{
+        QStringLiteral("connect_timeout=5"),  QStringLiteral("tcp_user_timeout=10000"),
+        QStringLiteral("keepalives_idle=10"), QStringLiteral("keepalives_interval=5"),
+        QStringLiteral("keepalives_count=3"), QStringLiteral("application_name=upsdesk")};
+    const bool isTrusted = store.isLocal() || store.secret.isEmpty();
+    // A password goes to nobody but the server that was meant, unless the configuration says so.
+    const bool verify =
+        store.tls == HistoryTls::Required || (store.tls == HistoryTls::Preferred && !isTrusted);
+    if (!verify)
+        return options << (store.tls == HistoryTls::Off ? QStringLiteral("sslmode=disable")
+                                                        : QStringLiteral("sslmode=prefer"));
+    const QString& file = store.certificateAuthority;
+    return options << QStringLiteral("sslmode=verify-full")
+                   << QStringLiteral("sslrootcert='%1'")
+                          .arg(QString(file.isEmpty() ? kSystemAuthorities : file)
+                                   .replace('\\', "\\\\")
+                                   .replace('\'', "\\'"));
+}
+
 } // namespace
 
 bool PostgresStore::connectTo(QSqlDatabase& database, Access access)
 {
     m_partitions.clear();
-    const bool isTrusted = m_address.isLocal() || m_address.secret.isEmpty();
-    // A password goes to nobody but the server that was meant, unless the configuration says so.
-    const bool verify = m_address.tls == HistoryTls::Required ||
-                        (m_address.tls == HistoryTls::Preferred && !isTrusted);
-    QStringList options{
-        QStringLiteral("connect_timeout=5"),  QStringLiteral("tcp_user_timeout=10000"),
-        QStringLiteral("keepalives_idle=10"), QStringLiteral("keepalives_interval=5"),
-        QStringLiteral("keepalives_count=3"), QStringLiteral("application_name=upsdesk")};
-    if (verify) {
-        const QString& file = m_address.certificateAuthority;
-        options << QStringLiteral("sslmode=verify-full")
-                << QStringLiteral("sslrootcert='%1'")
-                       .arg(QString(file.isEmpty() ? kSystemAuthorities : file)
-                                .replace('\\', "\\\\")
-                                .replace('\'', "\\'"));
-    } else {
-        options << (m_address.tls == HistoryTls::Off ? QStringLiteral("sslmode=disable")
-                                                     : QStringLiteral("sslmode=prefer"));
-    }
-    database.setConnectOptions(options.join(QLatin1Char(';')));
+    database.setConnectOptions(optionsOf(m_address).join(QLatin1Char(';')));
     database.setHostName(m_address.host);
     database.setPort(m_address.port);
     database.setUserName(m_address.user);

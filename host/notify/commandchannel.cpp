@@ -52,6 +52,16 @@ void CommandChannel::tell(const Announcement& announcement)
         startNext();
 }
 
+// Empty: it ended as it should.
+QString CommandChannel::fault(int code, int status) const
+{
+    if (status != QProcess::NormalExit)
+        return tr("The command for notifications was ended: it crashed or ran longer than %1 s.")
+            .arg(m_timeLimitMs / 1000);
+    return code == 0 ? QString()
+                     : tr("The command for notifications failed with exit code %1.").arg(code);
+}
+
 void CommandChannel::startNext()
 {
     if (m_waiting.isEmpty())
@@ -67,19 +77,8 @@ void CommandChannel::startNext()
             finish(tr("The command for notifications cannot be started: %1")
                        .arg(m_running->errorString()));
     });
-    connect(
-        m_running, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
-        [this](int code, QProcess::ExitStatus status) {
-            if (status != QProcess::NormalExit)
-                finish(tr("The command for notifications was ended: it crashed or ran longer "
-                          "than %1 s.")
-                           .arg(m_timeLimitMs / 1000));
-            else
-                finish(
-                    code == 0
-                        ? QString()
-                        : tr("The command for notifications failed with exit code %1.").arg(code));
-        });
+    connect(m_running, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
+            [this](int code, QProcess::ExitStatus status) { finish(fault(code, status)); });
     QTimer::singleShot(m_timeLimitMs, m_running, &QProcess::kill);
     m_running->start(m_words.value(0), m_words.mid(1));
 }

@@ -35,6 +35,7 @@ public:
 
 private:
     void startNext();
+    QString fault(int code, int status) const;
     void finish(const QString& reason);
 
     const QStringList m_words;

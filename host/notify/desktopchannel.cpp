@@ -42,6 +42,18 @@ QString bodyOf(const Announcement& announcement)
     return body;
 }
 
+QVariantMap hintsOf(const Announcement& announcement, bool loud)
+{
+    const auto urgency = static_cast<uchar>(weightOf(announcement));
+    QVariantMap hints{{QStringLiteral("urgency"), QVariant::fromValue(urgency)},
+                      {QStringLiteral("desktop-entry"), QStringLiteral("upsdesk")}};
+    if (loud)
+        hints.insert(QStringLiteral("sound-name"), soundOf(announcement));
+    else
+        hints.insert(QStringLiteral("suppress-sound"), true);
+    return hints;
+}
+
 QDBusMessage callOf(const QString& method)
 {
     return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
@@ -80,17 +92,11 @@ void DesktopChannel::tell(const Announcement& announcement)
 void DesktopChannel::send(const Announcement& announcement, bool loud)
 {
     const Weight weight = weightOf(announcement);
-    QVariantMap hints{{QStringLiteral("urgency"), QVariant::fromValue(static_cast<uchar>(weight))},
-                      {QStringLiteral("desktop-entry"), QStringLiteral("upsdesk")}};
-    if (loud)
-        hints.insert(QStringLiteral("sound-name"), soundOf(announcement));
-    else
-        hints.insert(QStringLiteral("suppress-sound"), true);
-
     QDBusMessage call = callOf(QStringLiteral("Notify"));
     call << QStringLiteral("upsdesk") << m_shown.value(announcement.device, 0)
          << QStringLiteral("upsdesk") << announcement.title() << bodyOf(announcement)
-         << QStringList() << hints << (weight == Weight::Critical ? kStays : kServerDecides);
+         << QStringList() << hintsOf(announcement, loud)
+         << (weight == Weight::Critical ? kStays : kServerDecides);
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, kAnswerLimitMs), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [this, watcher, device = announcement.device] {

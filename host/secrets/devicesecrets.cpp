@@ -72,13 +72,32 @@ void applySecretOverrides(DeviceSettings& device)
     }
 }
 
+namespace {
+
+struct Wanted {
+    int device;
+    SecretPurpose purpose;
+};
+
+// Returns why one was not read; empty: all that there are were.
+QString takeResults(const SecretStore::Results& results, const QVector<Wanted>& wanted,
+                    QVector<DeviceSettings>& devices)
+{
+    QString message;
+    for (int i = 0; i < results.size(); ++i)
+        if (results.at(i).status == SecretResult::Status::Done)
+            setDeviceSecret(devices[wanted.at(i).device], wanted.at(i).purpose,
+                            results.at(i).secret.toString());
+        else if (results.at(i).status == SecretResult::Status::Failed)
+            message = results.at(i).message;
+    return message;
+}
+
+} // namespace
+
 void readDeviceSecrets(SecretStore& store, const QVector<DeviceSettings>& devices, QObject* context,
                        const SecretsReady& ready)
 {
-    struct Wanted {
-        int device;
-        SecretPurpose purpose;
-    };
     QVector<DeviceSettings> filled = devices;
     QVector<Wanted> wanted;
     SecretStore::Errands errands;
@@ -95,13 +114,7 @@ void readDeviceSecrets(SecretStore& store, const QVector<DeviceSettings>& device
     // Asks the store also where nothing is wanted, so that callers meet one order of events.
     store.run(errands, context, [=](const SecretStore::Results& results) {
         QVector<DeviceSettings> complete = filled;
-        QString message;
-        for (int i = 0; i < results.size(); ++i)
-            if (results.at(i).status == SecretResult::Status::Done)
-                setDeviceSecret(complete[wanted.at(i).device], wanted.at(i).purpose,
-                                results.at(i).secret.toString());
-            else if (results.at(i).status == SecretResult::Status::Failed)
-                message = results.at(i).message;
+        const QString message = takeResults(results, wanted, complete);
         ready(complete, message);
     });
 }

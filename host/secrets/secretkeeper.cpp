@@ -5,6 +5,21 @@
 using Action = SecretStore::Action;
 using Status = SecretResult::Status;
 
+namespace {
+
+// All that the devices hold.
+SecretStore::Errands writesOf(const QVector<DeviceSettings>& devices)
+{
+    SecretStore::Errands writes;
+    for (const DeviceSettings& device : devices)
+        for (SecretPurpose purpose : neededSecrets(device))
+            if (const QString secret = deviceSecret(device, purpose); !secret.isEmpty())
+                writes += {Action::Write, secretKey(device.name, purpose), SecretText(secret)};
+    return writes;
+}
+
+} // namespace
+
 SecretKeeper::SecretKeeper(Maker maker, SecretsChoice choice, QObject* parent)
     : QObject(parent)
     , m_maker(std::move(maker))
@@ -73,11 +88,7 @@ void SecretKeeper::use(SecretsChoice choice, const QVector<DeviceSettings>& devi
     const std::shared_ptr<SecretStore> old = m_store;
     m_choice = choice;
     m_store = m_maker(choice);
-    SecretStore::Errands writes;
-    for (const DeviceSettings& device : devices)
-        for (SecretPurpose purpose : neededSecrets(device))
-            if (const QString secret = deviceSecret(device, purpose); !secret.isEmpty())
-                writes += {Action::Write, secretKey(device.name, purpose), SecretText(secret)};
+    const SecretStore::Errands writes = writesOf(devices);
     if (writes.isEmpty())
         return;
     m_store->run(writes, this, [this, old, writes](const Results& results) {

@@ -45,21 +45,9 @@ std::optional<NutQuestion> NutOrder::next()
         question.line = "LIST RW " + nutQuoted(m_ups);
         return question;
     case Phase::User:
-        question.line = "USERNAME " + nutQuoted(m_settings.user.toUtf8());
-        question.isSecret = true; // a refusal before anything is said of the account
-        question.startsLimit = true;
-        if (m_isFollowing)
-            question.delay = kFollowInterval;
-        return question;
     case Phase::Password:
-        question.line = "PASSWORD " + nutQuoted(m_settings.secret.toUtf8());
-        question.isSecret = true;
-        question.connection = m_login;
-        return question;
     case Phase::Tracking:
-        question.line = "SET TRACKING ON";
-        question.connection = m_login;
-        return question;
+        return logIn();
     case Phase::Send:
         question.line = m_steps.first().line(m_ups);
         question.isOrder = true;
@@ -76,6 +64,24 @@ std::optional<NutQuestion> NutOrder::next()
         break;
     }
     return {};
+}
+
+NutQuestion NutOrder::logIn() const
+{
+    NutQuestion question;
+    if (m_phase == Phase::User) {
+        question.line = "USERNAME " + nutQuoted(m_settings.user.toUtf8());
+        question.isSecret = true; // a refusal before anything is said of the account
+        question.startsLimit = true;
+        if (m_isFollowing)
+            question.delay = kFollowInterval;
+        return question;
+    }
+    question.isSecret = m_phase == Phase::Password;
+    question.line = question.isSecret ? "PASSWORD " + nutQuoted(m_settings.secret.toUtf8())
+                                      : QByteArray("SET TRACKING ON");
+    question.connection = m_login;
+    return question;
 }
 
 void NutOrder::take(const NutReply& reply)

@@ -47,6 +47,7 @@ private:
         QByteArray line(const QByteArray& ups) const;
     };
 
+    NutQuestion logIn() const;
     void takeLook(const NutReply& reply);
     void takeLogin(const NutReply& reply);
     void takeSent(const NutReply& reply);

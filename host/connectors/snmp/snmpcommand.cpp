@@ -158,6 +158,11 @@ void SnmpCommand::takeLook(const SnmpReply& reply)
         prepareControl();
 }
 
+void SnmpCommand::set(const SnmpOid& object, int value)
+{
+    m_settings.push_back({{object, SnmpValue::number(value)}});
+}
+
 void SnmpCommand::prepareTest()
 {
     const bool inProgress = number(testResultsSummary) == qint64(InProgress);
@@ -182,12 +187,30 @@ void SnmpCommand::prepareTest()
     m_phase = Phase::Set;
 }
 
+// False where it cannot be; the command is over then.
+bool SnmpCommand::planShutdown()
+{
+    const int wantedType = m_limits.shutdownWholeUps ? ShutdownSystem : ShutdownOutput;
+    const int standby = m_command.standbyMinutes * 60;
+    m_countdown = shutdownAfterDelay;
+    if (m_command.kind == CommandKind::Standby) {
+        // The two countdowns run at once: the later end must be the startup.
+        if (m_command.shutdownDelay >= standby) {
+            finish(CommandOutcome::Refused,
+                   tr("The shutdown delay of %1 s is not shorter than the standby.")
+                       .arg(m_command.shutdownDelay));
+            return false;
+        }
+        set(startupAfterDelay, standby);
+    } else if (seen(shutdownType) && number(shutdownType) != qint64(wantedType)) {
+        set(shutdownType, wantedType);
+    }
+    set(shutdownAfterDelay, m_command.shutdownDelay);
+    return true;
+}
+
 void SnmpCommand::prepareControl()
 {
-    const auto set = [this](const SnmpOid& object, int value) {
-        m_settings.push_back({{object, SnmpValue::number(value)}});
-    };
-    const int wantedType = m_limits.shutdownWholeUps ? ShutdownSystem : ShutdownOutput;
     const int standby = m_command.standbyMinutes * 60;
     const bool reboot = m_command.kind == CommandKind::Restart ||
                         (m_command.kind == CommandKind::Standby && standby <= kLongestReboot &&
@@ -200,19 +223,8 @@ void SnmpCommand::prepareControl()
         m_countdown = rebootWithDuration;
         set(rebootWithDuration,
             m_command.kind == CommandKind::Restart ? m_command.restartDuration : standby);
-    } else {
-        m_countdown = shutdownAfterDelay;
-        if (m_command.kind == CommandKind::Standby) {
-            // The two countdowns run at once: the later end must be the startup.
-            if (m_command.shutdownDelay >= standby)
-                return finish(CommandOutcome::Refused,
-                              tr("The shutdown delay of %1 s is not shorter than the standby.")
-                                  .arg(m_command.shutdownDelay));
-            set(startupAfterDelay, standby);
-        } else if (seen(shutdownType) && number(shutdownType) != qint64(wantedType)) {
-            set(shutdownType, wantedType);
-        }
-        set(shutdownAfterDelay, m_command.shutdownDelay);
+    } else if (!planShutdown()) {
+        return;
     }
     m_wanted = static_cast<int>(m_settings.back().front().value.integer);
     for (const std::vector<SnmpVariable>& setting : m_settings)
@@ -312,15 +324,19 @@ bool SnmpCommand::testShowsResult()
         return true;
     }
     // A short test may have begun and ended between two looks.
-    if (result == numberBefore(testResultsSummary) &&
-        number(testStartTime) == numberBefore(testStartTime))
-        return false;
+    return (result != numberBefore(testResultsSummary) ||
+            number(testStartTime) != numberBefore(testStartTime)) &&
+           endedTestShowsResult(*result);
+}
+
+bool SnmpCommand::endedTestShowsResult(qint64 result)
+{
     const QString detail = cleanDeviceText(m_seen[testResultsDetail].octets);
-    if (*result == DonePass || *result == DoneWarning)
+    if (result == DonePass || result == DoneWarning)
         finish(CommandOutcome::Done, tr("The test has ended. %1").arg(detail).trimmed());
-    else if (*result == DoneError)
+    else if (result == DoneError)
         finish(CommandOutcome::Refused, tr("The test failed. %1").arg(detail).trimmed());
-    else if (*result == Aborted)
+    else if (result == Aborted)
         finish(CommandOutcome::Refused, tr("The test was aborted. %1").arg(detail).trimmed());
     else
         return false;

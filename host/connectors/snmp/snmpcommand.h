@@ -47,11 +47,14 @@ private:
     std::optional<qint64> numberBefore(const SnmpOid& object) const;
 
     void takeLook(const SnmpReply& reply);
+    void set(const SnmpOid& object, int value);
     void prepareTest();
     void prepareControl();
+    bool planShutdown();
     void takeSet(const SnmpReply& reply);
     void follow();
     bool testShowsResult();
+    bool endedTestShowsResult(qint64 result);
     bool controlShowsResult();
     bool outputHasSwitched() const;
     bool countdownHasBegun() const;

@@ -67,6 +67,18 @@ std::optional<SnmpRequest> SnmpPoll::next()
     if (m_phase == Phase::Done)
         return {};
 
+    SnmpRequest request = nextQuestion();
+    const bool trial = !m_wasProven && m_phase != Phase::Probe &&
+                       (m_asked > 1 || request.kind == SnmpRequest::Kind::GetBulk);
+    if (trial) {
+        request.timeout = trialTimeout();
+        request.retries = 1;
+    }
+    return request;
+}
+
+SnmpRequest SnmpPoll::nextQuestion()
+{
     SnmpRequest request;
     request.timeout = m_limits.timeout;
     request.retries = m_limits.retries;
@@ -80,12 +92,6 @@ std::optional<SnmpRequest> SnmpPoll::next()
         m_asked = m_phase == Phase::Probe ? 1 : std::min(m_most, m_scalars.size());
         for (std::size_t i = 0; i < m_asked; ++i)
             request.variables.push_back({m_scalars[i], SnmpValue::null()});
-    }
-    const bool trial = !m_wasProven && m_phase != Phase::Probe &&
-                       (m_asked > 1 || request.kind == SnmpRequest::Kind::GetBulk);
-    if (trial) {
-        request.timeout = trialTimeout();
-        request.retries = 1;
     }
     return request;
 }

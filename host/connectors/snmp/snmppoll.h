@@ -56,6 +56,7 @@ private:
     };
 
     bool usesBulk() const;
+    SnmpRequest nextQuestion();
     std::chrono::milliseconds trialTimeout() const;
 
     void takeSilence(const QString& message);

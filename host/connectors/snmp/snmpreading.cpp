@@ -281,6 +281,39 @@ void readAlarms(const SnmpValues& values, UpsReading& reading)
             << Tr::tr("Alarms counted, but not named: %1").arg(*reading.alarmCount - listed);
 }
 
+void readTables(const SnmpValues& values, UpsReading& reading)
+{
+    for (const NumberRow& row : kNumbers)
+        if (const Value raw = numberOf(values, UpsMib::scalar(row.group, row.object)))
+            reading.*row.member = physical(*raw, row.unit);
+    for (const TextRow& row : kTexts)
+        reading.*row.member = textOf(values, UpsMib::scalar(1, row.object));
+    for (const LineGroupRow& group : lineGroups())
+        reading.*group.member = linesOf(values, group);
+    reading.location = textOf(values, UpsMib::sysLocation);
+    if (reading.name.isEmpty())
+        reading.name = textOf(values, UpsMib::sysName);
+}
+
+void readStates(const SnmpValues& values, UpsReading& reading)
+{
+    using namespace UpsMib;
+    if (const int source = codeOf(values, outputSource, 1, 7))
+        reading.outputSource = static_cast<OutputSource>(source);
+    if (const int beeper = codeOf(values, audibleStatus, 1, 3))
+        reading.beeper = static_cast<Beeper>(beeper);
+
+    const int status = codeOf(values, batteryStatus, 1, 4);
+    const int testResult = codeOf(values, testResultsSummary, DonePass, NoTestsInitiated);
+    readAlarms(values, reading);
+    if (testResult == InProgress)
+        reading.alarms.insert(Alarm::TestInProgress);
+    // The alarm of this name says the same thing; agents without an alarm table have only this.
+    if (testResult == DoneError)
+        reading.alarms.insert(Alarm::DiagnosticTestFailed);
+    reading.batteryState = batteryStateOf(status, testResult, reading.outputSource);
+}
+
 } // namespace
 
 const std::vector<SnmpOid>& polledScalars()
@@ -331,39 +364,14 @@ bool hasUpsObjects(const SnmpValues& values)
 
 UpsReading readingFromSnmp(const SnmpValues& values)
 {
-    using namespace UpsMib;
     UpsReading reading;
-
-    for (const NumberRow& row : kNumbers)
-        if (const Value raw = numberOf(values, scalar(row.group, row.object)))
-            reading.*row.member = physical(*raw, row.unit);
-    for (const TextRow& row : kTexts)
-        reading.*row.member = textOf(values, scalar(1, row.object));
-    for (const LineGroupRow& group : lineGroups())
-        reading.*group.member = linesOf(values, group);
-    reading.location = textOf(values, sysLocation);
-    if (reading.name.isEmpty())
-        reading.name = textOf(values, sysName);
-
-    if (const int source = codeOf(values, outputSource, 1, 7))
-        reading.outputSource = static_cast<OutputSource>(source);
-    if (const int beeper = codeOf(values, audibleStatus, 1, 3))
-        reading.beeper = static_cast<Beeper>(beeper);
-
-    const int status = codeOf(values, batteryStatus, 1, 4);
-    const int testResult = codeOf(values, testResultsSummary, DonePass, NoTestsInitiated);
-    readAlarms(values, reading);
-    if (testResult == InProgress)
-        reading.alarms.insert(Alarm::TestInProgress);
-    // The alarm of this name says the same thing; agents without an alarm table have only this.
-    if (testResult == DoneError)
-        reading.alarms.insert(Alarm::DiagnosticTestFailed);
-    reading.batteryState = batteryStateOf(status, testResult, reading.outputSource);
+    readTables(values, reading);
+    readStates(values, reading);
     addDerivedAlarms(reading);
 
     // Some agents keep the length of the last outage after it has ended.
     const bool onBattery =
         reading.outputSource == OutputSource::Battery || reading.alarms.contains(Alarm::OnBattery);
-    reading.secondsOnBattery = onBattery ? numberOf(values, secondsOnBattery) : Value(0.0);
+    reading.secondsOnBattery = onBattery ? numberOf(values, UpsMib::secondsOnBattery) : Value(0.0);
     return reading;
 }

@@ -383,6 +383,17 @@ void SnmpSession::onTimer()
     settleReply();
 }
 
+// After a silence; late answers go nowhere.
+void SnmpSession::startAfresh()
+{
+    if (m_session && m_settings.address.snmpVersion == 3 && !needsEngine()) {
+        const netsnmp_session* session = snmp_sess_session(m_session);
+        free_enginetime(session->securityEngineID, session->securityEngineIDLen);
+    }
+    close();
+    m_pending = true;
+}
+
 void SnmpSession::settleReply()
 {
     if (!m_reply)
@@ -404,16 +415,8 @@ void SnmpSession::settleReply()
     if (reply.kind != SnmpReply::Kind::Silence)
         return deliver(reply);
 
-    // Whoever has fallen silent starts afresh, and late answers go nowhere.
-    const int triesLeft = m_triesLeft - 1;
-    if (m_session && m_settings.address.snmpVersion == 3 && !needsEngine()) {
-        const netsnmp_session* session = snmp_sess_session(m_session);
-        free_enginetime(session->securityEngineID, session->securityEngineIDLen);
-    }
-    close();
-    m_pending = true;
-    m_triesLeft = triesLeft;
-    if (m_triesLeft > 0)
+    startAfresh();
+    if (--m_triesLeft > 0)
         return sendTry();
     if (m_engineFound && reply.message.isEmpty())
         reply.message = tr("%1 answers, but not what user \"%2\" sends: wrong privacy secret or "

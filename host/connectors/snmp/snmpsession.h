@@ -62,6 +62,7 @@ private:
     bool open();
     void claimUser();
     bool needsEngine() const;
+    void startAfresh();
     void sendTry();
     void sendPdu(snmp_pdu* pdu);
     snmp_pdu* makePdu() const;
