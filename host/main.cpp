@@ -227,6 +227,7 @@ int runWindow(const WindowOptions& options)
         return !device.isSimulated() || list.isConfigured(&device);
     });
     QObject::connect(&history, &DeskHistory::told, &window, &MainWindow::tell);
+    window.setHistory(history);
     if (config.settings().history.mode == HistoryMode::Desk)
         history.start(config.settings().history, config.settings().secrets);
     openWindow(window, options, state);

@@ -3,6 +3,7 @@
 #include "window/controlnotice.h"
 #include "window/deviceheading.h"
 #include "window/devicesummary.h"
+#include "window/historypage.h"
 #include "window/linkband.h"
 #include "window/linkcover.h"
 #include "window/theme.h"
@@ -76,6 +77,7 @@ const QVector<DevicePage::Page>& DevicePage::pages()
         {QT_TR_NOOP("Control"), DeviceView, kControlTab},
         {QT_TR_NOOP("Charts"), ChartView, -1},
         {QT_TR_NOOP("Table"), TableView, -1},
+        {QT_TR_NOOP("History"), HistoryView, -1},
     };
     return pages;
 }
@@ -84,14 +86,16 @@ struct DevicePage::ViewRow {
     const char* title;
     QWidget* (DevicePage::*make)();
     void (DevicePage::*feed)();
-    bool isMadeAhead; // it has something to gather before it is opened
+    bool isMadeAhead;     // it has something to gather before it is opened
+    bool showsThePresent; // needs a reading, and is covered while that is not live
 };
 
 // In the order of View.
 const DevicePage::ViewRow DevicePage::kViews[] = {
-    {QT_TR_NOOP("Device"), &DevicePage::makeDeviceView, &DevicePage::feedDeviceView, false},
-    {QT_TR_NOOP("Charts"), &DevicePage::makeCharts, &DevicePage::feedCharts, true},
-    {QT_TR_NOOP("Table"), &DevicePage::makeTable, &DevicePage::feedTable, false},
+    {QT_TR_NOOP("Device"), &DevicePage::makeDeviceView, &DevicePage::feedDeviceView, false, true},
+    {QT_TR_NOOP("Charts"), &DevicePage::makeCharts, &DevicePage::feedCharts, true, true},
+    {QT_TR_NOOP("Table"), &DevicePage::makeTable, &DevicePage::feedTable, false, true},
+    {QT_TR_NOOP("History"), &DevicePage::makeHistory, &DevicePage::feedHistory, false, false},
 };
 
 DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
@@ -106,6 +110,9 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
 {
     m_viewTabs->setObjectName(QStringLiteral("ViewTabs"));
     m_viewTabs->setExpanding(false);
+    QFont bold = m_viewTabs->font(); // as the style sheet has it: the tabs get their width by this
+    bold.setBold(true);
+    m_viewTabs->setFont(bold);
     m_viewTabs->setDrawBase(false);
     for (const ViewRow& row : kViews) {
         m_viewTabs->addTab(tr(row.title));
@@ -170,6 +177,20 @@ QWidget* DevicePage::makeTable()
     m_table->setCurrentName(m_device.name());
     m_table->InitRTDataFormInfo();
     return m_table;
+}
+
+QWidget* DevicePage::makeHistory()
+{
+    m_history = new HistoryPage(m_device);
+    m_history->setReader(m_reader);
+    return m_history;
+}
+
+void DevicePage::setHistory(HistoryReader* reader)
+{
+    m_reader = reader;
+    if (m_history)
+        m_history->setReader(reader);
 }
 
 void DevicePage::buildPiece()
@@ -316,7 +337,7 @@ void DevicePage::refresh()
 
 void DevicePage::feed(int view)
 {
-    if (m_buildings.at(view).isReady && m_device.reading())
+    if (m_buildings.at(view).isReady && (m_device.reading() || !kViews[view].showsThePresent))
         (this->*kViews[view].feed)();
 }
 
@@ -348,13 +369,18 @@ void DevicePage::feedTable()
     m_table->RefreshRTDataInfo(m_device.snapshot(SnapshotPage::Chart));
 }
 
+void DevicePage::feedHistory()
+{
+    m_history->refresh();
+}
+
 void DevicePage::refreshAge()
 {
     m_heading->show(m_device);
     refreshNotice();
     const LinkState link = m_device.link();
     m_cover->setOpaque(!m_device.reading());
-    m_cover->setVisible(link != LinkState::Live);
+    m_cover->setVisible(link != LinkState::Live && kViews[m_stack->currentIndex()].showsThePresent);
     m_cover->raise(); // a view that becomes current is raised, too
     m_band->setVisible(link != LinkState::Live);
     if (link == LinkState::Live)

@@ -1,11 +1,13 @@
 #ifndef DEVICEPAGE_H
 #define DEVICEPAGE_H
 
-// Everything the window shows of one device: heading, device view, charts, table, cover.
-// May touch: the fleet's device, the command desk and the library's views; no connector.
+// Everything the window shows of one device: heading, device view, charts, table, history, cover.
+// May touch: the fleet's device, the command desk, the history's reader and the library's views; no
+// connector.
 
 #include "fleet/commanddesk.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QVector>
 #include <QWidget>
@@ -14,6 +16,8 @@ class ChartForm;
 class ChildForm;
 class ControlNotice;
 class DeviceHeading;
+class HistoryPage;
+class HistoryReader;
 class LinkBand;
 class LinkCover;
 class QScrollArea;
@@ -29,7 +33,7 @@ class DevicePage : public QWidget
     Q_OBJECT
 
 public:
-    enum View { DeviceView, ChartView, TableView };
+    enum View { DeviceView, ChartView, TableView, HistoryView };
 
     // What can be opened by number: the tabs of the device view, then the other views.
     struct Page {
@@ -56,6 +60,8 @@ public:
     void refresh();
     // Time has passed: ages and cover only.
     void refreshAge();
+    // Null: there is none. The reader may go at any time.
+    void setHistory(HistoryReader* reader);
     // Somebody logged in or out.
     void refreshOperator();
     // Makes all views now: for pictures and whoever else cannot wait for the pieces.
@@ -84,9 +90,11 @@ private:
     QWidget* makeDeviceView();
     QWidget* makeCharts();
     QWidget* makeTable();
+    QWidget* makeHistory();
     void feedDeviceView();
     void feedCharts();
     void feedTable();
+    void feedHistory();
 
     void buildPiece();
     // Takes the view one piece further; false: it is ready.
@@ -108,6 +116,8 @@ private:
     QTabWidget* m_viewPages = nullptr; // the device view's own tabs
     ChartForm* m_charts = nullptr;
     RTDataForm* m_table = nullptr;
+    HistoryPage* m_history = nullptr;
+    QPointer<HistoryReader> m_reader;
     QVector<Building> m_buildings; // in the order of kViews
     QTimer m_builder;
     QColor m_ground;              // of the device view, as last set

@@ -1,5 +1,6 @@
 #include "window/mainwindow.h"
 
+#include "history/deskhistory.h"
 #include "window/clipboardtext.h"
 #include "window/deskmenu.h"
 #include "window/deviceactions.h"
@@ -307,6 +308,12 @@ void MainWindow::openDevice(Device* device)
         m_side->select(device);
     retitle();
     choiceChanged();
+}
+
+void MainWindow::setHistory(const DeskHistory& history)
+{
+    connect(&history, &DeskHistory::started, this,
+            [this, &history] { m_pages->setHistory(history.reader()); });
 }
 
 void MainWindow::setTroubleCount(int count)

@@ -17,6 +17,7 @@
 class DeskMenu;
 class QAction;
 class DeviceActions;
+class DeskHistory;
 class DeviceListModel;
 class DevicePage;
 class EventDock;
@@ -56,6 +57,8 @@ public:
     void markTheme(ThemeChoice choice);
     // All devices as tiles.
     void openOverview();
+    // Must be there as long as the window is used.
+    void setHistory(const DeskHistory& history);
     // The page on show, null before a device is chosen and on the overview.
     DevicePage* currentPage() const;
     // How many devices need somebody: in the title.

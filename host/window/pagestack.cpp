@@ -1,5 +1,6 @@
 #include "window/pagestack.h"
 
+#include "history/historyreader.h"
 #include "window/devicepage.h"
 
 #include <algorithm>
@@ -50,6 +51,7 @@ DevicePage* PageStack::pageOf(Device* device)
         if (&page->device() == device)
             return page;
     auto* page = new DevicePage(*device, m_desk);
+    page->setHistory(m_history);
     page->showPage(m_page);
     connect(page, &DevicePage::pageChanged, this, [this, page](int number) {
         if (page != currentWidget())
@@ -72,6 +74,13 @@ bool PageStack::forget(const Device* device)
         m_kept.erase(page);
     }
     return shown;
+}
+
+void PageStack::setHistory(HistoryReader* reader)
+{
+    m_history = reader;
+    for (DevicePage* page : qAsConst(m_kept))
+        page->setHistory(reader);
 }
 
 void PageStack::setPage(int page)

@@ -2,15 +2,17 @@
 #define PAGESTACK_H
 
 // The overview and the pages of the devices that were looked at last.
-// May touch: device pages, the command desk.
+// May touch: device pages, the command desk, the history's reader.
 
 #include "fleet/commanddesk.h"
 
 #include <QList>
+#include <QPointer>
 #include <QStackedWidget>
 #include <QTimer>
 
 class DevicePage;
+class HistoryReader;
 
 class PageStack : public QStackedWidget
 {
@@ -30,6 +32,8 @@ public:
     bool forget(const Device* device);
     const QList<DevicePage*>& kept() const { return m_kept; } // the latest first
 
+    // For the pages that are there and those to come; null: there is none.
+    void setHistory(HistoryReader* reader);
     void setPage(int page);
     int page() const { return m_page; }
 
@@ -42,6 +46,7 @@ private:
 
     CommandDesk& m_desk;
     QWidget* m_overview;
+    QPointer<HistoryReader> m_history;
     QList<DevicePage*> m_kept;
     QTimer m_dropTimer; // taking a page apart costs as much as a paint: never in the same step
     int m_page = 0;
