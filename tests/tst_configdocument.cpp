@@ -84,6 +84,8 @@ private slots:
             bool kept; // [poll] b = 2 is still read
         } rows[] = {
             {"no equals sign", "[poll]\na\nb = 2\n", {2}, true},
+            {"not UTF-8", "[poll]\na = \xff\nb = 2\n", {2}, true},
+            {"UTF-8 cut short", "[poll]\na = \xc3\nb = 2\n", {2}, true},
             {"open quote", "[poll]\na = \"1\nb = 2\n", {2}, true},
             {"equal keys: the first counts", "[poll]\nb = 2\nB = 3\n", {3}, true},
             {"header not closed: whole section", "[poll\nb = 2\nc\n", {1, 3}, false},

@@ -240,6 +240,11 @@ void TestMainWindow::menuActs()
     QCOMPARE(desk.window.currentPage()->currentPage(), DevicePage::controlPage());
     desk.item(DeskMenu::AllDevices)->trigger();
     QVERIFY(!desk.window.currentPage());
+    const auto* tiles = desk.window.findChild<QListView*>("OverviewTiles");
+    for (const QString& text : {QString("zzz"), QString()}) {
+        filter->setText(text);
+        QTRY_COMPARE(tiles->isVisible(), text.isEmpty()); // or the note that nothing matches
+    }
 }
 
 QTEST_MAIN(TestMainWindow)

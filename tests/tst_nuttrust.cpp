@@ -160,6 +160,9 @@ private:
         DeviceSettings settings = server.settings(row.tls);
         settings.caFile = row.caFile;
         settings.fingerprint = row.fingerprint;
+        // One that trusts the same server otherwise shares no link with it.
+        const NutConnector other(
+            server.settings(row.tls == TlsUse::Off ? TlsUse::Preferred : TlsUse::Off));
 
         const PollResult poll = pollOnce(settings);
         QVERIFY2(poll.state == row.state,

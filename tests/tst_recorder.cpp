@@ -285,6 +285,18 @@ private slots:
         QVERIFY(process.readAllStandardError().startsWith("upsdesk: "));
     }
 
+    void timesAsPeopleGiveThem()
+    {
+        constexpr qint64 kNow = 1774792800000; // 2026-03-29T14:00 UTC
+        constexpr qint64 kHour = 3600 * 1000;
+        const std::pair<const char*, std::optional<qint64>> rows[] = {
+            {"90m", kNow - 3 * kHour / 2},  {"36h", kNow - 36 * kHour},
+            {"2d", kNow - 48 * kHour},      {"1w", kNow - 168 * kHour},
+            {"2026-03-29T14:00:00Z", kNow}, {"5y", std::nullopt}};
+        for (const auto& [text, time] : rows)
+            QVERIFY2(timeOf(text, kNow) == time, text);
+    }
+
     void csvIsSafe_data()
     {
         QTest::addColumn<QString>("field");
