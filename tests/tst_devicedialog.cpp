@@ -133,6 +133,7 @@ void TestDeviceDialog::fieldsAndAddress()
         QStringList fields;
         QString address;
     } rows[] = {
+        {{"KindBox=Simulator"}, "sim:"},
         {{"KindBox=Simulator", "ScenarioBox=three-phase-outage"}, "sim:three-phase-outage"},
         {{nut, "HostEdit=fd00::5", "PortEdit=4000", "UpsBox=a"}, "nut://[fd00::5]:4000/a"},
         {{nut, "HostEdit=h", "UpsBox=50%#?"}, "nut://h/50%25%23%3F"},

@@ -271,8 +271,9 @@ DeviceAddress DeviceDialog::address() const
         address.community = fields()->address().community;
         address.text = deviceAddressText(address);
     }
-    // As it was written where it is still the same.
-    const bool isSame = deviceAddressText(address) == deviceAddressText(m_device.address);
+    // As it was written where it is still the same; a new device has nothing written.
+    const bool isSame = !m_device.address.text.isEmpty() &&
+                        deviceAddressText(address) == deviceAddressText(m_device.address);
     return isSame ? m_device.address : address;
 }
 
