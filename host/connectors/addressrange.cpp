@@ -20,8 +20,8 @@ std::optional<quint32> parseHost(const QString& text)
 {
     const QStringList octets = text.split(QLatin1Char('.'));
     static const QRegularExpression digits(QStringLiteral("^[0-9]{1,3}$"));
-    constexpr int octetsOfAHost = 4;
-    if (octets.size() != octetsOfAHost)
+    constexpr int kOctetsOfAHost = 4;
+    if (octets.size() != kOctetsOfAHost)
         return {};
     quint32 host = 0;
     for (const QString& octet : octets) {

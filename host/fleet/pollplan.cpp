@@ -14,8 +14,8 @@ void PollPlan::succeeded(qint64 nowMs)
 
 void PollPlan::failed(qint64 nowMs)
 {
-    constexpr int doublingsToLongest = 16; // 1 ms doubled so often is over a minute
-    const int doublings = std::min(m_failures, doublingsToLongest);
+    constexpr int kDoublingsToLongest = 16; // 1 ms doubled so often is over a minute
+    const int doublings = std::min(m_failures, kDoublingsToLongest);
     ++m_failures;
     const qint64 first = m_interval <= kLongestPauseMs ? m_interval : kQuickRetryMs;
     m_due = nowMs + std::min(first << doublings, kLongestPauseMs);

@@ -71,10 +71,10 @@ void OperatorSession::logIn(const QString& name, const SecretText& password)
     const int attempt = ++m_attempt;
     const qint64 wait = m_failures.value(name).until - wallClock();
     if (wait > 0) {
-        constexpr int msPerSecond = 1000;
+        constexpr int kMsPerSecond = 1000;
         m_checking = false;
         emit refused(tr("Too many failed attempts. Try again in %1 s.")
-                         .arg((wait + msPerSecond - 1) / msPerSecond));
+                         .arg((wait + kMsPerSecond - 1) / kMsPerSecond));
         return;
     }
     m_checking = true;

@@ -25,11 +25,11 @@ constexpr QFile::Permissions kOthers = QFile::ReadGroup | QFile::WriteGroup | QF
 
 FileStamp FileStamp::of(const QString& path)
 {
-    constexpr qint64 nsPerSecond = 1000 * 1000 * 1000;
+    constexpr qint64 kNsPerSecond = 1000 * 1000 * 1000;
     struct stat info = {};
     if (::stat(QFile::encodeName(path).constData(), &info) != 0)
         return {};
-    return {info.st_mtim.tv_sec * nsPerSecond + info.st_mtim.tv_nsec, info.st_size, info.st_ino};
+    return {info.st_mtim.tv_sec * kNsPerSecond + info.st_mtim.tv_nsec, info.st_size, info.st_ino};
 }
 
 FileContent readBoundedFile(const QString& path, qint64 maxBytes)

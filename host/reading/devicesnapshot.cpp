@@ -81,16 +81,16 @@ int saturated(double number)
 {
     if (std::isnan(number))
         return 0;
-    constexpr double limit = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(number, -limit, limit));
+    constexpr double kLimit = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(number, -kLimit, kLimit));
 }
 
 // Nearest integer, halves away from zero. A decimal half such as 0.35 x 10 may sit a hair below
 // its half in binary; it still counts as a half.
 int nearest(double number)
 {
-    constexpr double hair = 1e-9;
-    return saturated(std::round(number + std::copysign(hair, number)));
+    constexpr double kHair = 1e-9;
+    return saturated(std::round(number + std::copysign(kHair, number)));
 }
 
 // Values that are nothing but scaled and rounded: stored = nearest(value x scale).
@@ -429,10 +429,10 @@ int shownLines(const LineReading& group)
 
 QStringList readingNotes(const UpsReading& reading)
 {
-    constexpr int splitPhase = 2;
+    constexpr int kSplitPhase = 2;
     QStringList notes = reading.notes;
     for (const GroupRow& row : kGroups) {
-        if ((reading.*row.group).lines == splitPhase) {
+        if ((reading.*row.group).lines == kSplitPhase) {
             notes << Tr::tr("Split phase: line 1 of 2 is shown.");
             break;
         }

@@ -52,8 +52,7 @@ enum ChartPage { SinglePhasePage, ThreePhasePage };
 
 bool isThreePhase(const UpsReading& reading)
 {
-    constexpr int threeLines = 3;
-    return shownLines(reading.input) == threeLines || shownLines(reading.output) == threeLines;
+    return shownLines(reading.input) == kPhases || shownLines(reading.output) == kPhases;
 }
 
 // A view keeps its least size, its own or a larger one, and scrolls where the window is smaller.

@@ -96,8 +96,8 @@ QString runtimeText(const UpsReading* reading)
     if (!reading || !reading->runtime)
         return unknown();
     const auto minutes = static_cast<qint64>(std::clamp(*reading->runtime, 0.0, 1e9)) / kMinute;
-    constexpr qint64 minutesWorthCounting = 100;
-    if (minutes < minutesWorthCounting)
+    constexpr qint64 kMinutesWorthCounting = 100;
+    if (minutes < kMinutesWorthCounting)
         return Tr::tr("%1 min").arg(minutes);
     return Tr::tr("%1 h").arg(static_cast<double>(minutes) / 60, 0, 'f', 1);
 }

@@ -153,7 +153,7 @@ void DeviceTileDelegate::drawBand(const Tile& tile) const
 // Values that are not live are still told, but faintly.
 void DeviceTileDelegate::drawFigures(const Tile& tile, QRect& room) const
 {
-    constexpr int widthPercent[] = {33, 36, 31}; // of the tile; minutes need most
+    constexpr int kWidthPercent[] = {33, 36, 31}; // of the tile; minutes need most
     QPainter* painter = tile.painter;
     painter->setPen(tile.text());
     painter->setFont(sized(tile, kNameSize, true));
@@ -165,7 +165,7 @@ void DeviceTileDelegate::drawFigures(const Tile& tile, QRect& room) const
     QRect caption;
     std::size_t number = 0;
     for (const DeviceFigure& figure : deviceFigures(tile.device.reading())) {
-        value.setWidth(room.width() * widthPercent[number++] / 100);
+        value.setWidth(room.width() * kWidthPercent[number++] / 100);
         painter->setPen(tile.live ? tile.text() : tile.soft());
         painter->setFont(sized(tile, kFigureSize, tile.live));
         value.setHeight(painter->fontMetrics().height());

@@ -94,9 +94,9 @@ void FindDevicesDialog::makeTable()
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setMinimumHeight(kLeastTableHeight);
-    constexpr int widths[] = {170, 190}; // px
-    for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
-        m_table->setColumnWidth(column, widths[column]);
+    constexpr int kWidths[] = {170, 190}; // px
+    for (int column = 0; column < static_cast<int>(std::size(kWidths)); ++column)
+        m_table->setColumnWidth(column, kWidths[column]);
 }
 
 void FindDevicesDialog::layOut()

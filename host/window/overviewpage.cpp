@@ -109,9 +109,9 @@ void OverviewPage::fitTilesToCount()
 void OverviewPage::fitTiles()
 {
     using Form = DeviceTileDelegate::Form;
-    constexpr double compactScale = 1.8; // beyond, there is room for full tiles
+    constexpr double kCompactScale = 1.8; // beyond, there is room for full tiles
     if (!fitTilesOf(static_cast<int>(Form::Full), m_largestScale))
-        fitTilesOf(static_cast<int>(Form::Compact), m_largestScale * compactScale);
+        fitTilesOf(static_cast<int>(Form::Compact), m_largestScale * kCompactScale);
     m_tiles->doItemsLayout();
 }
 

@@ -98,8 +98,8 @@ void SidePanel::setUpList()
 
 void SidePanel::setActions(DeviceActions* actions)
 {
-    constexpr int belowTheList = 2;
-    m_column->insertWidget(belowTheList, actions->makeButtons());
+    constexpr int kBelowTheList = 2;
+    m_column->insertWidget(kBelowTheList, actions->makeButtons());
     m_list->addActions(actions->actions());
     m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
 }

@@ -19,8 +19,8 @@ QColor urgencyColor(Urgency urgency)
 
 QColor urgencyTextColor(Urgency urgency, const QPalette& palette)
 {
-    constexpr int halfLight = 128;
-    if (palette.color(QPalette::Window).lightness() >= halfLight)
+    constexpr int kHalfLight = 128;
+    if (palette.color(QPalette::Window).lightness() >= kHalfLight)
         return urgencyColor(urgency);
     switch (urgency) {
     case Urgency::Normal:
@@ -39,8 +39,8 @@ QColor urgencyTextColor(Urgency urgency, const QPalette& palette)
 
 QColor fadedColor(const QColor& text, const QColor& ground)
 {
-    constexpr double share = 0.72; // of the text; the rest is the ground
-    const auto mixed = [share = share](double a, double b) { return a * share + b * (1 - share); };
+    constexpr double kShare = 0.72; // of the text; the rest is the ground
+    const auto mixed = [](double a, double b) { return a * kShare + b * (1 - kShare); };
     return QColor::fromRgbF(mixed(text.redF(), ground.redF()),
                             mixed(text.greenF(), ground.greenF()),
                             mixed(text.blueF(), ground.blueF()));
