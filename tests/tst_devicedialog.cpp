@@ -4,6 +4,7 @@
 #include "connectors/addressrange.h"
 #include "fleet/watchlist.h"
 #include "secrets/filesecretstore.h"
+#include "support/quietplatform.h"
 #include "support/scriptedconnector.h"
 #include "window/deviceactions.h"
 #include "window/devicedialog.h"
@@ -31,17 +32,6 @@ DeviceSettings device(const QString& name, const QString& address)
     settings.name = name;
     settings.address = *parseDeviceAddress(address).address;
     return settings;
-}
-
-QtMessageHandler testHandler = nullptr;
-
-// The offscreen platform complains of windows with a least size and of menus; all other warnings
-// end the test, as they do in the other programs.
-void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    const bool harmless = text.startsWith("This plugin does not support");
-    if (!harmless)
-        testHandler(type == QtWarningMsg ? QtFatalMsg : type, context, text);
 }
 
 // A dialog with connectors that answer when the test says so.
@@ -120,8 +110,7 @@ private slots:
 
 void TestDeviceDialog::initTestCase()
 {
-    qunsetenv("QT_FATAL_WARNINGS");
-    testHandler = qInstallMessageHandler(passOn);
+    dropRemarksOfThePlatform();
 }
 
 void TestDeviceDialog::fieldsAndAddress()

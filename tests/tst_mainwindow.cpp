@@ -2,6 +2,7 @@
 // ends, and that opening a page waits for nothing.
 
 #include "fleet/commanddesk.h"
+#include "support/quietplatform.h"
 #include "support/scriptedconnector.h"
 #include "window/deskmenu.h"
 #include "window/devicepage.h"
@@ -21,17 +22,6 @@
 #include <QtTest>
 
 namespace {
-
-QtMessageHandler testHandler = nullptr;
-
-// The offscreen platform complains of windows with a least size; all other warnings end the test,
-// as they do in the other programs.
-void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    const bool harmless = text.startsWith("This plugin does not support");
-    if (!harmless)
-        testHandler(type == QtWarningMsg ? QtFatalMsg : type, context, text);
-}
 
 struct Desk {
     Device* add(const QString& address, const QString& name = QString())
@@ -79,8 +69,7 @@ private slots:
 
 void TestMainWindow::initTestCase()
 {
-    qunsetenv("QT_FATAL_WARNINGS");
-    testHandler = qInstallMessageHandler(passOn);
+    dropRemarksOfThePlatform();
 }
 
 void TestMainWindow::viewsComeWhenAPageIsOnShow()

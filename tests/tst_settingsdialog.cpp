@@ -4,6 +4,7 @@
 
 #include "operators/operators.h"
 #include "secrets/filesecretstore.h"
+#include "support/quietplatform.h"
 #include "support/scriptedconnector.h"
 #include "window/closeguard.h"
 #include "window/confirmbox.h"
@@ -26,15 +27,6 @@ namespace {
 const QByteArray kFile = "# of this desk\n[poll]\ninterval = 7 # seconds\n\n"
                          "[thresholds]\ncharge-low = 30\ncharge-critical = 10\n\n"
                          "[device A]\naddress = sim:\n";
-
-QtMessageHandler testHandler = nullptr;
-
-// The offscreen platform complains of windows with a least size; all other warnings end the test.
-void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    if (!text.startsWith("This plugin does not support"))
-        testHandler(type == QtWarningMsg ? QtFatalMsg : type, context, text);
-}
 
 struct Desk {
     Desk()
@@ -108,11 +100,7 @@ class TestSettingsDialog : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        qunsetenv("QT_FATAL_WARNINGS");
-        testHandler = qInstallMessageHandler(passOn);
-    }
+    void initTestCase() { dropRemarksOfThePlatform(); }
 
     void changesReachTheFile()
     {
