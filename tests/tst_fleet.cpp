@@ -240,6 +240,8 @@ void TestFleet::goodAnswersKeepTheirPlace()
     QCOMPARE(plan.dueMs(), qint64(8000));
     plan.succeeded(8100);
     QCOMPARE(plan.dueMs(), qint64(11234));
+    plan.succeeded(11234); // in no time at all: not once more at once
+    QCOMPARE(plan.dueMs(), qint64(16234));
 }
 
 void TestFleet::pollsAreSpread()
