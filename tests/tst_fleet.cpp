@@ -304,6 +304,7 @@ void TestFleet::oldReadingIsNeverLive()
     QCOMPARE(device->link(), LinkState::Live);
     desk.clock.suspended += 3600 * 1000;
     QCOMPARE(device->link(), LinkState::Stale);
+    QCOMPARE(device->snapshot(SnapshotPage::Device).value(alarm_CommunicationsLost).toInt(), 1);
     QVERIFY(!device->message().isEmpty());
     QCOMPARE(device->condition().urgency, Urgency::Alarm);
 }
