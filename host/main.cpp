@@ -175,6 +175,14 @@ void watchDevices(const QVector<DeviceSettings>& devices, Fleet& fleet, WatchLis
         window.openDevice(fleet.at(0));
 }
 
+// What the configuration says at the start and whenever it has changed.
+void follow(const DeskConfig& config, OperatorSession& session, Fleet& fleet)
+{
+    session.setOperators(Operators(config.operators()));
+    session.setIdleTime(config.settings().idleLogout * kMsPerMinute);
+    fleet.setThresholds(config.settings().thresholds);
+}
+
 int runWindow(const WindowOptions& options)
 {
     const auto devices = devicesOf(options.addresses);
@@ -188,12 +196,7 @@ int runWindow(const WindowOptions& options)
     OperatorSession session;
     ActivityWatch watch(session);
     Fleet fleet(makeConnector);
-    const auto follow = [&session, &fleet](const DeskConfig& now) {
-        session.setOperators(Operators(now.operators()));
-        session.setIdleTime(now.settings().idleLogout * kMsPerMinute);
-        fleet.setThresholds(now.settings().thresholds);
-    };
-    follow(config);
+    follow(config, session, fleet);
     EventLog log;
     CommandDesk desk(fleet, log, [&session] {
         session.check();
@@ -207,7 +210,8 @@ int runWindow(const WindowOptions& options)
     WatchList list(fleet, config);
     QObject::connect(&list, &WatchList::secretsFailed, &window,
                      [&window](const QString& text) { window.tell(text, true); });
-    QObject::connect(&list, &WatchList::changed, &session, [&] { follow(list.config()); });
+    QObject::connect(&list, &WatchList::changed, &session,
+                     [&] { follow(list.config(), session, fleet); });
     followTheme(window, list, theme);
     const auto* operators = new OperatorDesk(session, list, desk, log, &window);
     if (!options.kiosk)

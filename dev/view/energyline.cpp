@@ -422,7 +422,7 @@ void Energyline::drawBattery(QPainter* painter)
     drawCap(painter, batteryRect, headRadius);
 }
 
-void Energyline::drawBatteryFill(QPainter* painter)
+QLinearGradient Energyline::fillGradient(int charge) const
 {
     struct FillColours {
         Qt::GlobalColor start, end;
@@ -430,9 +430,6 @@ void Energyline::drawBatteryFill(QPainter* painter)
     constexpr FillColours kAlarm{Qt::darkRed, Qt::red};
     constexpr FillColours kHalf{Qt::darkYellow, Qt::yellow};
     constexpr FillColours kNormal{Qt::darkGreen, Qt::green};
-
-    const PainterSaver saver(painter);
-    const int charge = bat_Cap.toInt();
     const FillColours colours = charge <= alarmValue    ? kAlarm
                                 : charge <= normalValue ? kHalf
                                                         : kNormal;
@@ -440,6 +437,13 @@ void Energyline::drawBatteryFill(QPainter* painter)
     QLinearGradient gradient(0.0, 0.0, 0.0, batteryRect.width());
     gradient.setColorAt(0.0, colours.start);
     gradient.setColorAt(1.0, colours.end);
+    return gradient;
+}
+
+void Energyline::drawBatteryFill(QPainter* painter)
+{
+    const PainterSaver saver(painter);
+    const int charge = bat_Cap.toInt();
 
     // The charge is not clamped: above 100 the fill leaves the body, below 0 it hangs below it.
     const int margin = static_cast<int>(std::min(batteryRect.width(), batteryRect.height()) / 20.0);
@@ -448,7 +452,7 @@ void Energyline::drawBatteryFill(QPainter* painter)
         QPointF(batteryRect.left() + margin, batteryRect.bottom() - charge * perCent - margin),
         QPointF(batteryRect.right() - margin, batteryRect.bottom() - margin));
     painter->setPen(Qt::NoPen);
-    painter->setBrush(gradient);
+    painter->setBrush(fillGradient(charge));
     painter->drawRoundedRect(fill, bgRadius, bgRadius);
 }
 

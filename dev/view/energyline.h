@@ -14,6 +14,7 @@
 #include <QVector>
 #include <QWidget>
 
+class QLinearGradient;
 class QPainter;
 class QTimer;
 class RealTimeBlock;
@@ -135,6 +136,7 @@ private:
     void takeElectricalValues(const RealTimeBlock& values);
     void takeFlows(int supply, int batteryStatus);
     void drawBatteryFill(QPainter* painter);
+    QLinearGradient fillGradient(int charge) const;
     void drawFigures(QPainter* painter);
     void drawPanel(QPainter* painter, const Panel& panel);
     QString valueOf(const PanelLine& line) const;

@@ -192,7 +192,18 @@ QString performanceOf(const Quantity& quantity, double value, const GivenLimits&
     return data;
 }
 
-// Of a live reading: what is beyond its limit, and all numbers for the graphs.
+QStringList figuresOf(const UpsReading& reading)
+{
+    QStringList performance;
+    for (const Figure& figure : kFigures)
+        if (const Value value = figure.valueOf(reading))
+            performance << QStringLiteral("'%1'=%2%3")
+                               .arg(QLatin1String(figure.label), numberText(*value),
+                                    QLatin1String(figure.unit));
+    return performance;
+}
+
+// Of a live reading: what is beyond its limit, and what is judged for the graphs.
 QStringList judgeAll(const UpsReading& reading, const GivenLimits& limits,
                      const Thresholds& thresholds, State& state, QStringList& texts)
 {
@@ -207,11 +218,6 @@ QStringList judgeAll(const UpsReading& reading, const GivenLimits& limits,
             texts << Tr::tr("%1 is not reported").arg(name);
         }
     }
-    for (const Figure& figure : kFigures)
-        if (const Value value = figure.valueOf(reading))
-            performance << QStringLiteral("'%1'=%2%3")
-                               .arg(QLatin1String(figure.label), numberText(*value),
-                                    QLatin1String(figure.unit));
     return performance;
 }
 
@@ -223,7 +229,8 @@ int report(const Device& device, const GivenLimits& limits, const Thresholds& th
         texts << device.message();
     QStringList performance;
     if (device.link() == LinkState::Live)
-        performance = judgeAll(*device.reading(), limits, thresholds, state, texts);
+        performance = judgeAll(*device.reading(), limits, thresholds, state, texts) +
+                      figuresOf(*device.reading());
     return finish(state, device.name() + QStringLiteral(": ") + texts.join(QStringLiteral(", ")),
                   performance.join(QLatin1Char(' ')));
 }

@@ -79,17 +79,22 @@ QJsonObject conditionJson(const Device& device)
             {"alarms", QJsonArray::fromStringList(condition.alarms)}};
 }
 
-QJsonObject jsonOf(const Device& device)
+QJsonArray alarmsJson(const Device& device)
 {
     QJsonArray alarms;
-    QJsonArray notes;
-    QJsonArray texts;
-    for (const auto& alarm : alarmsOf(device)) {
-        QJsonObject entry{{"text", alarm.second}};
-        if (alarm.first >= 0)
-            entry.insert("key", alarm.first);
+    for (const auto& [key, text] : alarmsOf(device)) {
+        QJsonObject entry{{"text", text}};
+        if (key >= 0)
+            entry.insert("key", key);
         alarms.append(entry);
     }
+    return alarms;
+}
+
+QJsonObject jsonOf(const Device& device)
+{
+    QJsonArray notes;
+    QJsonArray texts;
     if (const UpsReading* reading = device.reading()) {
         notes = QJsonArray::fromStringList(readingNotes(*reading));
         texts = QJsonArray::fromStringList(reading->alarmTexts);
@@ -100,7 +105,7 @@ QJsonObject jsonOf(const Device& device)
             {"condition", conditionJson(device)},
             {"values", valuesOf(device.snapshot(SnapshotPage::Device))},
             {"physical", physicalOf(device)},
-            {"alarms", alarms},
+            {"alarms", alarmsJson(device)},
             {"alarmTexts", texts},
             {"notes", notes}};
 }

@@ -51,8 +51,8 @@ ParsedAddress parseNut(const QUrl& url, DeviceAddress address)
     return {address, {}};
 }
 
-// What is wrong in the options; empty: they are read.
-QString readSnmpOptions(const QUrlQuery& query, DeviceAddress& address)
+// What is wrong; empty: all are known.
+QString unknownOption(const QUrlQuery& query)
 {
     const QStringList known{"version", "level", "auth", "priv", "context"};
     const auto items = query.queryItems();
@@ -60,10 +60,15 @@ QString readSnmpOptions(const QUrlQuery& query, DeviceAddress& address)
         if (!known.contains(item.first))
             return Tr::tr("unknown option \"%1\"; known are %2")
                 .arg(item.first.left(40), known.join(QStringLiteral(", ")));
+    return {};
+}
 
+// What is wrong in the options; empty: they are read.
+QString readSnmpOptions(const QUrlQuery& query, DeviceAddress& address)
+{
     QString version = QStringLiteral("2c");
-    QString error;
-    if (!readChoice(query, "version", {"1", "2", "2c", "3"}, version, error) ||
+    QString error = unknownOption(query);
+    if (!error.isEmpty() || !readChoice(query, "version", {"1", "2", "2c", "3"}, version, error) ||
         !readChoice(query, "level", DeviceAddress::securityLevels(), address.securityLevel,
                     error) ||
         !readChoice(query, "auth", DeviceAddress::authProtocols(), address.authProtocol, error) ||

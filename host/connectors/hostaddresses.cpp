@@ -33,6 +33,15 @@ QString numericText(const addrinfo& entry)
     return error == 0 ? QString::fromLatin1(text) : QString();
 }
 
+void putInOrder(QStringList& addresses)
+{
+    addresses.removeAll(QString());
+    addresses.removeDuplicates();
+    // Agents of many cards listen on IPv4 only.
+    std::stable_partition(addresses.begin(), addresses.end(),
+                          [](const QString& text) { return !text.contains(QLatin1Char(':')); });
+}
+
 } // namespace
 
 // Outlives the object that asked, as the resolver cannot be interrupted: neither a device that goes
@@ -56,11 +65,7 @@ HostAddresses::Found HostAddresses::askSystem(const QString& host)
     for (const addrinfo* entry = first; entry; entry = entry->ai_next)
         found.addresses << numericText(*entry);
     freeaddrinfo(first);
-    found.addresses.removeAll(QString());
-    found.addresses.removeDuplicates();
-    // Agents of many cards listen on IPv4 only.
-    std::stable_partition(found.addresses.begin(), found.addresses.end(),
-                          [](const QString& text) { return !text.contains(QLatin1Char(':')); });
+    putInOrder(found.addresses);
     if (found.addresses.isEmpty())
         found.error = failureText(host, EAI_NONAME);
     return found;

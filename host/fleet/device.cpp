@@ -122,18 +122,23 @@ void Device::checkPollLimit()
     }
 }
 
-void Device::takeResult(const PollResult& result)
+void Device::planNext(LinkState state)
 {
-    // An answer may have been under way for long: the machine may have slept meanwhile.
-    const qint64 asked = isPolling() ? m_pollStarted : m_clock.bootMs();
-    m_pollStarted = -1;
     // A silent driver is asked as often as a live one: its server answers, and it may be back soon.
-    if (result.state == LinkState::Live || result.state == LinkState::Stale)
+    if (state == LinkState::Live || state == LinkState::Stale)
         m_plan.succeeded(m_clock.monotonicMs());
     else
         m_plan.failed(m_clock.monotonicMs());
     if (std::exchange(m_followUp, false))
         m_plan.hurry(m_clock.monotonicMs());
+}
+
+void Device::takeResult(const PollResult& result)
+{
+    // An answer may have been under way for long: the machine may have slept meanwhile.
+    const qint64 asked = isPolling() ? m_pollStarted : m_clock.bootMs();
+    m_pollStarted = -1;
+    planNext(result.state);
     m_security = result.security;
     const bool isConfirmed =
         result.state != LinkState::Lost || m_link != LinkState::Live || m_plan.isSilenceConfirmed();

@@ -89,6 +89,7 @@ private:
         qint64 heardMs = 0; // boot ms of the last good reading in it
     };
 
+    void planNext(LinkState state);
     void takeResult(const PollResult& result);
     void takeReading(const UpsReading& reading, qint64 askedBootMs);
     qint64 pollLimitMs() const;

@@ -234,6 +234,20 @@ Condition stateCondition(ConditionKind kind)
     return condition;
 }
 
+// One line has room for one finding: the worst unless the state is worse, and else what only the
+// device can put into words.
+void tellInOneLine(const QVector<Finding>& findings, Condition& condition)
+{
+    const auto* told = std::find_if(findings.begin(), findings.end(), [&](const Finding& f) {
+        return f.urgency >= condition.urgency || f.subject == kOwnWords;
+    });
+    if (told == findings.end())
+        return;
+    condition.text = condition.state + QStringLiteral(", ") + told->after;
+    condition.urgency = std::max(condition.urgency, told->urgency);
+    condition.subject = told->subject;
+}
+
 Condition liveCondition(const UpsReading& reading, const Thresholds& thresholds,
                         const ConditionPast& past)
 {
@@ -247,17 +261,7 @@ Condition liveCondition(const UpsReading& reading, const Thresholds& thresholds,
     for (const Finding& finding : findings)
         condition.alarms << finding.text;
     condition.alarmUrgency = findings.first().urgency;
-
-    // One line has room for one finding: the worst unless the state is worse, and else what only
-    // the device can put into words.
-    const auto* told = std::find_if(findings.begin(), findings.end(), [&](const Finding& f) {
-        return f.urgency >= condition.urgency || f.subject == kOwnWords;
-    });
-    if (told == findings.end())
-        return condition;
-    condition.text = condition.state + QStringLiteral(", ") + told->after;
-    condition.urgency = std::max(condition.urgency, told->urgency);
-    condition.subject = told->subject;
+    tellInOneLine(findings, condition);
     return condition;
 }
 

@@ -1,5 +1,7 @@
 #include "notify/announcer.h"
 
+#include <utility>
+
 bool isPowerFailure(const Condition& condition)
 {
     return condition.kind == ConditionKind::Battery || condition.kind == ConditionKind::OutputOff ||
@@ -24,17 +26,15 @@ std::optional<Announcement> Announcer::polled(Key key, const QString& name,
         told.candidate = condition;
         return {};
     }
-    const Urgency before = told.last.urgency;
-    const bool wasTrouble = isTrouble(told.last);
-    told.last = condition;
+    const Condition before = std::exchange(told.last, condition);
     told.candidate.reset();
-    if (!isTrouble(condition) && !wasTrouble)
+    if (!isTrouble(condition) && !isTrouble(before))
         return {};
     Announcement announcement;
     announcement.device = name;
     announcement.condition = condition;
     announcement.since = since;
-    announcement.isRecovery = !isTrouble(condition) && wasTrouble;
-    announcement.weight = announcement.isRecovery ? before : condition.urgency;
+    announcement.isRecovery = !isTrouble(condition);
+    announcement.weight = announcement.isRecovery ? before.urgency : condition.urgency;
     return announcement;
 }

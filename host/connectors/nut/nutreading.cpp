@@ -387,6 +387,19 @@ void readEvents(const NutVariables& variables, UpsReading& reading)
         reading.alarmTexts << text;
 }
 
+void readIdentity(const NutVariables& variables, const QByteArray& description,
+                  const QString& upsName, UpsReading& reading)
+{
+    for (const TextRow& row : kTexts)
+        for (const char* name : row.names)
+            if (name && (reading.*row.target).isEmpty())
+                reading.*row.target = cleanDeviceText(variables.value(name));
+    if (reading.name.isEmpty())
+        reading.name = cleanDeviceText(description);
+    if (reading.name.isEmpty())
+        reading.name = cleanDeviceText(upsName);
+}
+
 } // namespace
 
 bool isPrivateNutVariable(const QByteArray& name)
@@ -402,14 +415,7 @@ UpsReading readingFromNut(const NutVariables& variables, const QByteArray& descr
         for (const char* name : row.names)
             if (name && !(reading.*row.target))
                 reading.*row.target = plausibleNumber(variables.value(name));
-    for (const TextRow& row : kTexts)
-        for (const char* name : row.names)
-            if (name && (reading.*row.target).isEmpty())
-                reading.*row.target = cleanDeviceText(variables.value(name));
-    if (reading.name.isEmpty())
-        reading.name = cleanDeviceText(description);
-    if (reading.name.isEmpty())
-        reading.name = cleanDeviceText(upsName);
+    readIdentity(variables, description, upsName, reading);
     const QByteArray beeper = variables.value("ups.beeper.status").trimmed();
     for (const BeeperRow& row : kBeepers)
         if (beeper == row.text)

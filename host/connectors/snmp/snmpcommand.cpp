@@ -51,6 +51,13 @@ Refusal refusalOf(int errorStatus)
     }
 }
 
+quint32 testOf(CommandKind kind)
+{
+    if (kind == CommandKind::CancelTest)
+        return AbortTest;
+    return kind == CommandKind::SelfTest ? QuickBatteryTest : DeepBatteryCalibration;
+}
+
 } // namespace
 
 SnmpCommand::SnmpCommand(const UpsCommand& command, const Limits& limits)
@@ -175,14 +182,12 @@ void SnmpCommand::prepareTest()
         return finish(CommandOutcome::NotOffered, tr("The device has no test objects."));
 
     m_before = m_seen;
-    const quint32 test = cancel                                    ? AbortTest
-                         : m_command.kind == CommandKind::SelfTest ? QuickBatteryTest
-                                                                   : DeepBatteryCalibration;
     std::vector<SnmpVariable> setting;
     // The lock and the test go out together, so that of two who start a test only one succeeds.
     if (const std::optional<qint64> lock = number(testSpinLock))
         setting.push_back({testSpinLock, SnmpValue::number(*lock)});
-    setting.push_back({testId, SnmpValue::objectId(wellKnownTests + SnmpOid{test})});
+    setting.push_back(
+        {testId, SnmpValue::objectId(wellKnownTests + SnmpOid{testOf(m_command.kind)})});
     m_settings = {setting};
     m_phase = Phase::Set;
 }

@@ -188,7 +188,7 @@ std::optional<int> countedLines(const SnmpValues& values, const LineGroupRow& gr
     return static_cast<int>(*count);
 }
 
-LineReading linesOf(const SnmpValues& values, const LineGroupRow& group)
+LineReading rowsOf(const SnmpValues& values, const LineGroupRow& group)
 {
     LineReading lines;
     for (const ColumnRow& column : group.columns) {
@@ -202,7 +202,12 @@ LineReading linesOf(const SnmpValues& values, const LineGroupRow& group)
                            phases[line - 1] = physical(*raw, column.unit);
                    });
     }
+    return lines;
+}
 
+LineReading linesOf(const SnmpValues& values, const LineGroupRow& group)
+{
+    LineReading lines = rowsOf(values, group);
     const std::optional<int> counted = countedLines(values, group, lines);
     lines.lines = counted ? counted : linesOfRows(lines);
 
