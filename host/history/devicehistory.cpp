@@ -65,6 +65,11 @@ qint64 knownEnd(const JournalEntry& entry, const std::optional<TimeRange>& exten
     return extent ? std::max(entry.onsetMs, extent->toMs) : entry.onsetMs;
 }
 
+qint64 longestStep(qint64 intervalMs)
+{
+    return static_cast<qint64>(static_cast<double>(intervalMs) * kMissingPolls);
+}
+
 qint64 longestStep(const HistorySeries& series, qint64 intervalMs)
 {
     QVector<qint64> steps;
@@ -76,7 +81,7 @@ qint64 longestStep(const HistorySeries& series, qint64 intervalMs)
         std::nth_element(steps.begin(), middle, steps.end());
         usual = std::max(usual, *middle);
     }
-    return static_cast<qint64>(static_cast<double>(usual) * kMissingPolls);
+    return longestStep(usual);
 }
 
 QVector<QPair<int, int>> unbrokenRuns(const HistorySeries& series, int column, qint64 longestStepMs)

@@ -30,8 +30,10 @@ struct DeviceHistory {
 // longer.
 qint64 knownEnd(const JournalEntry& entry, const std::optional<TimeRange>& extent);
 
-// How long the device was silent between two samples that are still neighbours, in ms: some polls
-// may be missing. interval: of its polls now; it may have been another one when it was recorded.
+// How long a device may be silent between two samples that are still neighbours, in ms: a poll or
+// two may be missing.
+qint64 longestStep(qint64 intervalMs);
+// The same where the polls may have come at another interval when they were recorded.
 qint64 longestStep(const HistorySeries& series, qint64 intervalMs);
 
 // First and last row of each stretch in which that column (an index in quantities) has values

@@ -1,5 +1,6 @@
 #include "window/devicepage.h"
 
+#include "window/chartfeed.h"
 #include "window/controlnotice.h"
 #include "window/deviceheading.h"
 #include "window/devicesummary.h"
@@ -47,13 +48,6 @@ constexpr int kBetweenPiecesMs = 2;
 // Tabs of the device view.
 constexpr int kEnergyFlowTab = 0;
 constexpr int kControlTab = 3;
-
-enum ChartPage { SinglePhasePage, ThreePhasePage };
-
-bool isThreePhase(const UpsReading& reading)
-{
-    return shownLines(reading.input) == kPhases || shownLines(reading.output) == kPhases;
-}
 
 // A view keeps its least size, its own or a larger one, and scrolls where the window is smaller.
 QScrollArea* makePlace()
@@ -164,10 +158,12 @@ QWidget* DevicePage::makeDeviceView()
 
 QWidget* DevicePage::makeCharts()
 {
-    m_charts = new ChartForm(nullptr);
-    m_charts->setCurrentName(m_device.name());
-    giveThemeGrounds(*m_charts);
-    return m_charts;
+    auto* charts = new ChartForm(nullptr);
+    charts->setCurrentName(m_device.name());
+    giveThemeGrounds(*charts);
+    m_chartFeed = new ChartFeed(m_device, *charts, charts);
+    m_chartFeed->setReader(m_reader);
+    return charts;
 }
 
 QWidget* DevicePage::makeTable()
@@ -188,6 +184,8 @@ QWidget* DevicePage::makeHistory()
 void DevicePage::setHistory(HistoryReader* reader)
 {
     m_reader = reader;
+    if (m_chartFeed)
+        m_chartFeed->setReader(reader);
     if (m_history)
         m_history->setReader(reader);
 }
@@ -352,15 +350,7 @@ void DevicePage::feedDeviceView()
 
 void DevicePage::feedCharts()
 {
-    if (m_device.readingNumber() == m_chartedReading)
-        return;
-    const int page = isThreePhase(*m_device.reading()) ? ThreePhasePage : SinglePhasePage;
-    if (m_chartedReading < 0 || m_charts->getCurrentIndex() != page) {
-        m_charts->setCurrentIndex(page);
-        m_charts->initFormInfo(false);
-    }
-    m_chartedReading = m_device.readingNumber();
-    m_charts->refreshFormInfo(m_device.snapshot(SnapshotPage::Chart));
+    m_chartFeed->refresh();
 }
 
 void DevicePage::feedTable()

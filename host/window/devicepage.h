@@ -12,7 +12,7 @@
 #include <QVector>
 #include <QWidget>
 
-class ChartForm;
+class ChartFeed;
 class ChildForm;
 class ControlNotice;
 class DeviceHeading;
@@ -114,15 +114,14 @@ private:
     LinkCover* m_cover;
     ChildForm* m_view = nullptr;
     QTabWidget* m_viewPages = nullptr; // the device view's own tabs
-    ChartForm* m_charts = nullptr;
+    ChartFeed* m_chartFeed = nullptr;
     RTDataForm* m_table = nullptr;
     HistoryPage* m_history = nullptr;
     QPointer<HistoryReader> m_reader;
     QVector<Building> m_buildings; // in the order of kViews
     QTimer m_builder;
-    QColor m_ground;              // of the device view, as last set
-    int m_tab = 0;                // of the device view, also while there is none yet
-    qint64 m_chartedReading = -1; // number of the reading that the charts saw last
+    QColor m_ground; // of the device view, as last set
+    int m_tab = 0;   // of the device view, also while there is none yet
 };
 
 #endif // DEVICEPAGE_H
