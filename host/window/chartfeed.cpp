@@ -72,6 +72,7 @@ void ChartFeed::takeStored(const QVector<StoredReading>& stored)
         next = older->timeMs;
     }
     m_filler.start(0);
+    emit storedTaken();
 }
 
 void ChartFeed::refresh()

@@ -36,6 +36,9 @@ public:
     // Shows the device's reading if it is a new one.
     void refresh();
 
+signals:
+    void storedTaken(); // what is stored, if anything, is part of what will be shown
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

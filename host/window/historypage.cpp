@@ -29,7 +29,7 @@ namespace {
 constexpr int kPatienceMs = 150; // before a question counts as slow
 constexpr int kRowsPerPixel = 2; // asked for: there is as much again at the sides
 constexpr int kLeastRows = 600;
-constexpr int kMostRows = 4000;
+constexpr int kMostRows = 2000;
 constexpr qint64 kSideShare = 4;       // a quarter of what is shown is asked for at each side
 constexpr qint64 kRefreshShare = 1000; // of what is shown, after which it is asked for again
 constexpr qint64 kShortestRefreshMs = 2000;
