@@ -116,7 +116,7 @@ QString WatchList::remove(Device* device)
     if (const QString barrier = whyNot(); !barrier.isEmpty())
         return barrier;
     if (isConfigured(device)) {
-        const DeviceSettings before = device->settings();
+        const DeviceSettings& before = device->settings();
         const QString reason =
             save([&](DeskConfig& config) { return config.removeDevice(before.name); });
         if (!reason.isEmpty())

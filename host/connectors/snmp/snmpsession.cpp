@@ -78,11 +78,13 @@ constexpr int kLibraryVersions[] = {SNMP_VERSION_1, SNMP_VERSION_2c, SNMP_VERSIO
 // the file of that number.
 constexpr int kNoDescriptor = 0;
 
+constexpr int kOwnerSize = sizeof(void*); // a transport carries a pointer to its session
+
 SnmpSession* ownerOf(const netsnmp_transport* transport)
 {
     SnmpSession* owner = nullptr;
     if (transport->data)
-        memcpy(&owner, transport->data, sizeof(owner));
+        memcpy(&owner, transport->data, kOwnerSize);
     return owner;
 }
 
@@ -177,9 +179,9 @@ netsnmp_transport* SnmpSession::makeTransport(SnmpSession* self)
     transport->f_send = &SnmpSession::onSend;
     transport->f_recv = &SnmpSession::onReceive;
     transport->f_close = [](netsnmp_transport*) { return 0; };
-    transport->data = malloc(sizeof(self)); // freed by the library
+    transport->data = malloc(kOwnerSize); // freed by the library
     if (transport->data)
-        memcpy(transport->data, &self, transport->data_length = sizeof(self));
+        memcpy(transport->data, &self, transport->data_length = kOwnerSize);
     return transport;
 }
 
