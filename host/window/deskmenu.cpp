@@ -26,6 +26,8 @@ constexpr ItemRow kItems[] = {
      false, true, false},
     {DeskMenu::ViewMenu, DeskMenu::AllDevices, "AllDevices",
      QT_TRANSLATE_NOOP("DeskMenu", "&All devices"), "Ctrl+0", false, false, false},
+    {DeskMenu::ViewMenu, DeskMenu::Journal, "Journal", QT_TRANSLATE_NOOP("DeskMenu", "&Journal"),
+     "Ctrl+J", false, false, false},
     {DeskMenu::ViewMenu, DeskMenu::Filter, "Filter",
      QT_TRANSLATE_NOOP("DeskMenu", "&Filter the list"), "Ctrl+F", false, false, false},
     {DeskMenu::ViewMenu, DeskMenu::ShowList, "ShowList",

@@ -20,6 +20,7 @@ public:
     enum Item {
         Quit,
         AllDevices,
+        Journal,
         Filter,
         ShowList,
         ShowEvents,

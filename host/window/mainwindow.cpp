@@ -10,6 +10,7 @@
 #include "window/eventdock.h"
 #include "window/firstrunstrip.h"
 #include "window/helpdialogs.h"
+#include "window/journalpage.h"
 #include "window/logindialog.h"
 #include "window/overviewpage.h"
 #include "window/pagestack.h"
@@ -70,6 +71,9 @@ MainWindow::~MainWindow() = default;
 void MainWindow::setUpDesk()
 {
     m_pages = new PageStack(m_desk, m_overview);
+    m_journal = new JournalPage(m_session);
+    m_pages->addWidget(m_journal);
+    connect(m_journal, &JournalPage::told, this, &MainWindow::tell);
     m_side = new SidePanel(*m_model, m_session);
     connect(m_side, &SidePanel::overviewWanted, this, &MainWindow::openOverview);
     connect(m_side, &SidePanel::loginWanted, this, &MainWindow::askWhoIsThere);
@@ -132,6 +136,7 @@ struct MainWindow::ItemRow {
 
 const MainWindow::ItemRow MainWindow::kItems[] = {
     {DeskMenu::AllDevices, &MainWindow::openOverview, nullptr},
+    {DeskMenu::Journal, &MainWindow::openJournal, nullptr},
     {DeskMenu::Filter, &MainWindow::findInList, nullptr},
     {DeskMenu::ShowList, nullptr, &MainWindow::showList},
     {DeskMenu::ShowEvents, nullptr, &MainWindow::showEvents},
@@ -299,6 +304,14 @@ void MainWindow::openOverview()
     choiceChanged();
 }
 
+void MainWindow::openJournal()
+{
+    m_pages->setCurrentWidget(m_journal);
+    m_side->select(nullptr);
+    setWindowTitle(tr("Journal - upsdesk"));
+    choiceChanged();
+}
+
 void MainWindow::openDevice(Device* device)
 {
     if (!device->reading())
@@ -312,8 +325,11 @@ void MainWindow::openDevice(Device* device)
 
 void MainWindow::setHistory(const DeskHistory& history)
 {
-    connect(&history, &DeskHistory::started, this,
-            [this, &history] { m_pages->setHistory(history.reader()); });
+    connect(&history, &DeskHistory::started, this, [this, &history] {
+        m_pages->setHistory(history.reader());
+        if (m_journal)
+            m_journal->setStore(history.reader(), history.writer());
+    });
 }
 
 void MainWindow::setTroubleCount(int count)
@@ -351,7 +367,8 @@ void MainWindow::tell(const QString& text, bool isBad)
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && currentPage())
+    const bool isElsewhere = currentPage() || (m_journal && m_journal->isVisible());
+    if (event->key() == Qt::Key_Escape && isElsewhere)
         openOverview();
     else
         QMainWindow::keyPressEvent(event);

@@ -22,6 +22,7 @@ class DeviceListModel;
 class DevicePage;
 class EventDock;
 class FirstRunStrip;
+class JournalPage;
 class OverviewPage;
 class PageStack;
 class QPushButton;
@@ -57,9 +58,11 @@ public:
     void markTheme(ThemeChoice choice);
     // All devices as tiles.
     void openOverview();
+    // What happened, from the store; at a desk only.
+    void openJournal();
     // Must be there as long as the window is used.
     void setHistory(const DeskHistory& history);
-    // The page on show, null before a device is chosen and on the overview.
+    // The page on show, null before a device is chosen, on the overview and in the journal.
     DevicePage* currentPage() const;
     // How many devices need somebody: in the title.
     void setTroubleCount(int count);
@@ -120,6 +123,7 @@ private:
     SidePanel* m_side = nullptr;
     QSplitter* m_splitter = nullptr;
     EventDock* m_events = nullptr;
+    JournalPage* m_journal = nullptr;
     DeviceActions* m_actions = nullptr;
     QPushButton* m_wayBack = nullptr; // on a wall only
     std::unique_ptr<ConnectionTest> m_test;

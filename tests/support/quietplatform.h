@@ -5,7 +5,7 @@
 // end the test, as they do in the other programs.
 // May touch: Qt Core.
 
-#include <QtGlobal>
+#include <QString>
 
 inline QtMessageHandler& handlerOfTest()
 {
