@@ -12,6 +12,7 @@
 #include "window/linkcover.h"
 #include "window/logindialog.h"
 #include "window/mainwindow.h"
+#include "window/overviewpage.h"
 
 #include "childform.h"
 #include "energyline.h"
@@ -253,7 +254,7 @@ void TestDevicePage::listFiltersAndSorts()
         return names;
     };
     QCOMPARE(names(), QStringList({"Alpha", "Beta", "Gamma"}));
-    sorted.setWorstFirst(true);
+    sorted.setOrder(DeviceSortModel::Order::WorstFirst);
     QCOMPARE(names(), QStringList({"Beta", "Alpha", "Gamma"}));
     desk.connectors[2]->answer(LinkState::Lost);
     desk.answer(1, onMains());
@@ -283,9 +284,25 @@ void TestDevicePage::groupsAreSections()
         return rows;
     };
     QCOMPARE(rows(), QStringList({"Beta", "# Gamma", "# Alpha", "Delta"}));
+
+    QWidget window;
+    OverviewPage overview(model, &window);
+    overview.showGroups(true);
+    window.resize(900, 700);
+    overview.resize(window.size());
+    window.show();
+    const auto* tiles = overview.findChild<QListView*>();
+    const auto tile = [&](int row) { return tiles->visualRect(tiles->model()->index(row, 0)); };
+    for (int row : {1, 2}) // each begins a section: below the row before, with room for its name
+        QTRY_VERIFY(tile(row).left() == tile(0).left() &&
+                    tile(row).top() > tile(row - 1).bottom() + tiles->fontMetrics().height());
+    QCOMPARE(tile(3).top(), tile(2).top());
+    overview.showGroups(false);
+    QTRY_COMPARE(tile(1).top(), tile(0).top());
+
     sorted.setFilterFixedString("south");
     QCOMPARE(rows(), QStringList({"# Alpha", "Delta"}));
-    sorted.setWorstFirst(true);
+    sorted.setOrder(DeviceSortModel::Order::WorstFirst);
     QCOMPARE(rows(), QStringList({"Alpha", "Delta"}));
 }
 

@@ -39,6 +39,15 @@ int drawElided(QPainter* painter, const QRect& rect, int flags, const QString& t
     return metrics.horizontalAdvance(shown);
 }
 
+// What makes the tile's colour stands first.
+QString compactText(const Condition& condition)
+{
+    const bool alarmsFirst = condition.alarmUrgency >= condition.urgency;
+    const QStringList state(condition.state);
+    const QStringList words = alarmsFirst ? condition.alarms + state : state + condition.alarms;
+    return words.join(QStringLiteral(" \u00b7 "));
+}
+
 } // namespace
 
 struct DeviceTileDelegate::Tile {
@@ -117,8 +126,7 @@ void DeviceTileDelegate::drawCompact(const Tile& tile) const
     drawElided(painter, line, kLeft, tile.device.name());
     line.translate(0, line.height());
     painter->setFont(sized(tile, kCompactStateSize, false));
-    const QStringList words = tile.condition.alarms + QStringList(tile.condition.state);
-    drawElided(painter, line, kLeft, words.first());
+    drawElided(painter, line, kLeft, compactText(tile.condition));
 }
 
 void DeviceTileDelegate::drawFrame(const Tile& tile) const

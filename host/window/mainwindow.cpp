@@ -78,6 +78,9 @@ void MainWindow::setUpDesk()
     connect(m_side, &SidePanel::overviewWanted, this, &MainWindow::openOverview);
     connect(m_side, &SidePanel::loginWanted, this, &MainWindow::askWhoIsThere);
     connect(m_side, &SidePanel::filterChanged, m_overview, &OverviewPage::setFilter);
+    m_overview->showGroups(true);
+    connect(m_side, &SidePanel::worstFirstChanged, m_overview,
+            [this](bool on) { m_overview->showGroups(!on); });
     connect(m_side, &SidePanel::deviceSelected, this, [this](Device* device) {
         if (device)
             openDevice(device);

@@ -1,37 +1,37 @@
 #include "window/overviewpage.h"
 
 #include "window/devicelistmodel.h"
-#include "window/devicesortmodel.h"
 #include "window/devicetiledelegate.h"
+#include "window/tileview.h"
 
 #include <QLabel>
-#include <QListView>
 #include <QScrollBar>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+
+namespace {
+
+constexpr double kLeastFullScale = 0.85; // below, full tiles are no longer read in passing
+
+} // namespace
 
 OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
     , m_sorted(new DeviceSortModel(this))
     , m_delegate(new DeviceTileDelegate(this))
-    , m_tiles(new QListView)
+    , m_tiles(new TileView(*m_sorted))
     , m_counts(new QLabel)
     , m_nothing(new QLabel)
 {
     m_sorted->setSourceModel(&model);
-    m_sorted->setWorstFirst(true);
+    m_sorted->setOrder(DeviceSortModel::Order::WorstFirst);
     m_counts->setObjectName(QStringLiteral("OverviewCounts"));
     m_tiles->setObjectName(QStringLiteral("OverviewTiles"));
     m_tiles->setAccessibleName(tr("All devices"));
     m_tiles->setModel(m_sorted);
     m_tiles->setItemDelegate(m_delegate);
-    m_tiles->setViewMode(QListView::IconMode);
-    m_tiles->setMovement(QListView::Static);
-    m_tiles->setResizeMode(QListView::Adjust);
-    m_tiles->setUniformItemSizes(true);
     m_tiles->setSelectionMode(QAbstractItemView::NoSelection);
     m_tiles->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_tiles->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -54,7 +54,7 @@ OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     m_nothing->hide();
     column->addWidget(m_nothing, 1);
     connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::showCounts);
-    connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::fitTilesToCount);
+    connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::fitTilesToSections);
     showCounts();
 }
 
@@ -96,12 +96,17 @@ void OverviewPage::setLargestScale(double scale)
     fitTiles();
 }
 
-void OverviewPage::fitTilesToCount()
+void OverviewPage::showGroups(bool on)
 {
-    if (m_sorted->rowCount() == m_fittedCount)
-        return;
-    m_fittedCount = m_sorted->rowCount();
+    m_sorted->setOrder(on ? DeviceSortModel::Order::WorstOfEachGroup
+                          : DeviceSortModel::Order::WorstFirst);
     fitTiles();
+}
+
+void OverviewPage::fitTilesToSections()
+{
+    if (m_sorted->sections() != m_fitted)
+        fitTiles();
 }
 
 // Tiles of one row are equally wide, and as large as still shows all of them. Where full ones do
@@ -110,41 +115,54 @@ void OverviewPage::fitTiles()
 {
     using Form = DeviceTileDelegate::Form;
     constexpr double kCompactScale = 1.8; // beyond, there is room for full tiles
-    if (!fitTilesOf(static_cast<int>(Form::Full), m_largestScale))
-        fitTilesOf(static_cast<int>(Form::Compact), m_largestScale * kCompactScale);
+    m_fitted = m_sorted->sections();
+    if (!fitTilesOf(static_cast<int>(Form::Full), kLeastFullScale, m_largestScale))
+        fitTilesOf(static_cast<int>(Form::Compact), 1, m_largestScale * kCompactScale);
     m_tiles->doItemsLayout();
 }
 
-bool OverviewPage::fitTilesOf(int form, double largestScale)
+bool OverviewPage::fitTilesOf(int form, double leastScale, double largestScale)
 {
+    constexpr double kWidest = 1.5; // times its width at that scale; beyond, a tile looks empty
     const auto tileForm = static_cast<DeviceTileDelegate::Form>(form);
     const QSize least = DeviceTileDelegate::leastSize(tileForm);
     const int room = m_tiles->width() - m_tiles->verticalScrollBar()->sizeHint().width() - 2;
-    const int most = std::max(room / least.width(), 1);
-    const int count = std::max(m_sorted->rowCount(), 1);
-    const auto scaleOf = [&](int columns) {
-        const double fits = static_cast<double>(room) / columns / least.width();
-        return std::clamp(fits, 1.0, largestScale);
-    };
-    const auto isRoomFor = [&](int columns) {
-        const int rows = (count + columns - 1) / columns;
-        return rows * static_cast<int>(least.height() * scaleOf(columns)) <= m_tiles->height();
-    };
-    int columns = 1;
-    while (columns < most) {
-        const bool tooWide = room / columns > least.width() * largestScale * 1.5;
-        if (!tooWide && isRoomFor(columns))
-            break;
-        ++columns;
+    const int most = std::max(static_cast<int>(room / (least.width() * leastScale)), 1);
+    int columns = most;
+    double scale = 0;
+    for (int tried = 1; tried <= most; ++tried) {
+        if (tried < most && room / tried > least.width() * largestScale * kWidest)
+            continue;
+        const double widest = static_cast<double>(room) / tried / least.width();
+        const double fits =
+            scaleThatFits(tried, least.height(), leastScale, std::min(widest, largestScale));
+        if (fits > scale) {
+            columns = tried;
+            scale = fits;
+        }
     }
-    m_delegate->setTile(tileForm, room / columns, scaleOf(columns));
-    return isRoomFor(columns);
+    m_delegate->setTile(tileForm, room / columns, std::max(scale, leastScale));
+    return scale > 0;
+}
+
+// The largest scale at which all tiles find room in so many columns; 0 where there is none.
+double OverviewPage::scaleThatFits(int columns, int height, double least, double largest) const
+{
+    constexpr double kStep = 0.05;
+    const auto fits = [&](double scale) {
+        return TileView::heightOf(m_fitted, columns, static_cast<int>(height * scale),
+                                  m_tiles->fontMetrics()) <= m_tiles->height();
+    };
+    for (double scale = largest; scale > least; scale -= kStep)
+        if (fits(scale))
+            return scale;
+    return fits(least) ? least : 0;
 }
 
 void OverviewPage::setFilter(const QString& text)
 {
     m_sorted->setFilterFixedString(text);
-    fitTilesToCount();
+    fitTilesToSections();
     const bool nothing = m_model.rowCount() > 0 && m_sorted->rowCount() == 0;
     m_nothing->setVisible(nothing);
     m_tiles->setVisible(!nothing);

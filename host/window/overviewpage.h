@@ -1,17 +1,18 @@
 #ifndef OVERVIEWPAGE_H
 #define OVERVIEWPAGE_H
 
-// All devices as tiles, the most urgent first.
+// All devices as tiles, the most urgent first; or group by group, the most urgent of each first.
 // May touch: the device list model.
+
+#include "window/devicesortmodel.h"
 
 #include <QWidget>
 
 class Device;
 class DeviceListModel;
-class DeviceSortModel;
 class DeviceTileDelegate;
 class QLabel;
-class QListView;
+class TileView;
 
 class OverviewPage : public QWidget
 {
@@ -24,6 +25,8 @@ public:
     void setLargestScale(double scale);
     // The line of counts above the tiles; shown unless somebody else shows it larger.
     void setCountsShown(bool shown);
+    // Each group in rows of its own, or all devices together.
+    void showGroups(bool on);
     // Scrolls to the rows below those on show; after the last ones to the first.
     void showNextRows();
     // Shows the devices that the text is found in.
@@ -40,17 +43,18 @@ protected:
 private:
     void showCounts();
     void fitTiles();
-    void fitTilesToCount();
-    bool fitTilesOf(int form, double largestScale);
+    void fitTilesToSections();
+    bool fitTilesOf(int form, double leastScale, double largestScale);
+    double scaleThatFits(int columns, int height, double least, double largest) const;
 
     DeviceListModel& m_model;
     DeviceSortModel* m_sorted;
     DeviceTileDelegate* m_delegate;
-    QListView* m_tiles;
+    TileView* m_tiles;
     QLabel* m_counts;
     QLabel* m_nothing;
     double m_largestScale = 1.25;
-    int m_fittedCount = 0; // devices that the size of the tiles is for
+    QVector<DeviceSection> m_fitted; // that the size of the tiles is for
 };
 
 #endif // OVERVIEWPAGE_H

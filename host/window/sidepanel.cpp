@@ -55,7 +55,11 @@ QWidget* SidePanel::makeHead()
             &QSortFilterProxyModel::setFilterFixedString);
     connect(m_filter, &QLineEdit::textChanged, this, &SidePanel::filterChanged);
     m_worstFirst->setObjectName(QStringLiteral("WorstFirstBox"));
-    connect(m_worstFirst, &QCheckBox::toggled, m_sorted, &DeviceSortModel::setWorstFirst);
+    connect(m_worstFirst, &QCheckBox::toggled, this, [this](bool on) {
+        m_sorted->setOrder(on ? DeviceSortModel::Order::WorstFirst
+                              : DeviceSortModel::Order::Groups);
+        emit worstFirstChanged(on);
+    });
 
     auto* head = new QWidget;
     auto* column = new QVBoxLayout(head);

@@ -42,6 +42,7 @@ signals:
     void deviceSelected(Device* device); // null: none
     void overviewWanted();
     void loginWanted();
+    void worstFirstChanged(bool on);
     void filterChanged(const QString& text);
 
 private:

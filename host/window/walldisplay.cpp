@@ -17,6 +17,13 @@ constexpr double kAcrossTheRoom = 2.5; // times the size at a desk
 constexpr int kTurnMs = 12 * 1000;
 constexpr int kCursorRestMs = 3000;
 constexpr int kClockMs = 1000;
+// pt, of counts and clock
+constexpr int kLargestHead = 32;
+constexpr int kLeastHead = 12;
+constexpr int kHeadStep = 4;
+// px
+constexpr int kHeadMargin = 18;
+constexpr int kHeadGap = 36; // behind each text, at least
 
 } // namespace
 
@@ -24,20 +31,22 @@ WallDisplay::WallDisplay(OverviewPage* overview, DeviceListModel& model, QWidget
     : QWidget(parent)
     , m_overview(overview)
     , m_model(model)
+    , m_head(new QWidget)
     , m_counts(new QHBoxLayout)
     , m_clock(new QLabel)
 {
     overview->setLargestScale(kAcrossTheRoom);
     overview->setCountsShown(false);
     m_clock->setObjectName(QStringLiteral("WallClock"));
-    auto* head = new QHBoxLayout;
-    head->setContentsMargins(18, 8, 18, 0);
+    m_head->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // its letters shrink instead
+    auto* head = new QHBoxLayout(m_head);
+    head->setContentsMargins(kHeadMargin, 8, kHeadMargin, 0);
     head->addLayout(m_counts);
     head->addStretch(1);
     head->addWidget(m_clock);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addLayout(head);
+    column->addWidget(m_head);
     column->addWidget(overview, 1);
 
     connect(&model, &DeviceListModel::refreshed, this, &WallDisplay::showCounts);
@@ -89,4 +98,27 @@ void WallDisplay::showCounts()
             QStringLiteral("color: %1;").arg(urgencyTextColor(count.first, palette()).name()));
         m_counts->addWidget(label);
     }
+    fitHead();
+}
+
+// As large as leaves room for all counts and the clock.
+void WallDisplay::fitHead()
+{
+    const auto widthAt = [this](int points) {
+        const QFontMetrics metrics(QFont(font().family(), points, QFont::Bold));
+        int width = 2 * kHeadMargin;
+        for (const QLabel* label : m_head->findChildren<QLabel*>())
+            width += metrics.horizontalAdvance(label->text()) + kHeadGap;
+        return width;
+    };
+    int points = kLargestHead;
+    while (points > kLeastHead && widthAt(points) > width())
+        points -= kHeadStep;
+    m_head->setStyleSheet(QStringLiteral("QLabel { font-size: %1pt; }").arg(points));
+}
+
+void WallDisplay::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    fitHead();
 }

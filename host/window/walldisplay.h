@@ -23,14 +23,17 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void showCounts();
+    void fitHead();
     void showTime();
     void wakeCursor();
 
     OverviewPage* m_overview;
     DeviceListModel& m_model;
+    QWidget* m_head;
     QHBoxLayout* m_counts;
     QLabel* m_clock;
     QTimer m_turn;
