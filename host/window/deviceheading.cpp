@@ -13,6 +13,12 @@
 
 namespace {
 
+// px
+constexpr int kMargin = 16;
+constexpr int kFigureGap = 28;
+constexpr int kStateGap = 10;
+constexpr std::size_t kFiguresLastToGo[] = {1, 0, 2}; // what is left counts most
+
 constexpr int kShortestText = 1; // characters that are never cut
 constexpr int kMostAlarms = 4;   // in words; the alarm page has them all
 
@@ -32,8 +38,8 @@ DeviceHeading::DeviceHeading(QWidget* parent)
 {
     setObjectName(QStringLiteral("DeviceHeading"));
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 10, 16, 10);
-    row->setSpacing(28);
+    row->setContentsMargins(kMargin, 10, kMargin, 10);
+    row->setSpacing(kFigureGap);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
     row->addLayout(texts, 1);
@@ -44,7 +50,7 @@ DeviceHeading::DeviceHeading(QWidget* parent)
     texts->addLayout(makeAgeLine());
     std::size_t number = 0;
     for (const DeviceFigure& figure : deviceFigures(nullptr))
-        row->addLayout(makeFigure(m_figures[number++], figure.caption));
+        row->addWidget(makeFigure(m_figures[number++], figure.caption));
 }
 
 ElidedLabel* DeviceHeading::addLine(QLayout* layout, const char* name)
@@ -58,7 +64,7 @@ ElidedLabel* DeviceHeading::addLine(QLayout* layout, const char* name)
 QLayout* DeviceHeading::makeStateLine()
 {
     auto* line = new QHBoxLayout;
-    line->setSpacing(10);
+    line->setSpacing(kStateGap);
     m_condition = addLine(line, "HeadingCondition");
     m_since = addLine(line, "HeadingSmall");
     line->addStretch(1);
@@ -82,9 +88,11 @@ QLayout* DeviceHeading::makeAgeLine()
     return line;
 }
 
-QLayout* DeviceHeading::makeFigure(QLabel*& figure, const QString& caption)
+QWidget* DeviceHeading::makeFigure(QLabel*& figure, const QString& caption)
 {
-    auto* column = new QVBoxLayout;
+    auto* box = new QWidget;
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     figure = new QLabel;
     figure->setTextFormat(Qt::PlainText);
@@ -97,7 +105,26 @@ QLayout* DeviceHeading::makeFigure(QLabel*& figure, const QString& caption)
     column->addWidget(figure);
     column->addWidget(label);
     column->addStretch(1);
-    return column;
+    return box;
+}
+
+// At a narrow width the condition stays whole: first "since" goes, then the figures.
+void DeviceHeading::fitWidth()
+{
+    int room = width() - 2 * kMargin - m_condition->sizeHint().width();
+    for (std::size_t number : kFiguresLastToGo) {
+        QWidget* box = m_figures[number]->parentWidget();
+        const int needed = box->sizeHint().width() + kFigureGap;
+        box->setVisible(needed <= room);
+        room -= box->isHidden() ? 0 : needed;
+    }
+    m_since->setVisible(m_since->sizeHint().width() + kStateGap <= room);
+}
+
+void DeviceHeading::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    fitWidth();
 }
 
 void DeviceHeading::show(const Device& device)
@@ -109,6 +136,7 @@ void DeviceHeading::show(const Device& device)
                    device.address());
     showFigures(device);
     showNotes(device.reading());
+    fitWidth();
 }
 
 void DeviceHeading::showCondition(const Condition& condition)

@@ -25,11 +25,15 @@ public:
 
     void show(const Device& device);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     ElidedLabel* addLine(QLayout* layout, const char* name);
     QLayout* makeStateLine();
     QLayout* makeAgeLine();
-    QLayout* makeFigure(QLabel*& figure, const QString& caption);
+    QWidget* makeFigure(QLabel*& figure, const QString& caption);
+    void fitWidth();
     void showCondition(const Condition& condition);
     void showFigures(const Device& device);
     void showNotes(const UpsReading* reading);

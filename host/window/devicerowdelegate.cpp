@@ -49,6 +49,62 @@ QRect paintSection(QPainter* painter, const QStyleOptionViewItem& option, const 
     return option.rect.adjusted(0, line.height(), 0, 0);
 }
 
+struct RowColors {
+    QColor strong;
+    QColor state;
+    QColor soft;
+};
+
+RowColors colorsOf(const QStyleOptionViewItem& option, Urgency urgency)
+{
+    const bool selected = option.state & QStyle::State_Selected;
+    const auto ground = selected ? QPalette::Highlight : QPalette::Window;
+    RowColors colors;
+    colors.strong = option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+    colors.state = selected || urgency <= Urgency::Notice
+                       ? colors.strong
+                       : urgencyTextColor(urgency, option.palette);
+    colors.soft = fadedColor(colors.strong, option.palette.color(ground));
+    return colors;
+}
+
+// In one line of the row: on the left what may be cut, on the right what may not.
+void writeLine(QPainter* painter, const QRect& line, const QString& left, const QString& right = {})
+{
+    const QFontMetrics metrics = painter->fontMetrics();
+    const int rightWidth = right.isEmpty() ? 0 : metrics.horizontalAdvance(right) + kMargin;
+    painter->drawText(line, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, right);
+    painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                      metrics.elidedText(left, Qt::ElideRight, line.width() - rightWidth));
+}
+
+void writeLines(QPainter* painter, const QStyleOptionViewItem& option, const Device& device)
+{
+    const Condition condition = device.condition();
+    const RowColors colors = colorsOf(option, condition.urgency);
+    QRect line = option.rect.adjusted(kMarkerWidth + kMargin, kMargin, -kMargin, 0);
+    line.setHeight(option.fontMetrics.height());
+    const auto nextLine = [&line] { line.translate(0, line.height() + kLineGap); };
+
+    QFont bold = option.font;
+    bold.setBold(true);
+    painter->setFont(bold);
+    painter->setPen(colors.strong);
+    writeLine(painter, line, device.name());
+    painter->setFont(option.font);
+
+    // At a narrow width the condition stays and the age goes.
+    nextLine();
+    const QString age = ageText(device.ageMs());
+    const int needed = option.fontMetrics.horizontalAdvance(condition.text + age) + kMargin;
+    painter->setPen(colors.state);
+    writeLine(painter, line, condition.text, needed <= line.width() ? age : QString());
+
+    nextLine();
+    painter->setPen(colors.soft);
+    writeLine(painter, line, device.address());
+}
+
 } // namespace
 
 void DeviceRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -57,51 +113,18 @@ void DeviceRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     const Device* device = DeviceListModel::deviceAt(index);
     if (!device)
         return;
-    QStyleOptionViewItem background = option;
+    QStyleOptionViewItem row = option;
     if (startsSection(index))
-        background.rect = paintSection(painter, option, index);
-    const QRect room = background.rect;
-    background.text.clear();
+        row.rect = paintSection(painter, option, index);
+    row.text.clear();
     const QWidget* widget = option.widget;
     (widget ? widget->style() : QApplication::style())
-        ->drawPrimitive(QStyle::PE_PanelItemViewItem, &background, painter, widget);
-
-    const bool selected = option.state & QStyle::State_Selected;
-    const auto role = selected ? QPalette::HighlightedText : QPalette::Text;
-    const QColor strong = option.palette.color(role);
-    const auto ground = selected ? QPalette::Highlight : QPalette::Window;
-    const QColor soft = fadedColor(strong, option.palette.color(ground));
-    const Condition condition = device->condition();
+        ->drawPrimitive(QStyle::PE_PanelItemViewItem, &row, painter, widget);
 
     const PainterSaver saver(painter);
-    const QRect marker(room.left(), room.top() + 1, kMarkerWidth, room.height() - 2);
-    painter->fillRect(marker, urgencyColor(condition.urgency));
-
-    QRect line = room.adjusted(kMarkerWidth + kMargin, kMargin, -kMargin, 0);
-    line.setHeight(option.fontMetrics.height());
-    const auto writeLine = [&](const QString& left, const QString& right, const QColor& color) {
-        painter->setPen(color);
-        const QFontMetrics metrics = painter->fontMetrics();
-        const int rightWidth = right.isEmpty() ? 0 : metrics.horizontalAdvance(right) + kMargin;
-        painter->drawText(line, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, right);
-        painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                          metrics.elidedText(left, Qt::ElideRight, line.width() - rightWidth));
-        line.translate(0, line.height() + kLineGap);
-    };
-    QFont bold = option.font;
-    bold.setBold(true);
-    painter->setFont(bold);
-    writeLine(device->name(), {}, strong);
-    painter->setFont(option.font);
-    const QColor stateColor = selected || condition.urgency <= Urgency::Notice
-                                  ? strong
-                                  : urgencyTextColor(condition.urgency, option.palette);
-    // At a narrow width the condition stays and the age goes.
-    const QString age = ageText(device->ageMs());
-    const QFontMetrics metrics = painter->fontMetrics();
-    const bool fits = metrics.horizontalAdvance(condition.text + age) + kMargin <= line.width();
-    writeLine(condition.text, fits ? age : QString(), stateColor);
-    writeLine(device->address(), {}, soft);
+    const QRect marker(row.rect.left(), row.rect.top() + 1, kMarkerWidth, row.rect.height() - 2);
+    painter->fillRect(marker, urgencyColor(device->condition().urgency));
+    writeLines(painter, row, *device);
 }
 
 QSize DeviceRowDelegate::sizeHint(const QStyleOptionViewItem& option,

@@ -2,6 +2,8 @@
 
 #include "window/urgencycolors.h"
 
+#include <QApplication>
+
 EventListModel::EventListModel(EventLog& log, QObject* parent)
     : QIdentityProxyModel(parent)
 {
@@ -16,6 +18,6 @@ QVariant EventListModel::data(const QModelIndex& index, int role) const
             .arg(index.data(Qt::DisplayRole).toString().toHtmlEscaped());
     if (role == Qt::ForegroundRole && index.column() == EventLog::Outcome &&
         index.data(EventLog::BadRole).toBool())
-        return urgencyColor(Urgency::Critical);
+        return urgencyTextColor(Urgency::Critical, QApplication::palette());
     return QIdentityProxyModel::data(index, role);
 }

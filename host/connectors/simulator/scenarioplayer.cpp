@@ -20,11 +20,15 @@ ScenarioPlayer::ScenarioPlayer(const Scenario& scenario, quint32 seed)
 UpsReading ScenarioPlayer::reading() const
 {
     UpsReading reading = m_ups.reading();
-    if (m_scenario.pace > 1)
+    if (m_scenario.pace > 1) {
+        // What shows the name shows that the minutes are none of the clock's.
+        reading.name = QCoreApplication::translate("ScenarioPlayer", "Simulated day, %1x")
+                           .arg(m_scenario.pace);
         reading.notes << QCoreApplication::translate(
                              "ScenarioPlayer", "Simulated day, %1x: the battery lives so much "
                                                "faster; what is ordered takes its own time.")
                              .arg(m_scenario.pace);
+    }
     return reading;
 }
 
