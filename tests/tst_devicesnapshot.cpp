@@ -241,7 +241,10 @@ void TestDeviceSnapshot::phases()
     const QStringList notes = readingNotes(reading);
     QCOMPARE(notes.size(), lines == 2 ? 2 : 1);
     QVERIFY(notes.last().contains("battery voltage")); // not given, and so shown as 0
+    QVERIFY(notes.last().contains("rated active power"));
     QVERIFY(!notes.last().contains("bypass voltage"));
+    reading.bypass.voltage[1] = {};
+    QCOMPARE(readingNotes(reading).last().contains("bypass voltage of line 2"), shown == 3);
     QVERIFY(notes.last().contains("bypass frequency"));
 }
 

@@ -210,32 +210,6 @@ constexpr ShownValue kShownValues[] = {
      [](const UpsReading& r) { return r.batteryCurrent.has_value(); }},
     {QT_TRANSLATE_NOOP("DeviceSnapshot", "battery temperature"),
      [](const UpsReading& r) { return r.batteryTemperature.has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input voltage"),
-     [](const UpsReading& r) { return r.input.voltage[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input current"),
-     [](const UpsReading& r) { return r.input.current[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input frequency"),
-     [](const UpsReading& r) { return r.input.frequency[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input power"),
-     [](const UpsReading& r) { return r.input.power[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output voltage"),
-     [](const UpsReading& r) { return r.output.voltage[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output current"),
-     [](const UpsReading& r) { return r.output.current[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output frequency"),
-     [](const UpsReading& r) { return r.output.frequency[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output power"),
-     [](const UpsReading& r) { return r.output.power[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "load"),
-     [](const UpsReading& r) { return r.output.load[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass voltage"),
-     [](const UpsReading& r) { return r.bypass.voltage[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass current"),
-     [](const UpsReading& r) { return r.bypass.current[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass frequency"),
-     [](const UpsReading& r) { return r.bypass.frequency[0].has_value(); }},
-    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass power"),
-     [](const UpsReading& r) { return r.bypass.power[0].has_value(); }},
     {QT_TRANSLATE_NOOP("DeviceSnapshot", "time on battery"),
      [](const UpsReading& r) { return r.secondsOnBattery.has_value(); }},
     {QT_TRANSLATE_NOOP("DeviceSnapshot", "number of mains failures"),
@@ -250,7 +224,59 @@ constexpr ShownValue kShownValues[] = {
      [](const UpsReading& r) { return r.ratedOutputFrequency.has_value(); }},
     {QT_TRANSLATE_NOOP("DeviceSnapshot", "rated apparent power"),
      [](const UpsReading& r) { return r.ratedApparentPower.has_value(); }},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "rated active power"),
+     [](const UpsReading& r) { return r.ratedPower.has_value(); }},
 };
+
+// The same of values that each line shows its own of.
+struct ShownLineValue {
+    const char* label;
+    LineReading UpsReading::*group;
+    PhaseValues LineReading::*values;
+    bool isCommon = false; // one for all lines
+};
+
+constexpr ShownLineValue kShownLineValues[] = {
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input voltage"), &UpsReading::input,
+     &LineReading::voltage},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input current"), &UpsReading::input,
+     &LineReading::current},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input frequency"), &UpsReading::input,
+     &LineReading::frequency, true},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "input power"), &UpsReading::input, &LineReading::power},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output voltage"), &UpsReading::output,
+     &LineReading::voltage},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output current"), &UpsReading::output,
+     &LineReading::current},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output frequency"), &UpsReading::output,
+     &LineReading::frequency, true},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "output power"), &UpsReading::output, &LineReading::power},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "load"), &UpsReading::output, &LineReading::load},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass voltage"), &UpsReading::bypass,
+     &LineReading::voltage},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass current"), &UpsReading::bypass,
+     &LineReading::current},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass frequency"), &UpsReading::bypass,
+     &LineReading::frequency, true},
+    {QT_TRANSLATE_NOOP("DeviceSnapshot", "bypass power"), &UpsReading::bypass, &LineReading::power},
+};
+
+// Empty where all lines that are shown are given.
+QString unreportedLines(const ShownLineValue& row, const UpsReading& reading)
+{
+    const LineReading& group = reading.*row.group;
+    const int lines = row.isCommon ? 1 : shownLines(group);
+    QStringList missing;
+    for (int line = 0; line < lines; ++line)
+        if (!(group.*row.values)[static_cast<std::size_t>(line)])
+            missing << QString::number(line + 1);
+    if (missing.isEmpty())
+        return {};
+    const QString label = Tr::tr(row.label);
+    return missing.size() == lines
+               ? label
+               : Tr::tr("%1 of line %2").arg(label, missing.join(Tr::tr(" and ")));
+}
 
 QString unreportedNote(const UpsReading& reading)
 {
@@ -258,6 +284,9 @@ QString unreportedNote(const UpsReading& reading)
     for (const ShownValue& value : kShownValues)
         if (!value.isGiven(reading))
             labels << Tr::tr(value.label);
+    for (const ShownLineValue& row : kShownLineValues)
+        if (const QString label = unreportedLines(row, reading); !label.isEmpty())
+            labels << label;
     return labels.isEmpty()
                ? QString()
                : Tr::tr("Not reported, shown as 0: %1.").arg(labels.join(QStringLiteral(", ")));
