@@ -13,6 +13,7 @@
 #include "openfilelimit.h"
 #include "operators/operatorsession.h"
 #include "promptexit.h"
+#include "quitsignals.h"
 #include "window/activitywatch.h"
 #include "window/deviceactions.h"
 #include "window/mainwindow.h"
@@ -235,6 +236,7 @@ int runWindow(const WindowOptions& options)
     if (config.settings().history.mode == HistoryMode::Desk)
         history.start(config.settings().history, config.settings().secrets);
     openWindow(window, options, state);
+    quitOnSignals();
     const int result = QApplication::exec();
     if (!options.kiosk)
         window.state().save();
