@@ -73,15 +73,24 @@ bool WatchList::isConfigured(const Device* device) const
 
 // Changes
 
-QString WatchList::add(const DeviceSettings& device)
+QString WatchList::add(const QVector<DeviceSettings>& devices)
 {
-    const QString reason = save([&](DeskConfig& config) { return config.addDevice(device); });
+    const QString reason = save([&](DeskConfig& config) {
+        QString refusal;
+        for (const DeviceSettings& device : devices)
+            if (refusal.isEmpty())
+                refusal = config.addDevice(device);
+        return refusal;
+    });
     if (!reason.isEmpty())
         return reason;
-    m_secrets.keep({}, device);
-    append(settingsOf(device.name, device));
+    for (const DeviceSettings& device : devices) {
+        m_secrets.keep({}, device);
+        append(settingsOf(device.name, device));
+    }
     fetchSecrets();
-    emit edited(device.name, tr("Device added"));
+    for (const DeviceSettings& device : devices)
+        emit edited(device.name, tr("Device added"));
     emit changed();
     return {};
 }

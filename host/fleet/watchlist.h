@@ -49,7 +49,8 @@ public:
 
     // Each returns why it was refused; empty: done and saved. A file that was changed by another
     // program meanwhile is read again, the fleet follows it, and the reason says so.
-    QString add(const DeviceSettings& device);
+    QString add(const DeviceSettings& device) { return add(QVector<DeviceSettings>{device}); }
+    QString add(const QVector<DeviceSettings>& devices); // all or none, in one write
     // Replaces the device in the fleet, so that the pointer ends here; may rename it. The settings
     // may be those of the device itself.
     QString change(Device* device, const DeviceSettings& settings);

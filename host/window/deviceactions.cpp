@@ -125,11 +125,7 @@ void DeviceActions::addSeveral()
     DeviceSettings fresh;
     fresh.pollInterval = m_list.config().settings().pollInterval;
     const auto save = [this](const QVector<DeviceSettings>& devices) {
-        QString reason;
-        for (const DeviceSettings& device : devices)
-            if (reason.isEmpty())
-                reason = m_list.add(device);
-        return reason;
+        return m_list.add(devices);
     };
     auto* dialog = new FindDevicesDialog(fresh, otherNames({}), m_maker, save, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
