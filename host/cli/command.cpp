@@ -8,6 +8,7 @@
 #include "cli/subcommands.h"
 #include "connectors/factory/connectorfactory.h"
 #include "connectors/upscommand.h"
+#include "fleet/commandterms.h"
 
 #include <QTextStream>
 
@@ -19,15 +20,25 @@ namespace {
 // A result may be a test's begin or a tracked command's end; nothing takes longer to be told.
 constexpr int kResultLimitSeconds = 90;
 
+// In the desk's words: what becomes of the output, and how much load loses power.
+QString questionAbout(const UpsCommand& command, Device& device)
+{
+    if (!takesLoadDown(command.kind))
+        return QStringLiteral("%1: %2?").arg(device.name(), commandSentence(command));
+    pollOnce(device);
+    return QCoreApplication::translate("Command", "%1. Send it?")
+        .arg(commandWarning(command, device));
+}
+
 // Only a person at a terminal can say yes.
-bool isConfirmed(const QString& question)
+bool isConfirmed(const UpsCommand& command, Device& device)
 {
     if (!isatty(STDIN_FILENO)) {
         printError(QCoreApplication::translate(
             "Command", "nobody to ask: run it on a terminal, or say --yes"));
         return false;
     }
-    QTextStream(stdout) << question << QStringLiteral(" [y/N] ") << Qt::flush;
+    QTextStream(stdout) << questionAbout(command, device) << QStringLiteral(" [y/N] ") << Qt::flush;
     const QString answer = QTextStream(stdin).readLine().trimmed().toLower();
     return answer == QLatin1String("y") || answer == QLatin1String("yes");
 }
@@ -48,9 +59,8 @@ int exitCodeOf(CommandOutcome outcome)
     return ExitNotReachable;
 }
 
-int carryOut(const DeviceSettings& settings, const UpsCommand& command)
+int carryOut(Device& device, const UpsCommand& command)
 {
-    Device device(settings, makeConnector(settings), FleetClock::system(), 0);
     const CommandResult result = sendOnce(device, command, kResultLimitSeconds);
     printOut(result.message.isEmpty()
                  ? outcomeLabel(result.outcome)
@@ -82,9 +92,8 @@ int runCommand(const QStringList& arguments)
         return ExitUsage;
 
     request.command->id = 1;
-    const QString question = QCoreApplication::translate("Command", "%1: %2?")
-                                 .arg(settings->displayName(), commandSentence(*request.command));
-    if (!parser.isSet(yes) && !isConfirmed(question))
+    Device device(*settings, makeConnector(*settings), FleetClock::system(), 0);
+    if (!parser.isSet(yes) && !isConfirmed(*request.command, device))
         return ExitRefused;
-    return carryOut(*settings, *request.command);
+    return carryOut(device, *request.command);
 }

@@ -1,6 +1,6 @@
 #include "window/logindialog.h"
 
-#include "window/plainlabel.h"
+#include "window/dialogmessage.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -19,7 +19,7 @@ LoginDialog::LoginDialog(OperatorSession& session, bool hasOperators, QWidget* p
     , m_session(session)
     , m_name(new QLineEdit)
     , m_password(new QLineEdit)
-    , m_message(new PlainLabel)
+    , m_message(new DialogMessage)
     , m_logIn(new QPushButton(tr("Log in")))
 {
     setObjectName(QStringLiteral("LoginDialog"));
@@ -51,20 +51,19 @@ LoginDialog::LoginDialog(OperatorSession& session, bool hasOperators, QWidget* p
         setBusy(false);
         m_password->clear();
         m_password->setFocus();
-        m_message->setText(reason);
+        m_message->say(reason, DialogMessage::Tone::Bad);
     });
     if (!hasOperators) {
         m_name->setEnabled(false);
         m_password->setEnabled(false);
         m_logIn->setEnabled(false);
-        m_message->setText(tr("There are no operators yet. Add one in the settings, under "
-                              "Operators."));
+        say(tr("There are no operators yet. Add one in the settings, under Operators."));
     }
 }
 
 void LoginDialog::say(const QString& text)
 {
-    m_message->setText(text);
+    m_message->say(text, DialogMessage::Tone::Hint);
 }
 
 void LoginDialog::reject()
@@ -86,5 +85,5 @@ void LoginDialog::logIn()
 void LoginDialog::setBusy(bool busy)
 {
     m_logIn->setEnabled(!busy);
-    m_message->setText(busy ? tr("Checking \u2026") : QString());
+    say(busy ? tr("Checking \u2026") : QString());
 }

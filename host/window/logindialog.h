@@ -8,7 +8,7 @@
 
 #include <QDialog>
 
-class QLabel;
+class DialogMessage;
 class QLineEdit;
 class QPushButton;
 
@@ -31,7 +31,7 @@ private:
     OperatorSession& m_session;
     QLineEdit* m_name;
     QLineEdit* m_password;
-    QLabel* m_message;
+    DialogMessage* m_message;
     QPushButton* m_logIn;
 };
 
