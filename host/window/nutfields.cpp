@@ -39,7 +39,12 @@ NutFields::NutFields(QWidget* parent)
     m_user->setMaxLength(kLongestName);
     m_user->setPlaceholderText(tr("for commands only"));
     m_password->setObjectName(QStringLiteral("PasswordEdit"));
+    layOut();
+    connectFields();
+}
 
+void NutFields::layOut()
+{
     auto* form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("&Host"), m_host);
@@ -51,7 +56,10 @@ NutFields::NutFields(QWidget* parent)
     form->addRow(tr("U&ser"), m_user);
     form->addRow(tr("Pass&word"), m_password);
     m_trust = new NutTrustFields(form, this);
+}
 
+void NutFields::connectFields()
+{
     connect(m_host, &HostPort::edited, this, [this] {
         forgetList();
         m_trust->showCertificate({});

@@ -32,6 +32,8 @@ public:
     QString proposedName() const override;
 
 private:
+    void layOut();
+    void connectFields();
     void ask();
     void takeList(const QVector<NutUpsEntry>& devices, const QString& error);
     void forgetList();

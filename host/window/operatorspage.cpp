@@ -19,6 +19,20 @@ OperatorsPage::OperatorsPage(WatchList& list, const HashLimits& limits, QWidget*
     , m_change(new QPushButton(tr("&Change\u2026")))
     , m_remove(new QPushButton(tr("&Remove\u2026")))
 {
+    layOut();
+    connect(m_change, &QPushButton::clicked, this, [this] { openDialog(current()); });
+    connect(m_table, &QTreeWidget::itemActivated, this, [this] { openDialog(current()); });
+    connect(m_remove, &QPushButton::clicked, this, &OperatorsPage::remove);
+    connect(m_table, &QTreeWidget::itemSelectionChanged, this, [this] {
+        for (QPushButton* button : {m_change, m_remove})
+            button->setEnabled(!current().name.isEmpty());
+    });
+    connect(&list, &WatchList::changed, this, &OperatorsPage::refresh);
+    refresh();
+}
+
+void OperatorsPage::layOut()
+{
     m_table->setObjectName(QStringLiteral("OperatorTable"));
     m_table->setAccessibleName(tr("Operators"));
     m_table->setHeaderLabels({tr("Name"), tr("Level")});
@@ -45,15 +59,6 @@ OperatorsPage::OperatorsPage(WatchList& list, const HashLimits& limits, QWidget*
     column->addWidget(note);
 
     connect(add, &QPushButton::clicked, this, [this] { openDialog({}); });
-    connect(m_change, &QPushButton::clicked, this, [this] { openDialog(current()); });
-    connect(m_table, &QTreeWidget::itemActivated, this, [this] { openDialog(current()); });
-    connect(m_remove, &QPushButton::clicked, this, &OperatorsPage::remove);
-    connect(m_table, &QTreeWidget::itemSelectionChanged, this, [this] {
-        for (QPushButton* button : {m_change, m_remove})
-            button->setEnabled(!current().name.isEmpty());
-    });
-    connect(&list, &WatchList::changed, this, &OperatorsPage::refresh);
-    refresh();
 }
 
 void OperatorsPage::refresh()

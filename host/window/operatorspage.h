@@ -25,6 +25,7 @@ signals:
     void said(const QString& text, bool isBad);
 
 private:
+    void layOut();
     void refresh();
     void openDialog(const OperatorAccount& account);
     void remove();

@@ -49,6 +49,14 @@ SnmpFields::SnmpFields(QWidget* parent)
     , m_privSecret(new SecretEdit)
     , m_context(new QLineEdit)
 {
+    fillChoices();
+    layOut();
+    connectFields();
+    showAddress(DeviceAddress());
+}
+
+void SnmpFields::fillChoices()
+{
     for (const VersionRow& row : kVersions)
         m_version->addItem(QLatin1String(row.label), row.version);
     const QStringList levels = DeviceAddress::securityLevels();
@@ -57,7 +65,12 @@ SnmpFields::SnmpFields(QWidget* parent)
     m_authProtocol->addItems(DeviceAddress::authProtocols());
     m_privProtocol->addItems(DeviceAddress::privProtocols());
     m_context->setPlaceholderText(tr("the agent's own"));
+    m_user->setMaxLength(kLongestName);
+    m_context->setMaxLength(kLongestName);
+}
 
+void SnmpFields::layOut()
+{
     const struct {
         QWidget* field;
         const char* name;
@@ -79,6 +92,10 @@ SnmpFields::SnmpFields(QWidget* parent)
         row.field->setObjectName(QLatin1String(row.name));
         m_form->addRow(row.label, row.field);
     }
+}
+
+void SnmpFields::connectFields()
+{
     connect(m_host, &HostPort::edited, this, &AddressFields::edited);
     for (QComboBox* box : {m_version, m_level, m_authProtocol, m_privProtocol})
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
@@ -86,11 +103,8 @@ SnmpFields::SnmpFields(QWidget* parent)
             emit edited();
         });
     const QLineEdit* const edits[] = {m_community, m_user, m_context, m_authSecret, m_privSecret};
-    m_user->setMaxLength(kLongestName);
-    m_context->setMaxLength(kLongestName);
     for (const QLineEdit* edit : edits)
         connect(edit, &QLineEdit::textChanged, this, &AddressFields::edited);
-    showAddress(DeviceAddress());
 }
 
 void SnmpFields::setTakesRange()

@@ -35,6 +35,9 @@ public:
     static constexpr int kShortestSecret = 8; // octets; RFC 3414 asks for them
 
 private:
+    void fillChoices();
+    void layOut();
+    void connectFields();
     int version() const;
     bool authenticates() const;
     bool encrypts() const;
