@@ -404,51 +404,65 @@ void SimulatedUps::readBattery(UpsReading& reading) const
     reading.batteryTemperature = m_temperature;
 }
 
+double SimulatedUps::mainsFrequency() const
+{
+    return m_mains ? kNominalFrequency + kFrequencyWander * m_frequency.value() : 0;
+}
+
+double SimulatedUps::inputPower() const
+{
+    double rectified = std::max(0.0, batteryPower());
+    if (source() == OutputSource::Utility)
+        rectified += outputPower() / kInverterEfficiency;
+    return m_mains ? rectified / kRectifierEfficiency + m_profile.idlePower : 0;
+}
+
 void SimulatedUps::readPowerPath(UpsReading& reading) const
 {
-    const OutputSource from = source();
-    const bool bypassed = from == OutputSource::Bypass;
-    const double mainsFrequency =
-        m_mains ? kNominalFrequency + kFrequencyWander * m_frequency.value() : 0;
-    // The inverter follows the mains while there are any.
-    const double outputFrequency = m_mains ? mainsFrequency : kNominalFrequency;
-    const double powerFactor = m_profile.ratedPower / m_profile.ratedApparentPower;
-
-    double rectified = std::max(0.0, batteryPower());
-    if (from == OutputSource::Utility)
-        rectified += outputPower() / kInverterEfficiency;
-    const double inputPower = m_mains ? rectified / kRectifierEfficiency + m_profile.idlePower : 0;
-
-    reading.outputSource = from;
+    reading.outputSource = source();
     reading.inputLineBads = m_lineBads;
     for (LineReading* group : {&reading.input, &reading.output, &reading.bypass})
         group->lines = m_profile.lines;
-
     for (int line = 0; line < m_profile.lines; ++line) {
-        const double mains = mainsVoltage(line);
-        const double inverter = kNominalVoltage + kInverterWander * m_lines[line].inverter.value();
-        const double output = !m_outputOn ? 0 : bypassed ? mains : inverter;
-        const double load = lineLoad(line);
-        const double outputLinePower = load * m_profile.ratedPower / m_profile.lines;
-        const double outputCurrent = m_outputOn ? outputLinePower / (output * powerFactor) : 0;
-        const double inputLinePower = inputPower / m_profile.lines;
-
-        reading.input.voltage[line] = mains;
-        reading.input.frequency[line] = mainsFrequency;
-        reading.input.power[line] = inputLinePower;
-        reading.input.current[line] = m_mains ? inputLinePower / (mains * kInputPowerFactor) : 0;
-
-        reading.output.voltage[line] = output;
-        reading.output.frequency[line] = m_outputOn ? outputFrequency : 0;
-        reading.output.power[line] = outputLinePower;
-        reading.output.current[line] = outputCurrent;
-        reading.output.load[line] = load * 100;
-
-        reading.bypass.voltage[line] = mains;
-        reading.bypass.frequency[line] = mainsFrequency;
-        reading.bypass.power[line] = bypassed ? outputLinePower : 0;
-        reading.bypass.current[line] = bypassed ? outputCurrent : 0;
+        readInput(line, reading.input);
+        readOutput(line, reading.output);
+        readBypass(line, reading.output, reading.bypass);
     }
+}
+
+void SimulatedUps::readInput(int line, LineReading& input) const
+{
+    const double mains = mainsVoltage(line);
+    const double power = inputPower() / m_profile.lines;
+    input.voltage[line] = mains;
+    input.frequency[line] = mainsFrequency();
+    input.power[line] = power;
+    input.current[line] = m_mains ? power / (mains * kInputPowerFactor) : 0;
+}
+
+void SimulatedUps::readOutput(int line, LineReading& output) const
+{
+    const bool bypassed = source() == OutputSource::Bypass;
+    const double inverter = kNominalVoltage + kInverterWander * m_lines[line].inverter.value();
+    const double voltage = !m_outputOn ? 0 : bypassed ? mainsVoltage(line) : inverter;
+    // The inverter follows the mains while there are any.
+    const double frequency = m_mains ? mainsFrequency() : kNominalFrequency;
+    const double power = lineLoad(line) * m_profile.ratedPower / m_profile.lines;
+    const double powerFactor = m_profile.ratedPower / m_profile.ratedApparentPower;
+    output.voltage[line] = voltage;
+    output.frequency[line] = m_outputOn ? frequency : 0;
+    output.power[line] = power;
+    output.current[line] = m_outputOn ? power / (voltage * powerFactor) : 0;
+    output.load[line] = lineLoad(line) * 100;
+}
+
+void SimulatedUps::readBypass(int line, const LineReading& output, LineReading& bypass) const
+{
+    const bool carries = source() == OutputSource::Bypass;
+    bypass.voltage[line] = mainsVoltage(line);
+    bypass.frequency[line] = mainsFrequency();
+    bypass.power[line] = carries ? output.power[line] : Value(0);
+    bypass.current[line] = carries ? output.current[line] : Value(0);
 }
 
 void SimulatedUps::readAlarms(UpsReading& reading) const

@@ -81,13 +81,18 @@ private:
     double runtime() const;
     double lineLoad(int line) const;     // of the line's rating, as drawn from the output
     double mainsVoltage(int line) const; // V
-    double outputPower() const;          // W, all lines
-    double batteryPower() const;         // W at the terminals, negative while discharging
+    double mainsFrequency() const;
+    double inputPower() const;   // W
+    double outputPower() const;  // W, all lines
+    double batteryPower() const; // W at the terminals, negative while discharging
     double batteryVoltage() const;
     BatteryState batteryState() const;
 
     void readBattery(UpsReading& reading) const;
     void readPowerPath(UpsReading& reading) const;
+    void readInput(int line, LineReading& input) const;
+    void readOutput(int line, LineReading& output) const;
+    void readBypass(int line, const LineReading& output, LineReading& bypass) const;
     void readAlarms(UpsReading& reading) const;
     void readPlate(UpsReading& reading) const;
 
