@@ -28,6 +28,12 @@ constexpr struct {
     {QT_TRANSLATE_NOOP("HelpDialogs", "Back to all devices"), "Esc"},
     {QT_TRANSLATE_NOOP("HelpDialogs", "In the list: add, edit, remove a device"), "Ins, F2, Del"},
     {QT_TRANSLATE_NOOP("HelpDialogs", "In the list: move a device"), "Alt+Up, Alt+Down"},
+    {QT_TRANSLATE_NOOP("HelpDialogs", "In the history: earlier, later; by a whole length"),
+     "Left, Right; PgUp, PgDn"},
+    {QT_TRANSLATE_NOOP("HelpDialogs", "In the history: less, more time"), "+, -"},
+    {QT_TRANSLATE_NOOP("HelpDialogs", "In the history: the values of another row"),
+     "Shift+Left, Shift+Right"},
+    {QT_TRANSLATE_NOOP("HelpDialogs", "In the history: the oldest, the present"), "Home, End"},
 };
 
 void tell(QWidget* parent, const char* name, const QString& title, const QString& text)

@@ -42,6 +42,8 @@ constexpr int kChartsHeight = 600; // px, of the whole, before it is as high as 
 constexpr int kMargin = 8;         // px
 constexpr int kSpacing = 4;        // px
 
+const QString kBetween = QStringLiteral("  \u00b7  ");
+
 QToolButton* makeButton(const QString& text, const QString& name, const QString& help)
 {
     auto* button = new QToolButton;
@@ -57,7 +59,7 @@ QToolButton* makeButton(const QString& text, const QString& name, const QString&
 const QVector<HistoryPage::Span>& HistoryPage::spans()
 {
     static const QVector<Span> all{
-        {QT_TR_NOOP("1 hour"), kMsPerHour},    {QT_TR_NOOP("6 hours"), 6 * kMsPerHour},
+        {QT_TR_NOOP("1 h"), kMsPerHour},       {QT_TR_NOOP("6 h"), 6 * kMsPerHour},
         {QT_TR_NOOP("Day"), kMsPerDay},        {QT_TR_NOOP("Week"), 7 * kMsPerDay},
         {QT_TR_NOOP("Month"), 30 * kMsPerDay}, {QT_TR_NOOP("Year"), 365 * kMsPerDay},
     };
@@ -170,7 +172,7 @@ void HistoryPage::addMoveButtons(QHBoxLayout* row)
 
 void HistoryPage::addMenus(QHBoxLayout* row)
 {
-    auto* charts = makeButton(tr("Charts  "), tr("Which charts are shown"), QString());
+    auto* charts = makeButton(tr("Charts"), tr("Which charts are shown"), QString());
     auto* chartMenu = new QMenu(charts);
     for (const HistoryChart& chart : historyCharts()) {
         QAction* action = chartMenu->addAction(chartTitle(chart));
@@ -179,7 +181,7 @@ void HistoryPage::addMenus(QHBoxLayout* row)
         connect(action, &QAction::toggled, this, &HistoryPage::showCharts);
         m_chartChoices += action;
     }
-    auto* save = makeButton(tr("Save  "), tr("Save what is shown"), QString());
+    auto* save = makeButton(tr("Save"), tr("Save what is shown"), QString());
     auto* saveMenu = new QMenu(save);
     connect(saveMenu->addAction(tr("As &CSV \u2026")), &QAction::triggered, this,
             [this] { askForPath(QStringLiteral("csv"), &HistoryPage::saveCsv); });
@@ -189,6 +191,7 @@ void HistoryPage::addMenus(QHBoxLayout* row)
     save->setMenu(saveMenu);
     for (QToolButton* button : {charts, save}) {
         button->setPopupMode(QToolButton::InstantPopup);
+        button->setObjectName(QStringLiteral("HistoryMenuButton"));
         row->addWidget(button);
     }
 }
@@ -445,31 +448,32 @@ QString HistoryPage::entriesAt(qint64 timeMs) const
             texts += entry.message.isEmpty()
                          ? entry.text
                          : QStringLiteral("%1: %2").arg(entry.text, entry.message);
-    return texts.join(QStringLiteral("  \u00b7  "));
+    return texts.join(kBetween);
+}
+
+QString HistoryPage::remark() const
+{
+    if (!m_error.isEmpty())
+        return tr("The history cannot be read: %1").arg(m_error);
+    if (m_isAsking && !m_patience.isActive())
+        return tr("Loading \u2026");
+    if (!m_outcome.isEmpty())
+        return m_outcome;
+    if (m_history && m_history->series.timeMs.isEmpty())
+        return tr("Nothing is stored of this time");
+    return m_history && m_history->isCut ? tr("Only the latest entries of the journal are shown")
+                                         : QString();
 }
 
 void HistoryPage::showInfo()
 {
-    QString text;
-    if (m_readMs) {
-        const QString entries = entriesAt(*m_readMs);
-        text = localTimeText(*m_readMs) + (entries.isEmpty() ? QString() : "  \u00b7  " + entries);
-    } else {
-        const TimeRange shown = m_window.range();
-        text = QStringLiteral("%1 \u2013 %2")
-                   .arg(localTimeText(shown.fromMs), localTimeText(shown.toMs));
-        QString remark = m_outcome;
-        if (!m_error.isEmpty())
-            remark = tr("The history cannot be read: %1").arg(m_error);
-        else if (m_isAsking && !m_patience.isActive())
-            remark = tr("Loading \u2026");
-        else if (m_history && m_history->series.timeMs.isEmpty())
-            remark = tr("Nothing is stored of this time");
-        else if (m_history && m_history->isCut)
-            remark = tr("Only the latest entries of the journal are shown");
-        if (!remark.isEmpty())
-            text += "  \u00b7  " + remark;
-    }
+    const TimeRange shown = m_window.range();
+    QStringList parts{m_readMs ? localTimeText(*m_readMs)
+                               : QStringLiteral("%1 \u2013 %2")
+                                     .arg(localTimeText(shown.fromMs), localTimeText(shown.toMs)),
+                      m_readMs ? entriesAt(*m_readMs) : QString(), remark()};
+    parts.removeAll(QString());
+    const QString text = parts.join(kBetween);
     m_info->setText(text);
     m_info->setToolTip(text.toHtmlEscaped());
 }

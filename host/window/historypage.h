@@ -84,6 +84,7 @@ private:
     void stepRows(int rows);
     void showCharts();
     void showInfo();
+    QString remark() const;
     void showLegend();
     QString entriesAt(qint64 timeMs) const;
     void say(const QString& message);

@@ -22,11 +22,12 @@
 
 namespace {
 
-constexpr int kLeastHeight = 84;   // px, of one chart
-constexpr int kScaleWidth = 40;    // px, so that the charts of a stack have one left edge
-constexpr int kRoomAtSides = 34;   // px, for half a label of the time axis
-constexpr int kPerTimeLabel = 110; // px
-constexpr int kPerValueLabel = 26; // px
+constexpr QSize kLeastSize(300, 84); // px, of one chart
+constexpr int kFrame = 1;            // px, for the style sheet's focus frame
+constexpr int kScaleWidth = 40;      // px, so that the charts of a stack have one left edge
+constexpr int kRoomAtSides = 34;     // px, for half a label of the time axis
+constexpr int kPerTimeLabel = 110;   // px
+constexpr int kPerValueLabel = 26;   // px
 constexpr int kMinorTicks = 4;
 constexpr double kHeadroom = 0.06;  // of the scale, above and below the curves
 constexpr double kCloser = 0.8;     // one step of the wheel
@@ -69,7 +70,7 @@ QwtPlot* makePlot()
     plot->axisWidget(QwtPlot::xBottom)->setMinBorderDist(kRoomAtSides, kRoomAtSides);
     plot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kScaleWidth);
     plot->setAxisMaxMinor(QwtPlot::yLeft, 0);
-    plot->setMinimumHeight(kLeastHeight);
+    plot->setMinimumSize(kLeastSize);
     return plot;
 }
 
@@ -83,12 +84,14 @@ HistoryPlot::HistoryPlot(int chart, QWidget* parent)
     , m_overlay(new PlotOverlay(m_plot->canvas()))
     , m_bands(new HistoryBands)
 {
+    setObjectName(QStringLiteral("HistoryPlot"));
+    setAttribute(Qt::WA_StyledBackground);
     setFocusPolicy(Qt::StrongFocus);
     m_values->setObjectName(QStringLiteral("HistoryValues"));
     m_values->setTextFormat(Qt::RichText); // our own words and numbers only
     m_values->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(kFrame, kFrame, kFrame, kFrame);
     column->setSpacing(0);
     column->addWidget(m_values);
     column->addWidget(m_plot, 1);
