@@ -22,6 +22,7 @@
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QtTest>
 #include <qwt_plot.h>
 #include <qwt_scale_div.h>
@@ -326,7 +327,15 @@ void TestHistoryPage::withoutHistoryItIsSaid()
     page.setReader(nullptr);
     QTest::qWait(100);
     QVERIFY(page.message().contains(QStringLiteral("no history")));
+    reader.ask<int>(
+        &page,
+        [](HistoryQueries&) {
+            QThread::msleep(300); // a store that takes its time
+            return 0;
+        },
+        [](const int&, const QString&) {});
     page.setReader(&reader);
+    QVERIFY(page.message().contains(QStringLiteral("Loading")));
     QTRY_VERIFY(page.message().isEmpty());
 
     DeviceSettings other = desk.device->settings();

@@ -315,11 +315,12 @@ void HistoryPage::setReader(HistoryReader* reader)
     ++m_asked;
     m_isAsking = m_askAgain = false;
     if (!reader)
-        say(tr("There is no history here: this desk records none, or its store is not open yet."));
-    else if (isVisible())
-        reload();
-    else
+        return say(
+            tr("There is no history here: this desk records none, or its store is not open yet."));
+    if (!m_history)
         say(tr("Loading \u2026"));
+    if (isVisible())
+        reload();
 }
 
 DeviceHistory::Wish HistoryPage::wish() const

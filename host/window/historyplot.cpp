@@ -213,18 +213,20 @@ QString HistoryPlot::familyText(int first, int count, int row) const
     QStringList means;
     double least = 0;
     double most = 0;
+    bool moves = false;
     for (int i = first; i < first + count; ++i) {
         const ValueRange& value = m_history->series.values.at(m_curves.at(i).curve).at(row);
         if (!value.isKnown())
             continue;
         least = means.isEmpty() ? value.least : std::min(least, value.least);
         most = means.isEmpty() ? value.most : std::max(most, value.most);
+        moves = moves || value.most > value.least;
         means += QString::number(value.mean * chart.factor, 'f', chart.decimals);
     }
     if (means.isEmpty())
         return QStringLiteral("--");
     QString text = means.join(QStringLiteral(" / "));
-    if (m_history->series.spanMs.at(row) > 0 && most > least)
+    if (moves)
         text += QStringLiteral(" (%1\u2013%2)")
                     .arg(QString::number(least * chart.factor, 'f', chart.decimals),
                          QString::number(most * chart.factor, 'f', chart.decimals));
