@@ -19,8 +19,7 @@ const QVector<JournalKind> kMarkKinds{JournalKind::Alarm,    JournalKind::Batter
                                       JournalKind::Command,  JournalKind::Configuration,
                                       JournalKind::Operator, JournalKind::Desk};
 
-constexpr double kMissingPolls =
-    2.5; // intervals between neighbours: up to two polls may be missing
+constexpr double kNeighbours = 3.5; // intervals at most: two polls in between may be missing
 
 qint64 rowEnd(const HistorySeries& series, int row)
 {
@@ -67,7 +66,7 @@ qint64 knownEnd(const JournalEntry& entry, const std::optional<TimeRange>& exten
 
 qint64 longestStep(qint64 intervalMs)
 {
-    return static_cast<qint64>(static_cast<double>(intervalMs) * kMissingPolls);
+    return static_cast<qint64>(static_cast<double>(intervalMs) * kNeighbours);
 }
 
 qint64 longestStep(const HistorySeries& series, qint64 intervalMs)
