@@ -117,6 +117,8 @@ private slots:
         const QByteArray dev = "[device A]\naddress = sim:\n";
         QVERIFY(only("[thresholds]\ncharge-low = 10\ncharge-critical = 11\n", 3, "10", true));
         QVERIFY(only("[device A]\naddress = ftp://x\n", 2, "left out", true));
+        QVERIFY(only("[device A]\nretries = 1\n", 1, "left out", true));
+        QVERIFY(read("[device A]\nretries = 1\n").devices().isEmpty());
         QVERIFY(only("[device A]\naddress = snmp://a:b@h\n", 2, "secrets", true));
         QVERIFY(only(dev + "scale.input.voltage = 0\n", 3, "above 0", true));
         QVERIFY(only("[device \"a\\n\"]\n", 1, "control", true));

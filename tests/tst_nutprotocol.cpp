@@ -135,10 +135,14 @@ private slots:
             Words special = row.said;
             int sent = 0;
             quint64 connection = 1;
+            quint64 loggedInOn = 0;
             for (int i = 0; i < 1000; ++i) {
                 const auto question = order.next();
                 if (!question)
                     break;
+                if (question->line.startsWith("PASSWORD"))
+                    loggedInOn = connection;
+                QVERIFY2(!question->isOrder || loggedInOn == connection, row.title);
                 NutReply reply;
                 QByteArray text = orderlyNutAnswer(question->line);
                 for (const QByteArray& each : qAsConst(special)) {
