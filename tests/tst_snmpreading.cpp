@@ -287,6 +287,7 @@ private slots:
             const char* message;
             int sets;
             const char* result = ""; // lines that the agent holds afterwards
+            int delay = 20;          // s, as configured
         } rows[] = {
             {"self-test", "self-test", "", none, O::Done, "begun", 1,
              "7.1.0 o 1.3.6.1.2.1.33.1.7.7.4"},
@@ -302,6 +303,8 @@ private slots:
             {"standby of minutes", "standby", "5", none, O::Done, "300 s", 1, "8.4.0 i 300"},
             {"standby of hours", "standby", "120", none, O::Done, "20 s", 2,
              "8.3.0 i 7200\n8.2.0 i 20"},
+            {"standby as long as the delay", "standby", "1", [](T& t) { t.removeBelow("8.4"); },
+             O::Refused, "not shorter", 0, "", 60},
             {"wake-up", "wake-up", "", from("4.1.0 i 2", "4.1.0 i 3"), O::Done, "is on", 1,
              "8.3.0 i 0"},
             {"wake-up is only noted", "wake-up", "", with("4.1.0 i 2"), O::Unknown, "no effect", 1},
@@ -338,7 +341,9 @@ private slots:
             row.prepare(table);
             SnmpCommand::Limits limits;
             limits.account = QStringLiteral("community");
-            SnmpCommand dialogue(*commandFromName(row.name, row.value).command, limits);
+            UpsCommand command = *commandFromName(row.name, row.value).command;
+            command.shutdownDelay = row.delay;
+            SnmpCommand dialogue(command, limits);
             hold(dialogue, table);
             const CommandResult result = dialogue.result();
             QVERIFY2(result.message.contains(row.message), qPrintable(row.title + result.message));
