@@ -255,6 +255,7 @@ void TestHistoryPage::failuresAreBands()
     const auto* table = page.findChild<OutageTable*>();
     QCOMPARE(table->rowCount(), 2);
     QCOMPARE(table->item(0, OutageTable::Duration)->text(), QStringLiteral("4 min 0 s"));
+    QCOMPARE(table->item(0, OutageTable::LowestCharge)->text(), QStringLiteral("100 %"));
     QCOMPARE(table->item(1, OutageTable::Onset)->text(),
              QStringLiteral("2026-10-25 00:40:00 CEST"));
     QCOMPARE(table->item(1, OutageTable::LowestCharge)->text(), QStringLiteral("63 %"));

@@ -64,6 +64,22 @@ qint64 knownEnd(const JournalEntry& entry, const std::optional<TimeRange>& exten
     return extent ? std::max(entry.onsetMs, extent->toMs) : entry.onsetMs;
 }
 
+std::optional<double> lowestCharge(const JournalEntry& entry, const DeviceHistory& history)
+{
+    const HistorySeries& series = history.series;
+    const int column = series.quantities.indexOf(quantityIndex(QStringLiteral("battery.charge")));
+    if (entry.lowestCharge || column < 0)
+        return entry.lowestCharge;
+    std::optional<double> lowest;
+    for (int row = 0; row < series.timeMs.size(); ++row) {
+        const ValueRange& charge = series.values.at(column).at(row);
+        if (charge.isKnown() && series.timeMs.at(row) >= entry.onsetMs &&
+            series.timeMs.at(row) <= knownEnd(entry, history.extent))
+            lowest = std::min(lowest.value_or(charge.least), charge.least);
+    }
+    return lowest;
+}
+
 qint64 longestStep(qint64 intervalMs)
 {
     return static_cast<qint64>(static_cast<double>(intervalMs) * kNeighbours);

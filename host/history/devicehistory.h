@@ -30,6 +30,9 @@ struct DeviceHistory {
 // longer.
 qint64 knownEnd(const JournalEntry& entry, const std::optional<TimeRange>& extent);
 
+// Of an outage, %: what the journal says; while it lasts, the least of the rows that are there.
+std::optional<double> lowestCharge(const JournalEntry& entry, const DeviceHistory& history);
+
 // How long a device may be silent between two samples that are still neighbours, in ms: a poll or
 // two may be missing.
 qint64 longestStep(qint64 intervalMs);

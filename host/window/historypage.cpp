@@ -12,11 +12,13 @@
 #include <QAction>
 #include <QButtonGroup>
 #include <QDateTime>
+#include <QDir>
 #include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStandardPaths>
@@ -521,15 +523,27 @@ void HistoryPage::resizeEvent(QResizeEvent* event)
 
 // Files
 
+// The device and the first day that is shown; letters that mean something in a path become dashes.
+QString HistoryPage::fileName(const QString& suffix) const
+{
+    static const QRegularExpression special(QStringLiteral("[^\\w .()-]+"),
+                                            QRegularExpression::UseUnicodePropertiesOption);
+    const QDateTime day = QDateTime::fromMSecsSinceEpoch(m_window.range().fromMs);
+    return QStringLiteral("%1 %2.%3")
+        .arg(m_device.name().replace(special, QStringLiteral("-")),
+             day.toString(QStringLiteral("yyyy-MM-dd")), suffix);
+}
+
 void HistoryPage::askForPath(const QString& suffix, void (HistoryPage::*save)(const QString&))
 {
-    auto* dialog =
-        new QFileDialog(this, tr("Save the history"),
-                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    auto* dialog = new QFileDialog(this, tr("Save the history"),
+                                   QDir(documents).exists() ? documents : QDir::homePath());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(suffix);
     dialog->setNameFilter(QStringLiteral("*.") + suffix);
+    dialog->selectFile(fileName(suffix));
     connect(dialog, &QFileDialog::fileSelected, this, save);
     dialog->open();
 }

@@ -73,6 +73,7 @@ private:
     QWidget* makeInfo();
     QWidget* makeCharts();
     void followPlot(HistoryPlot* plot);
+    QString fileName(const QString& suffix) const;
     void askForPath(const QString& suffix, void (HistoryPage::*save)(const QString&));
 
     void reload();

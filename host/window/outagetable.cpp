@@ -61,9 +61,8 @@ void OutageTable::setHistory(const DeviceHistory& history, TimeRange range)
         setCell(row, Onset, localTimeText(entry.onsetMs));
         setCell(row, End, entry.endMs ? localTimeText(*entry.endMs) : tr("still on battery"));
         setCell(row, Duration, durationText(end - entry.onsetMs));
-        setCell(row, LowestCharge,
-                entry.lowestCharge ? tr("%1 %").arg(qRound(*entry.lowestCharge))
-                                   : QStringLiteral("--"));
+        const auto charge = lowestCharge(entry, history);
+        setCell(row, LowestCharge, charge ? tr("%1 %").arg(qRound(*charge)) : QStringLiteral("--"));
         if (entry.onsetMs == chosen && row != current)
             setCurrentCell(row, currentColumn());
     }
