@@ -3,23 +3,27 @@
 //     bench_historypage [FILE]
 // FILE: keeps the store that it fills, or uses the one that is there, of a device named "Bench".
 
+#include "meteredapplication.h"
+
 #include "connectors/factory/connectorfactory.h"
 #include "fleet/fleet.h"
 #include "history/historyreader.h"
 #include "history/historywriter.h"
+#include "window/chartfeed.h"
 #include "window/historypage.h"
 #include "window/theme.h"
 
-#include <QApplication>
+#include "chartform.h"
+
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QTextStream>
 #include <QThread>
 
 #include <cmath>
+#include <cstdio>
 
 namespace {
 
@@ -28,6 +32,8 @@ constexpr qint64 kSampleMs = 5000;
 constexpr qint64 kOutageEveryMs = 11 * kMsPerDay + 5 * kMsPerHour;
 constexpr qint64 kOutageMs = 7 * kMsPerMinute;
 constexpr int kRounds = 5;
+constexpr int kPatienceMs = 2000; // for an answer
+constexpr int kRestMs = 500;      // after which the charts are painted
 constexpr QSize kPageSize(1240, 800);
 
 // A day of a single-phase UPS, with an outage now and then.
@@ -115,45 +121,84 @@ void fill(const StoreAddress& address)
     fillTier(*store, 1, now, 30 * kMsPerDay);
     fillTier(*store, 0, now, kMsPerDay);
 }
-
-} // namespace
-
-int main(int argc, char** argv)
+void untilIdle(const std::function<bool()>& isDone)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    applyTheme(Theme::Light);
-    QTemporaryDir folder;
-    StoreAddress address;
-    address.path = app.arguments().value(1, folder.filePath(QStringLiteral("history.db")));
-    if (!QFileInfo::exists(address.path))
-        fill(address);
+    QElapsedTimer timer;
+    timer.start();
+    while (!isDone() && timer.elapsed() < kPatienceMs)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents();
+}
 
-    QTextStream out(stdout);
-    HistoryReader reader(address);
-    DeviceSettings settings;
-    settings.name = QStringLiteral("Bench");
-    settings.address = *parseDeviceAddress(QStringLiteral("sim:")).address;
-    Fleet fleet(makeConnector);
-    const Device& device = *fleet.add(settings);
+void showSpans(MeteredApplication& app, HistoryReader& reader, const Device& device)
+{
     for (const HistoryPage::Span& span : HistoryPage::spans()) {
-        out << span.title << ":";
+        std::printf("%-8s", span.title);
+        double busiest = 0;
         for (int round = 0; round < kRounds; ++round) {
+            app.restart();
             QElapsedTimer timer;
             timer.start();
             HistoryPage page(device);
             page.resize(kPageSize);
             page.setReader(&reader);
             page.showSpan(span.lengthMs);
-            QEventLoop loop;
-            QObject::connect(&page, &HistoryPage::shown, &loop, &QEventLoop::quit);
+            bool isShown = false;
+            QObject::connect(&page, &HistoryPage::shown, [&isShown] { isShown = true; });
             page.show();
-            loop.exec();
+            untilIdle([&isShown] { return isShown; });
             page.grab();
-            out << ' ' << timer.elapsed() << " ms";
+            std::printf(" %4lld ms", timer.elapsed());
+            busiest = std::max(busiest, app.busiest().cpu);
         }
-        out << '\n';
-        out.flush();
+        std::printf("; GUI thread busy at a stretch: %.1f ms\n", busiest);
     }
+}
+
+// The charts of the present, with a whole width of stored samples.
+void fillCharts(MeteredApplication& app, HistoryReader& reader, Fleet& fleet, Device& device)
+{
+    ChartForm charts;
+    charts.resize(kPageSize);
+    ChartFeed feed(device, charts);
+    bool isTaken = false;
+    QObject::connect(&feed, &ChartFeed::storedTaken, [&isTaken] { isTaken = true; });
+    fleet.pollNow(&device);
+    untilIdle([&device] { return device.reading(); });
+    feed.refresh();
+    charts.show();
+    untilIdle([] { return false; });
+    app.restart();
+    QElapsedTimer timer;
+    timer.start();
+    feed.setReader(&reader);
+    untilIdle([&isTaken] { return isTaken; });
+    untilIdle([&timer] { return timer.elapsed() > kRestMs; });
+    std::printf("Charts filled; GUI thread busy at a stretch: %.1f ms\n    %s\n", app.busiest().cpu,
+                qPrintable(app.busiest().work));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    MeteredApplication app(argc, argv);
+    applyTheme(Theme::Light);
+    QTemporaryDir folder;
+    StoreAddress address;
+    address.path =
+        MeteredApplication::arguments().value(1, folder.filePath(QStringLiteral("history.db")));
+    if (!QFileInfo::exists(address.path))
+        fill(address);
+
+    HistoryReader reader(address);
+    DeviceSettings settings;
+    settings.name = QStringLiteral("Bench");
+    settings.address = *parseDeviceAddress(QStringLiteral("sim:")).address;
+    Fleet fleet(makeConnector);
+    Device& device = *fleet.add(settings);
+    fillCharts(app, reader, fleet, device);
+    showSpans(app, reader, device);
     return 0;
 }
