@@ -19,7 +19,7 @@ CommandDesk::CommandDesk(Fleet& fleet, EventLog& log, WhoIsThere whoIsThere, QOb
 
 int CommandDesk::levelFor(const Device& device) const
 {
-    if (m_locked)
+    if (!m_lockedBecause.isEmpty())
         return 0;
     const int level = m_whoIsThere().level;
     return device.isSimulated() ? std::max(level, kCommandLevel) : level;
@@ -29,8 +29,8 @@ CommandDesk::Barrier CommandDesk::barrierFor(const Device& device) const
 {
     if (levelFor(device) >= kCommandLevel)
         return {};
-    if (m_locked)
-        return {tr("This is a wall display: it commands nothing."), false};
+    if (!m_lockedBecause.isEmpty())
+        return {m_lockedBecause, false};
     const QString name = m_whoIsThere().name;
     if (name.isEmpty())
         return {tr("Nobody who may command this device is logged in."), true};

@@ -60,8 +60,8 @@ public:
     int levelFor(const Device& device) const;
     Barrier barrierFor(const Device& device) const;
 
-    // A wall display commands nothing, not even the simulator.
-    void lock() { m_locked = true; }
+    // From here on nothing is commanded, not even the simulator; why, for the operator.
+    void lock(const QString& reason) { m_lockedBecause = reason; }
 
     // A command as a view posts it: CorvelEvent and command map.
     void post(Device* device, int code, const QMap<QString, QVariant>& command);
@@ -106,7 +106,7 @@ private:
     PendingById m_asked; // waiting for the operator's answer
     PendingById m_sent;  // waiting for the device's result
     quint64 m_lastId = 0;
-    bool m_locked = false;
+    QString m_lockedBecause; // empty: it is not
 };
 
 #endif // COMMANDDESK_H

@@ -79,6 +79,18 @@ void Device::setThresholds(const Thresholds& thresholds)
     noteCondition();
 }
 
+void Device::forget()
+{
+    m_link = LinkState::Connecting;
+    m_reading.reset();
+    m_past = {};
+    m_testSinceMs = -1;
+    m_noticed = {};
+    m_beforeGap = {};
+    m_judgedLink.reset();
+    noteCondition();
+}
+
 QMap<int, QVariant> Device::snapshot(SnapshotPage page) const
 {
     if (!m_reading)

@@ -75,6 +75,9 @@ public:
     // Notices a change of condition; to be called when time has passed, too.
     void noteCondition();
 
+    // Knows nothing any more: what comes next is compared to nothing before.
+    void forget();
+
     // Sends it with the delays that are configured for this device.
     void send(UpsCommand command);
 

@@ -49,6 +49,7 @@ public:
 
     // For all devices, those that are there and those to come.
     void setThresholds(const Thresholds& thresholds);
+    const Thresholds& thresholds() const { return m_thresholds; }
 
 signals:
     void deviceAdded(int index);

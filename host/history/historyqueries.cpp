@@ -143,6 +143,31 @@ Bucket bucketOf(int tier, const QByteArray& data)
     return bucket;
 }
 
+// A span is shown by its means, and by what it was at its worst.
+StoredReading frameOf(int tier, qint64 timeMs, const QByteArray& data)
+{
+    StoredReading frame;
+    frame.timeMs = timeMs;
+    frame.spanMs = kTiers[tier].spanMs;
+    if (tier == 0) {
+        Sample sample;
+        if (decodeSample(data, sample)) {
+            frame.link = sample.link;
+            frame.reading = sample.reading;
+        }
+        return frame;
+    }
+    const Bucket bucket = bucketOf(tier, data);
+    frame.link = bucket.state.link;
+    frame.reading.outputSource = bucket.state.source;
+    frame.reading.batteryState = bucket.state.battery;
+    frame.reading.alarms = alarmsOfBits(bucket.state.alarms);
+    for (std::size_t i = 0; i < std::min(bucket.parts.size(), quantities().size()); ++i)
+        if (bucket.parts[i].count > 0)
+            setQuantity(frame.reading, quantities()[i], bucket.parts[i].range.mean);
+    return frame;
+}
+
 } // namespace
 
 QSqlQuery* HistoryQueries::ask(const QString& sql, const QVariantList& values)
@@ -308,9 +333,15 @@ QVector<StoredReading> HistoryQueries::readReadings(qint64 device, QSqlQuery* qu
         if (decodeSample(query->value(1).toByteArray(), sample))
             readings += {query->value(0).toLongLong(), sample.link, sample.reading};
     }
+    addInfo(device, readings);
+    return readings;
+}
+
+// Identity and ratings as they were at each of these times, which ascend.
+void HistoryQueries::addInfo(qint64 device, QVector<StoredReading>& readings)
+{
     if (readings.isEmpty())
-        return readings;
-    // Identity and ratings as they were at each of these times.
+        return;
     QSqlQuery* info = ask("SELECT since, data FROM device_info WHERE device = ? AND since <= ? "
                           "ORDER BY since DESC",
                           {device, readings.constLast().timeMs});
@@ -323,7 +354,6 @@ QVector<StoredReading> HistoryQueries::readReadings(qint64 device, QSqlQuery* qu
     }
     if (info)
         info->finish();
-    return readings;
 }
 
 QVector<StoredReading> HistoryQueries::readings(qint64 device, TimeRange range, int mostRows)
@@ -339,6 +369,43 @@ std::optional<StoredReading> HistoryQueries::readingAt(qint64 device, qint64 tim
                                                 "t <= ? ORDER BY t DESC LIMIT 1",
                                                 {device, timeMs}));
     return found.isEmpty() ? std::nullopt : std::optional<StoredReading>(found.constFirst());
+}
+
+QVector<StoredReading> HistoryQueries::frames(qint64 device, TimeRange range, int mostRows)
+{
+    QVector<StoredReading> frames;
+    for (const Piece& piece : pieces(device, range, 0)) {
+        const bool goesOn =
+            eachRow(device, piece, [&](int tier, qint64 time, const QByteArray& data) {
+                frames += frameOf(tier, time, data);
+                return frames.size() < mostRows;
+            });
+        if (!goesOn)
+            break;
+    }
+    addInfo(device, frames);
+    return frames;
+}
+
+QVector<StoredReading> HistoryQueries::framesBefore(qint64 device, qint64 timeMs, int mostRows)
+{
+    QVector<StoredReading> frames; // the newest first
+    qint64 latestMs = timeMs;
+    for (int tier = 0; tier < kTierCount && frames.size() < mostRows; ++tier) {
+        QSqlQuery* query =
+            ask(QStringLiteral(
+                    "SELECT t, data FROM %1 WHERE device = ? AND t <= ? ORDER BY t DESC LIMIT ?")
+                    .arg(table(tier)),
+                {device, latestMs, mostRows - frames.size()});
+        while (query && query->next())
+            frames += frameOf(tier, query->value(0).toLongLong(), query->value(1).toByteArray());
+        if (!frames.isEmpty() &&
+            tier + 1 < kTierCount) // spans that end before the finer ones begin
+            latestMs = frames.constLast().timeMs - kTiers[tier + 1].spanMs;
+    }
+    std::reverse(frames.begin(), frames.end());
+    addInfo(device, frames);
+    return frames;
 }
 
 // Journal

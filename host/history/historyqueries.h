@@ -24,11 +24,13 @@ struct HistorySeries {
     QVector<QVector<ValueRange>> values; // [index in quantities][row]
 };
 
-// A full sample as it was, with identity and ratings: what a page needs for a replay.
+// A full sample as it was, with identity and ratings, or the mean of a span: what a page needs for
+// a replay.
 struct StoredReading {
     qint64 timeMs = 0;
     LinkState link = LinkState::Connecting;
     UpsReading reading;
+    qint64 spanMs = 0; // 0: a full sample
 };
 
 struct Outage {
@@ -71,6 +73,11 @@ public:
     // The last full sample at or before that time.
     std::optional<StoredReading> readingAt(qint64 device, qint64 timeMs);
 
+    // For a replay, oldest first, each moment in its finest tier: at most mostRows from the start
+    // of the range on, and the last ones that began at or before that time.
+    QVector<StoredReading> frames(qint64 device, TimeRange range, int mostRows);
+    QVector<StoredReading> framesBefore(qint64 device, qint64 timeMs, int mostRows);
+
     QVector<JournalEntry> journal(const JournalFilter& filter);
     int journalCount(const JournalFilter& filter);
     QVector<JournalEntry> openEntries(const QString& site);
@@ -92,6 +99,7 @@ private:
     bool eachRow(qint64 device, const Piece& piece, const UseRow& use);
     QVector<JournalEntry> readEntries(QSqlQuery* query);
     QVector<StoredReading> readReadings(qint64 device, QSqlQuery* query);
+    void addInfo(qint64 device, QVector<StoredReading>& readings);
 
     HistoryStore& m_store;
     bool m_failed = false;

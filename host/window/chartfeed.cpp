@@ -77,22 +77,62 @@ void ChartFeed::takeStored(const QVector<StoredReading>& stored)
 
 void ChartFeed::refresh()
 {
-    if (!m_device.reading() || m_device.readingNumber() == m_shownReading)
+    if (m_isReplay || !m_device.reading() || m_device.readingNumber() == m_shownReading)
         return;
     const bool isFirst = m_shownReading < 0;
     m_shownReading = m_device.readingNumber();
     const qint64 time = QDateTime::currentMSecsSinceEpoch() - m_device.ageMs();
-    const qint64 interval = m_device.settings().pollInterval * kMsPerSecond;
-    const bool isGap = !m_run.empty() && time - m_run.back().timeMs > longestStep(interval);
-    if (isGap)
-        m_run.clear();
-    m_run.push_back({time, LinkState::Live, *m_device.reading()});
-    if (m_run.size() > kMostSamples)
-        m_run.pop_front();
+    const bool isGap = append({time, LinkState::Live, *m_device.reading()});
     if (choosePage() || isFirst || isGap)
         fill();
     else
         m_charts.refreshFormInfo(m_device.snapshot(SnapshotPage::Chart));
+}
+
+void ChartFeed::restart(const QVector<StoredReading>& readings)
+{
+    m_isReplay = true;
+    m_shownReading = 0;
+    m_run.clear();
+    for (const StoredReading& reading : readings)
+        if (reading.link == LinkState::Live)
+            append(reading);
+    if (m_device.reading())
+        choosePage();
+    fill();
+}
+
+void ChartFeed::add(const StoredReading& reading)
+{
+    if (reading.link != LinkState::Live)
+        return;
+    const bool isGap = append(reading);
+    if (choosePage() || isGap)
+        fill();
+    else
+        m_charts.refreshFormInfo(deviceSnapshot(reading.reading, SnapshotPage::Chart));
+}
+
+bool ChartFeed::isGapBefore(const StoredReading& reading) const
+{
+    if (m_run.empty())
+        return false;
+    const StoredReading& last = m_run.back();
+    const qint64 interval = std::max(m_device.settings().pollInterval * kMsPerSecond,
+                                     std::max(last.spanMs, reading.spanMs));
+    return reading.timeMs - last.timeMs > longestStep(interval);
+}
+
+// True: the run begins anew with this one.
+bool ChartFeed::append(const StoredReading& reading)
+{
+    const bool isGap = isGapBefore(reading);
+    if (isGap)
+        m_run.clear();
+    m_run.push_back(reading);
+    if (m_run.size() > kMostSamples)
+        m_run.pop_front();
+    return isGap;
 }
 
 // True: another page than before.

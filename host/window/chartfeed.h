@@ -36,6 +36,11 @@ public:
     // Shows the device's reading if it is a new one.
     void refresh();
 
+    // For a replay, which has no live readings: begins with the last unbroken run of these; goes on
+    // with that one.
+    void restart(const QVector<StoredReading>& readings);
+    void add(const StoredReading& reading);
+
 signals:
     void storedTaken(); // what is stored, if anything, is part of what will be shown
 
@@ -44,6 +49,8 @@ protected:
 
 private:
     void takeStored(const QVector<StoredReading>& stored);
+    bool isGapBefore(const StoredReading& reading) const;
+    bool append(const StoredReading& reading);
     bool choosePage();
     void fill();
 
@@ -53,6 +60,7 @@ private:
     QHash<QObject*, int> m_widths;   // px, of each chart as it was last filled
     qint64 m_shownReading = -1;      // number of the last one
     bool m_isAsked = false;
+    bool m_isReplay = false;
     QTimer m_filler;
 };
 

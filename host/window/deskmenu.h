@@ -29,6 +29,7 @@ public:
         TestConnection,
         PollNow,
         Commands,
+        Replay,
         Copy,
         Shortcuts,
         Places,

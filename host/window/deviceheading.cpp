@@ -132,8 +132,9 @@ void DeviceHeading::show(const Device& device)
     m_name->setText(device.name());
     showCondition(device.condition());
     m_since->setText(sinceText(device.conditionSince()));
-    m_age->setText(dataText(device).section(QLatin1Char('\n'), -1) + QStringLiteral("  \u00b7  ") +
-                   device.address());
+    const QString age =
+        m_isReplay ? tr("recorded") : dataText(device).section(QLatin1Char('\n'), -1);
+    m_age->setText(age + QStringLiteral("  \u00b7  ") + device.address());
     showFigures(device);
     showNotes(device.reading());
     fitWidth();
@@ -157,7 +158,7 @@ void DeviceHeading::showCondition(const Condition& condition)
 
 void DeviceHeading::showFigures(const Device& device)
 {
-    const bool live = device.link() == LinkState::Live;
+    const bool live = device.link() == LinkState::Live && !m_isReplay;
     const QColor text = palette().color(QPalette::WindowText);
     const QColor faded = fadedColor(text, palette().color(QPalette::Base));
     std::size_t number = 0;

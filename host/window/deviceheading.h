@@ -24,6 +24,8 @@ public:
     explicit DeviceHeading(QWidget* parent = nullptr);
 
     void show(const Device& device);
+    // What is shown is of the past: it has no age.
+    void setReplay() { m_isReplay = true; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -45,6 +47,7 @@ private:
     ElidedLabel* m_age;
     QToolButton* m_notes;
     std::array<QLabel*, 3> m_figures;
+    bool m_isReplay = false;
 };
 
 #endif // DEVICEHEADING_H

@@ -190,6 +190,13 @@ void DevicePage::setHistory(HistoryReader* reader)
         m_history->setReader(reader);
 }
 
+void DevicePage::setReplay()
+{
+    m_heading->setReplay();
+    m_viewTabs->removeTab(HistoryView);
+    finishViews();
+}
+
 void DevicePage::buildPiece()
 {
     m_builder.setInterval(kBetweenPiecesMs);

@@ -62,6 +62,10 @@ public:
     void refreshAge();
     // Null: there is none. The reader may go at any time.
     void setHistory(HistoryReader* reader);
+    // The device is of the past: the page says no ages, and has no history of its own. Makes all
+    // views.
+    void setReplay();
+    ChartFeed* charts() const { return m_chartFeed; } // null until they are made
     // Somebody logged in or out.
     void refreshOperator();
     // Makes all views now: for pictures and whoever else cannot wait for the pieces.

@@ -24,6 +24,7 @@ constexpr int kRefreshMs = 1000; // commits come with every poll
 constexpr int kExportRows = 5000;
 constexpr int kMargin = 8; // px
 constexpr int kMostNote = 255;
+constexpr qint64 kBeforeOnset = 30 * 1000; // ms
 constexpr int kLongestName = 24; // characters that a device's name may widen the filter to
 constexpr int kColumnWidths[] = {150, 90, 130, 90, 75, 220, 240, 90}; // px
 
@@ -82,6 +83,7 @@ JournalPage::JournalPage(OperatorSession& session, QWidget* parent)
     , m_onlyNew(new QCheckBox(tr("Not acknowled&ged")))
     , m_acknowledge(new QPushButton(tr("Ack&nowledge \u2026")))
     , m_export(new QPushButton(tr("&Export \u2026")))
+    , m_replay(new QPushButton(tr("&Replay")))
     , m_state(new QLabel)
 {
     setObjectName(QStringLiteral("JournalPage"));
@@ -154,11 +156,15 @@ QHBoxLayout* JournalPage::makeButtons()
     for (QCheckBox* box : {m_onlyOpen, m_onlyNew})
         connect(box, &QCheckBox::toggled, this, &JournalPage::applyFilter);
     connect(m_acknowledge, &QPushButton::clicked, this, &JournalPage::askForNote);
+    m_replay->setObjectName(QStringLiteral("JournalReplay"));
+    connect(m_replay, &QPushButton::clicked, this, [this] { replayFrom(m_view->currentIndex()); });
+    connect(m_view, &QTreeView::activated, this, &JournalPage::replayFrom);
     connect(m_export, &QPushButton::clicked, this, &JournalPage::askForPath);
     auto* row = new QHBoxLayout;
     row->addWidget(labelFor(m_text, tr("Te&xt")));
     for (QWidget* widget : QList<QWidget*>{m_text, m_onlyOpen, m_onlyNew, m_state})
         row->addWidget(widget, widget == m_text ? 1 : 0);
+    row->addWidget(m_replay);
     row->addWidget(m_acknowledge);
     row->addWidget(m_export);
     return row;
@@ -262,6 +268,16 @@ void JournalPage::showChoice()
     for (const QModelIndex& index : m_view->selectionModel()->selectedRows())
         isNew = isNew || !m_model->entry(index.row()).acknowledgedMs;
     m_acknowledge->setEnabled(m_writer && isNew);
+    m_replay->setEnabled(m_reader &&
+                         !m_model->entry(m_view->currentIndex().row()).device.isEmpty());
+}
+
+// A little before the onset, so that one sees it happen.
+void JournalPage::replayFrom(const QModelIndex& index)
+{
+    const JournalEntry entry = m_model->entry(index.row());
+    if (m_reader && !entry.device.isEmpty())
+        emit replayWanted(entry.device, entry.onsetMs - kBeforeOnset);
 }
 
 void JournalPage::askForNote()

@@ -37,6 +37,8 @@ public:
 
 signals:
     void told(const QString& text, bool isBad);
+    // The device of an entry, as it was then.
+    void replayWanted(const QString& device, qint64 timeMs);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -52,6 +54,7 @@ private:
     void showChoice();
     void askForNote();
     void askForPath();
+    void replayFrom(const QModelIndex& index);
 
     OperatorSession& m_session;
     OperatorGate* m_gate;
@@ -68,6 +71,7 @@ private:
     QCheckBox* m_onlyNew;
     QPushButton* m_acknowledge;
     QPushButton* m_export;
+    QPushButton* m_replay;
     QLabel* m_state;
     QTimer m_typing;
     QTimer m_refresh;

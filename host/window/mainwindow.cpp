@@ -1,6 +1,7 @@
 #include "window/mainwindow.h"
 
 #include "history/deskhistory.h"
+#include "history/devicefacts.h"
 #include "window/clipboardtext.h"
 #include "window/deskmenu.h"
 #include "window/deviceactions.h"
@@ -14,6 +15,7 @@
 #include "window/logindialog.h"
 #include "window/overviewpage.h"
 #include "window/pagestack.h"
+#include "window/replaypage.h"
 #include "window/resultbanner.h"
 #include "window/sidepanel.h"
 #include "window/walldisplay.h"
@@ -31,8 +33,9 @@
 
 namespace {
 
-constexpr QSize kFirstSize(1240, 900); // where the screen has room
-constexpr int kFrame = 40;             // px that a window's title and borders may take
+constexpr QSize kFirstSize(1240, 900);          // where the screen has room
+constexpr int kFrame = 40;                      // px that a window's title and borders may take
+constexpr qint64 kReplayFrom = -10 * 60 * 1000; // ms before the last stored moment
 constexpr int kSideWidth = 245;
 constexpr int kEventListHeight = 120;
 
@@ -74,6 +77,11 @@ void MainWindow::setUpDesk()
     m_journal = new JournalPage(m_session);
     m_pages->addWidget(m_journal);
     connect(m_journal, &JournalPage::told, this, &MainWindow::tell);
+    connect(m_journal, &JournalPage::replayWanted, this, &MainWindow::openReplay);
+    connect(m_pages, &QStackedWidget::currentChanged, this, [this] {
+        if (m_replay && m_replay != m_pages->currentWidget())
+            m_replay->deleteLater();
+    });
     m_side = new SidePanel(*m_model, m_session);
     connect(m_side, &SidePanel::overviewWanted, this, &MainWindow::openOverview);
     connect(m_side, &SidePanel::loginWanted, this, &MainWindow::askWhoIsThere);
@@ -105,7 +113,7 @@ void MainWindow::setUpDesk()
 
 void MainWindow::setUpWall()
 {
-    m_desk.lock();
+    m_desk.lock(tr("This is a wall display: it commands nothing."));
     m_strip->offerNothing();
     m_pages = new PageStack(m_desk, new WallDisplay(m_overview, *m_model));
     m_wayBack = new QPushButton(tr("&All devices"));
@@ -148,6 +156,7 @@ const MainWindow::ItemRow MainWindow::kItems[] = {
     {DeskMenu::TestConnection, &MainWindow::testConnection, nullptr},
     {DeskMenu::PollNow, &MainWindow::pollNow, nullptr},
     {DeskMenu::Commands, &MainWindow::openCommands, nullptr},
+    {DeskMenu::Replay, &MainWindow::replayCurrent, nullptr},
     {DeskMenu::Copy, &MainWindow::copy, nullptr},
     {DeskMenu::Shortcuts, &MainWindow::showHelpOnKeys, nullptr},
     {DeskMenu::Places, &MainWindow::showHelpOnPlaces, nullptr},
@@ -326,9 +335,47 @@ void MainWindow::openDevice(Device* device)
     choiceChanged();
 }
 
+void MainWindow::replayCurrent()
+{
+    if (const DevicePage* page = currentPage())
+        openReplay(storedName(page->device()), kReplayFrom);
+}
+
+void MainWindow::openReplay(const QString& device, qint64 timeMs)
+{
+    Device* live = nullptr;
+    for (int i = 0; i < m_fleet.count() && !live; ++i)
+        if (storedName(*m_fleet.at(i)) == device)
+            live = m_fleet.at(i);
+    DeviceSettings settings; // of a device that is gone, nothing but the name
+    settings.name = device;
+    if (live)
+        settings = live->settings();
+    auto* page = new ReplayPage(settings, m_fleet.thresholds(), device, m_reader);
+    connect(page, &ReplayPage::liveWanted, this, &MainWindow::leaveReplay);
+    page->showPage(m_pages->page());
+    m_pages->addWidget(page);
+    m_pages->setCurrentWidget(page);
+    m_replay = page;
+    page->open(timeMs);
+    m_side->select(nullptr);
+    setWindowTitle(tr("Replay: %1 - upsdesk").arg(device));
+    choiceChanged();
+}
+
+void MainWindow::leaveReplay()
+{
+    const QString device = m_replay ? m_replay->device() : QString();
+    for (int i = 0; i < m_fleet.count(); ++i)
+        if (storedName(*m_fleet.at(i)) == device)
+            return openDevice(m_fleet.at(i));
+    openOverview();
+}
+
 void MainWindow::setHistory(const DeskHistory& history)
 {
     connect(&history, &DeskHistory::started, this, [this, &history] {
+        m_reader = history.reader();
         m_pages->setHistory(history.reader());
         if (m_journal)
             m_journal->setStore(history.reader(), history.writer());
@@ -371,7 +418,9 @@ void MainWindow::tell(const QString& text, bool isBad)
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
     const bool isElsewhere = currentPage() || (m_journal && m_journal->isVisible());
-    if (event->key() == Qt::Key_Escape && isElsewhere)
+    if (event->key() == Qt::Key_Escape && m_replay)
+        leaveReplay();
+    else if (event->key() == Qt::Key_Escape && isElsewhere)
         openOverview();
     else
         QMainWindow::keyPressEvent(event);

@@ -13,6 +13,7 @@
 #include "window/windowstate.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 class DeskMenu;
 class QAction;
@@ -22,11 +23,13 @@ class DeviceListModel;
 class DevicePage;
 class EventDock;
 class FirstRunStrip;
+class HistoryReader;
 class JournalPage;
 class OverviewPage;
 class PageStack;
 class QPushButton;
 class QSplitter;
+class ReplayPage;
 class ResultBanner;
 class SidePanel;
 
@@ -60,6 +63,9 @@ public:
     void openOverview();
     // What happened, from the store; at a desk only.
     void openJournal();
+    // The device as it was; below 0: that many ms before the last stored moment. device: its name
+    // in the history.
+    void openReplay(const QString& device, qint64 timeMs);
     // Must be there as long as the window is used.
     void setHistory(const DeskHistory& history);
     // The page on show, null before a device is chosen, on the overview and in the journal.
@@ -94,6 +100,8 @@ private:
     void openCommands();
     void testConnection();
     void copy();
+    void replayCurrent();
+    void leaveReplay();
     void showList(bool shown);
     void showEvents(bool shown);
     void showFull(bool full);
@@ -124,6 +132,8 @@ private:
     QSplitter* m_splitter = nullptr;
     EventDock* m_events = nullptr;
     JournalPage* m_journal = nullptr;
+    QPointer<ReplayPage> m_replay; // there while it is on show
+    QPointer<HistoryReader> m_reader;
     DeviceActions* m_actions = nullptr;
     QPushButton* m_wayBack = nullptr; // on a wall only
     std::unique_ptr<ConnectionTest> m_test;
