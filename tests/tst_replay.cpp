@@ -22,12 +22,12 @@
 namespace {
 
 constexpr int kLimitMs = 10000;
-constexpr qint64 kStart = 1774746000000;
-constexpr int kInterval = 5000; // ms
+constexpr qint64 kStart = 1774746020000; // within a minute, whose mean tells nothing more
+constexpr int kInterval = 5000;          // ms
 constexpr int kSamples = 600;
 constexpr int kOutage = 500; // first sample on battery
 constexpr int kSilence = 590;
-constexpr int kForgotten = 300; // the first full sample that is left later; begins a minute
+constexpr int kForgotten = 308; // the first full sample that is left later; begins a minute
 
 DeviceSettings settings()
 {

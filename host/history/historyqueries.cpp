@@ -240,10 +240,12 @@ std::optional<TimeRange> HistoryQueries::extent(qint64 device)
 {
     std::optional<TimeRange> all;
     for (int tier = 0; tier < kTierCount; ++tier)
-        if (const auto range = tierExtent(tier, device))
-            all = all ? TimeRange{std::min(all->fromMs, range->fromMs),
-                                  std::max(all->toMs, range->toMs)}
-                      : *range;
+        if (const auto range = tierExtent(tier, device)) {
+            if (!all)
+                all = range;
+            else if (range->fromMs + kTiers[tier].spanMs <= all->fromMs) // not a mean of the finer
+                all->fromMs = range->fromMs;
+        }
     return all;
 }
 
@@ -399,9 +401,9 @@ QVector<StoredReading> HistoryQueries::framesBefore(qint64 device, qint64 timeMs
                 {device, latestMs, mostRows - frames.size()});
         while (query && query->next())
             frames += frameOf(tier, query->value(0).toLongLong(), query->value(1).toByteArray());
-        if (!frames.isEmpty() &&
-            tier + 1 < kTierCount) // spans that end before the finer ones begin
-            latestMs = frames.constLast().timeMs - kTiers[tier + 1].spanMs;
+        const auto finer = tierExtent(tier, device);
+        if (finer && tier + 1 < kTierCount) // spans that end before the finer ones begin
+            latestMs = std::min(latestMs, finer->fromMs - kTiers[tier + 1].spanMs);
     }
     std::reverse(frames.begin(), frames.end());
     addInfo(device, frames);

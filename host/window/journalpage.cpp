@@ -90,11 +90,14 @@ JournalPage::JournalPage(OperatorSession& session, QWidget* parent)
     m_state->setObjectName(QStringLiteral("JournalState"));
     m_state->setTextFormat(Qt::PlainText);
     makeView();
+    m_state->setSizePolicy(QSizePolicy::Ignored,
+                           QSizePolicy::Preferred); // an error is as long as it likes
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->addLayout(makeFilters());
-    column->addLayout(makeButtons());
+    column->addLayout(makeSearch());
     column->addWidget(m_view, 1);
+    column->addLayout(makeButtons());
     for (QTimer* timer : {&m_typing, &m_refresh})
         timer->setSingleShot(true);
     m_typing.setInterval(kTypingMs);
@@ -141,7 +144,7 @@ QHBoxLayout* JournalPage::makeFilters()
     return row;
 }
 
-QHBoxLayout* JournalPage::makeButtons()
+QHBoxLayout* JournalPage::makeSearch()
 {
     m_text->setObjectName(QStringLiteral("JournalText"));
     m_text->setAccessibleName(tr("Text"));
@@ -150,23 +153,30 @@ QHBoxLayout* JournalPage::makeButtons()
     m_onlyOpen->setObjectName(QStringLiteral("JournalOnlyOpen"));
     m_onlyOpen->setToolTip(tr("What has begun and is not over: the alarms of the desk"));
     m_onlyNew->setObjectName(QStringLiteral("JournalOnlyNew"));
-    m_acknowledge->setObjectName(QStringLiteral("JournalAcknowledge"));
-    m_export->setObjectName(QStringLiteral("JournalExport"));
     connect(m_text, &QLineEdit::textChanged, this, [this] { m_typing.start(); });
-    for (QCheckBox* box : {m_onlyOpen, m_onlyNew})
-        connect(box, &QCheckBox::toggled, this, &JournalPage::applyFilter);
-    connect(m_acknowledge, &QPushButton::clicked, this, &JournalPage::askForNote);
-    m_replay->setObjectName(QStringLiteral("JournalReplay"));
-    connect(m_replay, &QPushButton::clicked, this, [this] { replayFrom(m_view->currentIndex()); });
-    connect(m_view, &QTreeView::activated, this, &JournalPage::replayFrom);
-    connect(m_export, &QPushButton::clicked, this, &JournalPage::askForPath);
     auto* row = new QHBoxLayout;
     row->addWidget(labelFor(m_text, tr("Te&xt")));
-    for (QWidget* widget : QList<QWidget*>{m_text, m_onlyOpen, m_onlyNew, m_state})
-        row->addWidget(widget, widget == m_text ? 1 : 0);
-    row->addWidget(m_replay);
-    row->addWidget(m_acknowledge);
-    row->addWidget(m_export);
+    row->addWidget(m_text, 1);
+    for (QCheckBox* box : {m_onlyOpen, m_onlyNew}) {
+        row->addWidget(box);
+        connect(box, &QCheckBox::toggled, this, &JournalPage::applyFilter);
+    }
+    return row;
+}
+
+QHBoxLayout* JournalPage::makeButtons()
+{
+    m_replay->setObjectName(QStringLiteral("JournalReplay"));
+    m_acknowledge->setObjectName(QStringLiteral("JournalAcknowledge"));
+    m_export->setObjectName(QStringLiteral("JournalExport"));
+    connect(m_replay, &QPushButton::clicked, this, [this] { replayFrom(m_view->currentIndex()); });
+    connect(m_view, &QTreeView::activated, this, &JournalPage::replayFrom);
+    connect(m_acknowledge, &QPushButton::clicked, this, &JournalPage::askForNote);
+    connect(m_export, &QPushButton::clicked, this, &JournalPage::askForPath);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_state, 1);
+    for (QPushButton* button : {m_replay, m_acknowledge, m_export})
+        row->addWidget(button);
     return row;
 }
 

@@ -45,6 +45,7 @@ protected:
 
 private:
     QHBoxLayout* makeFilters();
+    QHBoxLayout* makeSearch();
     QHBoxLayout* makeButtons();
     void makeView();
     void applyFilter();

@@ -1,6 +1,6 @@
 #include "window/replaybar.h"
 
-#include "window/plainlabel.h"
+#include "elidedlabel.h"
 
 #include <QComboBox>
 #include <QDateTime>
@@ -14,7 +14,8 @@ namespace {
 
 constexpr int kMsPerSecond = 1000;
 constexpr int kSpeeds[] = {1, 10, 100};
-constexpr int kKeyStep = 60;   // s, by the arrow keys
+constexpr int kKeyStep = 60; // s, by the arrow keys
+constexpr int kTimeCharacters = 30;
 constexpr int kPageStep = 900; // s, by the page keys
 
 QString timeText(qint64 timeMs)
@@ -28,8 +29,8 @@ QString timeText(qint64 timeMs)
 ReplayBar::ReplayBar(ReplayPlayer& player, QWidget* parent)
     : QFrame(parent)
     , m_player(player)
-    , m_time(new PlainLabel)
-    , m_range(new QLabel)
+    , m_time(new ElidedLabel({}, kTimeCharacters))
+    , m_range(new ElidedLabel({}, 0))
     , m_slider(new QSlider(Qt::Horizontal))
     , m_speed(new QComboBox)
     , m_live(new QPushButton(tr("Back to &live")))
@@ -52,14 +53,14 @@ QLayout* ReplayBar::makeHead()
     mark->setObjectName(QStringLiteral("ReplayMark"));
     m_time->setObjectName(QStringLiteral("ReplayTime"));
     m_range->setObjectName(QStringLiteral("ReplayRange"));
-    m_range->setTextFormat(Qt::PlainText);
+    m_range->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_live->setObjectName(QStringLiteral("btnBlue"));
     connect(m_live, &QPushButton::clicked, this, &ReplayBar::liveWanted);
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     row->addWidget(mark);
-    row->addWidget(m_time, 1);
-    row->addWidget(m_range);
+    row->addWidget(m_time);
+    row->addWidget(m_range, 1);
     row->addWidget(m_live);
     return row;
 }

@@ -8,8 +8,8 @@
 
 #include <QFrame>
 
+class ElidedLabel;
 class QComboBox;
-class QLabel;
 class QPushButton;
 class QSlider;
 class QToolButton;
@@ -36,8 +36,8 @@ private:
     void showRange();
 
     ReplayPlayer& m_player;
-    QLabel* m_time;
-    QLabel* m_range;
+    ElidedLabel* m_time;
+    ElidedLabel* m_range;
     QSlider* m_slider; // s since the first stored moment
     QToolButton* m_play = nullptr;
     QComboBox* m_speed;
