@@ -1,8 +1,17 @@
 // What those hear and see who cannot use a mouse or see faint colours: every figure's accessible
 // name has value and unit, Tab reaches what can be used, and text stands out in both themes.
 
+#include "connectors/factory/connectorfactory.h"
+#include "support/quietplatform.h"
+#include "support/recordingdevice.h"
 #include "support/scriptedconnector.h"
+#include "window/confirmbox.h"
+#include "window/devicedialog.h"
 #include "window/devicepage.h"
+#include "window/finddevicesdialog.h"
+#include "window/logindialog.h"
+#include "window/mainwindow.h"
+#include "window/settingsdialog.h"
 #include "window/theme.h"
 #include "window/urgencycolors.h"
 
@@ -91,6 +100,119 @@ struct Shown {
     DevicePage* page = nullptr;
 };
 
+// All devices on show, one of each kind of trouble.
+struct Desk {
+    Desk()
+    {
+        const auto add = [this](const char* name, LinkState link, double charge) {
+            DeviceSettings settings;
+            settings.name = name;
+            settings.group = "North hall";
+            settings.address = *parseDeviceAddress(QStringLiteral("nut://h/u")).address;
+            fleet.add(settings);
+            UpsReading reading;
+            reading.outputSource = charge > 50 ? OutputSource::Utility : OutputSource::Battery;
+            reading.charge = charge;
+            reading.runtime = charge * 15;
+            connector->answer(LinkState::Live, reading);
+            if (link != LinkState::Live)
+                connector->answer(link, {}, "No route");
+        };
+        add("Alpha", LinkState::Live, 87);
+        add("Beta", LinkState::Live, 12);
+        add("Gamma", LinkState::Lost, 87);
+        DeskEvent event;
+        event.isBad = true;
+        event.outcome = "failed";
+        log.append(event);
+        window.tell("Bad news", true);
+        window.resize(1024, 768);
+        window.show();
+    }
+
+    ScriptedConnector* connector = nullptr;
+    Fleet fleet{[this](const DeviceSettings&) {
+        auto made = std::make_unique<ScriptedConnector>();
+        connector = made.get();
+        return made;
+    }};
+    EventLog log;
+    CommandDesk commands{fleet, log, [] { return CommandDesk::Operator{}; }};
+    OperatorSession session;
+    MainWindow window{fleet, commands, log, session};
+};
+
+// Every window that has something to fill in, and the desk itself.
+struct Windows : Desk {
+    Windows()
+    {
+        DeviceSettings v3;
+        v3.address =
+            *parseDeviceAddress(QStringLiteral("snmp://u@h?version=3&level=authPriv")).address;
+        const auto save = [](const auto&) { return QString(); };
+        all << &window << new DeviceDialog({}, {}, makeConnector, save, &window)
+            << new DeviceDialog(v3, {}, makeConnector, save, &window)
+            << new FindDevicesDialog({}, {}, makeConnector, save, &window)
+            << new LoginDialog(session, true, &window) << new SettingsDialog(list, &window);
+    }
+
+    int count() const { return all.size() + 1; }
+    QWidget* at(int index) // the box locks the others
+    {
+        return index < all.size()
+                   ? all[index]
+                   : ConfirmBox::ask({"Shut down", "Really?", "At once", "&Shut down"}, &window,
+                                     [](bool) {});
+    }
+
+    QTemporaryDir folder;
+    WatchList list{fleet, DeskConfig::load(folder.filePath("upsdesk.conf"))};
+    QVector<QWidget*> all;
+};
+
+// Down the form, and along a row; up only to a column further right. In what holds both: a form may
+// have scrolled meanwhile.
+bool goesAgainstTheEye(const QWidget* from, const QWidget* to)
+{
+    const QWidget* form = from->parentWidget();
+    while (!form->isAncestorOf(to))
+        form = form->parentWidget();
+    const QRect before(from->mapTo(form, QPoint()), from->size());
+    const QRect after(to->mapTo(form, QPoint()), to->size());
+    const bool up = after.bottom() <= before.top();
+    const bool sameRow = !up && after.top() < before.bottom();
+    return up ? after.left() < before.right() : sameRow && after.right() <= before.left();
+}
+
+// By Tab, from where the window puts the focus, until it comes round: what is wrong on the way.
+QString faultOfTabbing(QWidget* window)
+{
+    window->show();
+    window->activateWindow();
+    if (!QTest::qWaitFor([window] { return qApp->activeWindow() == window; }))
+        return "not active";
+    if (!window->isAncestorOf(qApp->focusWidget()))
+        QTest::keyClick(window, Qt::Key_Tab);
+    QVector<QWidget*> order;
+    int comesRound = 0;
+    for (QWidget* focus = qApp->focusWidget();
+         window->isAncestorOf(focus) && !order.contains(focus); focus = qApp->focusWidget()) {
+        const QString where =
+            QString(" at ") + focus->metaObject()->className() + ' ' + focus->objectName();
+        if (spoken(focus).isEmpty())
+            return "no name" + where;
+        if (!window->rect().contains({focus->mapTo(window, QPoint()), focus->size()}))
+            return "cut off" + where;
+        // Once it may come round to what stands before the first: a box begins at its Cancel.
+        if (!order.isEmpty() && goesAgainstTheEye(order.last(), focus) &&
+            (comesRound++ || !goesAgainstTheEye(order.first(), focus)))
+            return "out of order" + where;
+        order << focus;
+        QTest::keyClick(focus, Qt::Key_Tab);
+    }
+    return order.size() > 1 ? QString() : "leads nowhere";
+}
+
 } // namespace
 
 class TestAccessibility : public QObject
@@ -98,9 +220,13 @@ class TestAccessibility : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { dropRemarksOfThePlatform(); }
     void figuresAreNamedWithUnits();
     void tabReachesWhatCanBeUsed();
+    void tabFollowsTheEye();
+    void devicesAreToldWhole();
     void textStandsOut();
+    void paintedTextStandsOut();
 };
 
 void TestAccessibility::figuresAreNamedWithUnits()
@@ -148,6 +274,71 @@ void TestAccessibility::tabReachesWhatCanBeUsed()
         QVERIFY2(reached.contains(shown.page->findChild<QWidget*>("HeadingNotes")),
                  qPrintable(QString::number(number)));
     }
+}
+
+void TestAccessibility::tabFollowsTheEye()
+{
+    Windows windows;
+    for (int number = 0; number < windows.count(); ++number) {
+        QWidget* window = windows.at(number);
+        QCOMPARE(window->windowTitle() + ": " + faultOfTabbing(window),
+                 window->windowTitle() + ": ");
+        if (number > 0)
+            window->close();
+    }
+}
+
+void TestAccessibility::devicesAreToldWhole()
+{
+    Desk desk;
+    for (const char* name : {"DeviceList", "OverviewTiles"}) {
+        auto* view = QAccessible::queryAccessibleInterface(
+            desk.window.findChild<QAbstractItemView*>(QLatin1String(name)));
+        QStringList told;
+        for (int row = 0; row < view->childCount(); ++row)
+            told << view->child(row)->text(QAccessible::Name);
+        told.sort();
+        QCOMPARE(told.size(), 3);
+        QVERIFY(told[0].startsWith("Alpha, On mains, Battery 87 %, Lasts 21 min, Load --, live"));
+        QVERIFY(told[1].startsWith("Beta, On battery, little time left, Battery 12 %"));
+        QVERIFY(told[2].startsWith("Gamma, No answer, no answer"));
+    }
+}
+
+void TestAccessibility::paintedTextStandsOut()
+{
+    constexpr double enough = 4.5;
+    QStringList faint;
+    for (Theme theme : {Theme::Light, Theme::Dark}) {
+        applyTheme(theme);
+        Windows windows;
+        for (int number = 0; number < windows.count(); ++number) {
+            QWidget* window = windows.at(number);
+            window->show();
+            QCoreApplication::processEvents();
+            const QImage picture = window->grab().toImage();
+            RecordingDevice recorder(window->size());
+            window->render(&recorder, QPoint(), QRegion(), QWidget::DrawChildren);
+            for (const PaintStep& step : recorder.stepsOf(PaintStep::Text)) {
+                const QPoint start = step.transform.map(step.points[0]).toPoint();
+                const int height = QFontMetrics(step.font).ascent();
+                const QRect place(start.x(), start.y() - height, qRound(step.width), height);
+                const QWidget* owner = window->childAt(place.center());
+                if (step.text.trimmed().isEmpty() || (owner && !owner->isEnabled()))
+                    continue;
+                const QColor ground = groundOf(picture.copy(place & picture.rect()));
+                QColor text = step.pen.color();
+                const double share = text.alphaF();
+                text.setRgbF(text.redF() * share + ground.redF() * (1 - share),
+                             text.greenF() * share + ground.greenF() * (1 - share),
+                             text.blueF() * share + ground.blueF() * (1 - share));
+                if (ground.isValid() && contrast(text, ground) < enough)
+                    faint << window->windowTitle() + ": " + step.text + ' ' + text.name() + " on " +
+                                 ground.name();
+            }
+        }
+    }
+    QCOMPARE(faint.join('\n'), QString());
 }
 
 void TestAccessibility::textStandsOut()

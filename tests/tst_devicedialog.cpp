@@ -2,8 +2,11 @@
 // shown, a connection is tried without waiting, and the list's actions reach file and fleet.
 
 #include "connectors/addressrange.h"
+#include "connectors/factory/connectorfactory.h"
 #include "fleet/watchlist.h"
 #include "secrets/filesecretstore.h"
+#include "support/lineserver.h"
+#include "support/nutanswers.h"
 #include "support/quietplatform.h"
 #include "support/scriptedconnector.h"
 #include "window/deviceactions.h"
@@ -11,6 +14,7 @@
 #include "window/finddevicesdialog.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -105,6 +109,7 @@ private slots:
     void ranges_data();
     void ranges();
     void onlyTickedDevicesAreAdded();
+    void devicesOfNutServerAreListed();
     void actionsReachFileAndFleet();
 };
 
@@ -359,6 +364,34 @@ void TestDeviceDialog::ranges()
                      .arg(range.hosts.first(), range.hosts.last())
                      .arg(range.hosts.size()),
                  hosts);
+}
+
+void TestDeviceDialog::devicesOfNutServerAreListed()
+{
+    LineServer server([](const QByteArray& line) { return orderlyNutAnswer(line); });
+    QVector<DeviceSettings> saved;
+    FindDevicesDialog dialog({}, {"unit"}, makeConnector, [&](const auto& devices) {
+        saved = devices;
+        return QString();
+    });
+    dialog.show();
+    auto* table = dialog.findChild<QTableWidget*>("FoundTable");
+    auto* search = dialog.findChild<QPushButton*>("SearchButton");
+    const QString message = dialog.findChild<DialogMessage*>()->text();
+    search->click();
+    QVERIFY(dialog.findChild<DialogMessage*>()->text() != message); // no host
+    for (auto* edit : dialog.findChildren<QLineEdit*>("HostEdit"))
+        edit->setText("127.0.0.1");
+    for (auto* edit : dialog.findChildren<QSpinBox*>("PortEdit"))
+        edit->setValue(server.serverPort());
+    search->click();
+    QTRY_COMPARE(table->rowCount(), 1);
+    QCOMPARE(table->item(0, 2)->text(), QString("The only one"));
+    dialog.findChild<QCheckBox*>("AllBox")->click();
+    dialog.accept();
+    QCOMPARE(saved.size(), 1);
+    QCOMPARE(saved[0].name, QString("unit 2"));
+    QCOMPARE(saved[0].address.text, QString("nut://127.0.0.1:%1/unit").arg(server.serverPort()));
 }
 
 void TestDeviceDialog::onlyTickedDevicesAreAdded()

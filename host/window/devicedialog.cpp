@@ -67,6 +67,7 @@ QScrollArea* scrolled(QWidget* form)
         QSize sizeHint() const override { return widget()->sizeHint(); }
     };
     auto* area = new FormArea;
+    area->setFocusPolicy(Qt::NoFocus); // it follows the fields
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

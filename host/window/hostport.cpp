@@ -37,6 +37,7 @@ HostPort::HostPort(int standardPort, QWidget* parent)
     row->addWidget(label);
     row->addWidget(m_port);
     setFocusProxy(m_host);
+    setFocusPolicy(m_host->focusPolicy()); // without one a mnemonic leads nowhere
 
     connect(m_host, &QLineEdit::textChanged, this, &HostPort::edited);
     connect(m_port, QOverload<int>::of(&QSpinBox::valueChanged), this, &HostPort::edited);

@@ -96,8 +96,13 @@ void SidePanel::setUpList()
     m_list->setItemDelegate(new DeviceRowDelegate(m_list));
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+    // Not the current row: Tab makes the first one current, and would open what nobody chose.
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { emit deviceSelected(selected()); });
+    connect(m_list, &QListView::activated, m_list->selectionModel(),
+            [this](const QModelIndex& row) {
+                m_list->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect);
+            });
 }
 
 void SidePanel::setActions(DeviceActions* actions)
@@ -110,8 +115,8 @@ void SidePanel::setActions(DeviceActions* actions)
 
 Device* SidePanel::selected() const
 {
-    const QModelIndex index = m_list->currentIndex();
-    return index.isValid() ? DeviceListModel::deviceAt(index) : nullptr;
+    const QModelIndexList chosen = m_list->selectionModel()->selectedIndexes();
+    return chosen.isEmpty() ? nullptr : DeviceListModel::deviceAt(chosen.first());
 }
 
 void SidePanel::select(Device* device)

@@ -1,5 +1,7 @@
 #include "window/theme.h"
 
+#include "window/urgencycolors.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QFont>
@@ -56,6 +58,7 @@ void applyTheme(Theme theme)
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         palette.setColor(role, row.text);
     palette.setColor(QPalette::ToolTipBase, row.base);
+    palette.setColor(QPalette::PlaceholderText, fadedColor(row.text, row.base));
     for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         QColor faint = row.text;
         faint.setAlphaF(0.45);
