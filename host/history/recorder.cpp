@@ -180,6 +180,8 @@ void Recorder::observe(Device* device)
         outage->entry.lowestCharge =
             std::min(outage->entry.lowestCharge.value_or(*reading->charge), *reading->charge);
     state.wasLive = isLive;
+    if (isLive)
+        state.lastLiveMs = nowMs();
 }
 
 void Recorder::beginFact(Device* device, DeviceState& state, const DeviceFact& fact)
@@ -199,7 +201,10 @@ void Recorder::beginFact(Device* device, DeviceState& state, const DeviceFact& f
     if (fact.kind == JournalKind::Condition)
         entry.onsetMs = device->conditionSince().toMSecsSinceEpoch();
     else if (fact.ageSeconds > 0 && fact.ageSeconds < kLongestAge)
-        entry.onsetMs -= static_cast<qint64>(fact.ageSeconds * kMsPerSecond);
+        // Not before the reading in which it was not so, whatever the device counts.
+        entry.onsetMs =
+            std::max(entry.onsetMs - static_cast<qint64>(fact.ageSeconds * kMsPerSecond),
+                     state.lastLiveMs.value_or(0));
     state.open.insert(fact.fact, {entry, false});
     begin(entry, device->address());
 }

@@ -47,6 +47,7 @@ private:
         QHash<QString, Open> open; // by fact
         QByteArray info;           // as last written
         bool wasLive = false;
+        std::optional<qint64> lastLiveMs;
         std::optional<qint64> lastSeenMs; // by an earlier run
     };
     struct Stored {
