@@ -323,10 +323,11 @@ void TestAccessibility::paintedTextStandsOut()
                 const QPoint start = step.transform.map(step.points[0]).toPoint();
                 const int height = QFontMetrics(step.font).ascent();
                 const QRect place(start.x(), start.y() - height, qRound(step.width), height);
+                const QRect around = place.adjusted(-3, -2, 3, 2); // an "i" is but ink
                 const QWidget* owner = window->childAt(place.center());
                 if (step.text.trimmed().isEmpty() || (owner && !owner->isEnabled()))
                     continue;
-                const QColor ground = groundOf(picture.copy(place & picture.rect()));
+                const QColor ground = groundOf(picture.copy(around & picture.rect()));
                 QColor text = step.pen.color();
                 const double share = text.alphaF();
                 text.setRgbF(text.redF() * share + ground.redF() * (1 - share),
