@@ -28,6 +28,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -75,7 +76,12 @@ void MainWindow::setUpDesk()
 {
     m_pages = new PageStack(m_desk, m_overview);
     m_journal = new JournalPage(m_session);
-    m_pages->addWidget(m_journal);
+    m_journalPlace = new QScrollArea; // its filters would keep the window from fitting the screen
+    m_journalPlace->setFocusPolicy(Qt::NoFocus);
+    m_journalPlace->setWidgetResizable(true);
+    m_journalPlace->setFrameShape(QFrame::NoFrame);
+    m_journalPlace->setWidget(m_journal);
+    m_pages->addWidget(m_journalPlace);
     connect(m_journal, &JournalPage::told, this, &MainWindow::tell);
     connect(m_journal, &JournalPage::replayWanted, this, &MainWindow::openReplay);
     connect(m_pages, &QStackedWidget::currentChanged, this, [this] {
@@ -318,7 +324,7 @@ void MainWindow::openOverview()
 
 void MainWindow::openJournal()
 {
-    m_pages->setCurrentWidget(m_journal);
+    m_pages->setCurrentWidget(m_journalPlace);
     m_side->select(nullptr);
     setWindowTitle(tr("Journal - upsdesk"));
     choiceChanged();

@@ -28,6 +28,7 @@ class JournalPage;
 class OverviewPage;
 class PageStack;
 class QPushButton;
+class QScrollArea;
 class QSplitter;
 class ReplayPage;
 class ResultBanner;
@@ -132,6 +133,7 @@ private:
     QSplitter* m_splitter = nullptr;
     EventDock* m_events = nullptr;
     JournalPage* m_journal = nullptr;
+    QScrollArea* m_journalPlace = nullptr;
     QPointer<ReplayPage> m_replay; // there while it is on show
     QPointer<HistoryReader> m_reader;
     DeviceActions* m_actions = nullptr;

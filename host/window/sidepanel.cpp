@@ -32,13 +32,13 @@ SidePanel::SidePanel(DeviceListModel& model, OperatorSession& session, QWidget* 
     , m_column(new QVBoxLayout(this))
 {
     setObjectName(QStringLiteral("SidePanel"));
-    setMinimumWidth(kLeastWidth);
     m_sorted->setSourceModel(&model);
     setUpList();
     m_column->setContentsMargins(0, kMargin, 0, kMargin);
     m_column->addWidget(makeHead());
     m_column->addWidget(m_list, 1);
     m_column->addWidget(makeFoot(session));
+    m_column->addStrut(kLeastWidth); // or what its buttons need
 }
 
 QWidget* SidePanel::makeHead()
