@@ -79,6 +79,12 @@ QString sinceText(const QDateTime& since)
     return Tr::tr("since %1").arg(since.toString(format));
 }
 
+QString momentText(const QDateTime& moment)
+{
+    const bool today = moment.date() == QDate::currentDate();
+    return moment.toString(today ? QStringLiteral("HH:mm") : QStringLiteral("d MMM"));
+}
+
 std::array<DeviceFigure, 3> deviceFigures(const UpsReading* reading)
 {
     return {{{Tr::tr("Battery"), chargeText(reading)},

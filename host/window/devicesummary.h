@@ -27,6 +27,8 @@ QString loadText(const UpsReading* reading);
 QString dataText(const Device& device);
 // "since 14:03:10"; before today with the day.
 QString sinceText(const QDateTime& since);
+// "14:03"; before today only the day.
+QString momentText(const QDateTime& moment);
 
 struct DeviceFigure {
     QString caption;

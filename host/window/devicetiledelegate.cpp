@@ -10,24 +10,8 @@
 
 namespace {
 
-// px at scale 1
-constexpr QSize kFullSize(290, 186);
-constexpr QSize kCompactSize(108, 32);
-constexpr int kGap = 6; // half the space between two tiles
-constexpr int kCompactGap = 1;
-constexpr int kMargin = 12;
-constexpr int kCompactMargin = 5;
-constexpr int kBandHeight = 34;
-constexpr int kCornerRadius = 6;
-constexpr int kFocusWidth = 3;
-// pt at scale 1
-constexpr double kNameSize = 13;
-constexpr double kStateSize = 14;
-constexpr double kFigureSize = 18;
-constexpr double kSmallSize = 9.5;
-constexpr double kCompactNameSize = 8.5;
-constexpr double kCompactStateSize = 8;
-constexpr double kLeastSize = 6; // of alarms that need the room
+constexpr int kFocusWidth = 3;     // px
+constexpr double kLeastSize = 6.5; // pt, of alarms that need the room
 
 constexpr int kLeft = Qt::AlignLeft | Qt::AlignVCenter;
 
@@ -37,6 +21,12 @@ int drawElided(QPainter* painter, const QRect& rect, int flags, const QString& t
     const QString shown = metrics.elidedText(text, Qt::ElideRight, rect.width());
     painter->drawText(rect, flags | Qt::TextSingleLine, shown);
     return metrics.horizontalAdvance(shown);
+}
+
+// As many px as that many lines of text take.
+int wholeLines(int height, const QFontMetrics& metrics)
+{
+    return std::max(height / metrics.lineSpacing(), 1) * metrics.lineSpacing();
 }
 
 // What makes the tile's colour stands first.
@@ -49,6 +39,29 @@ QString compactText(const Condition& condition)
 }
 
 } // namespace
+
+// At scale 1.
+struct DeviceTileDelegate::Metrics {
+    // px
+    QSize size;
+    int gap; // half the space between two tiles
+    int margin;
+    int bandHeight;
+    int cornerRadius;
+    // pt
+    double name;
+    double state;
+    double figure;
+    double caption;
+    double small;
+};
+
+const DeviceTileDelegate::Metrics DeviceTileDelegate::kMetrics[] = {
+    // size     gap margin band corner  name state figure caption small
+    {{290, 186}, 6, 12, 34, 6, 13, 14, 18, 9.5, 9.5},  // Full
+    {{176, 108}, 3, 8, 24, 4, 10.5, 11, 11.5, 8, 8.5}, // Brief
+    {{108, 32}, 1, 5, 0, 0, 8.5, 8, 0, 0, 0},          // Compact
+};
 
 struct DeviceTileDelegate::Tile {
     QPainter* painter;
@@ -65,13 +78,18 @@ struct DeviceTileDelegate::Tile {
 
 QSize DeviceTileDelegate::leastSize(Form form)
 {
-    return form == Form::Full ? kFullSize : kCompactSize;
+    return kMetrics[static_cast<int>(form)].size;
 }
 
-void DeviceTileDelegate::setTile(Form form, int width, double scale)
+const DeviceTileDelegate::Metrics& DeviceTileDelegate::metrics() const
+{
+    return kMetrics[static_cast<int>(m_form)];
+}
+
+void DeviceTileDelegate::setTile(Form form, const QSize& size, double scale)
 {
     m_form = form;
-    m_tileWidth = width;
+    m_tile = size;
     m_scale = scale;
 }
 
@@ -89,7 +107,7 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     const Device* device = DeviceListModel::deviceAt(index);
     if (!device)
         return;
-    const int gap = m_form == Form::Full ? px(kGap) : kCompactGap;
+    const int gap = std::max(px(metrics().gap), 1);
     const Tile tile{painter,
                     option,
                     *device,
@@ -103,9 +121,12 @@ void DeviceTileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         painter->setRenderHint(QPainter::Antialiasing);
         drawFrame(tile);
         drawBand(tile);
-        QRect room = tile.rect.adjusted(px(kMargin), px(kBandHeight) + px(kMargin) / 2,
-                                        -px(kMargin), -px(kMargin) / 2);
+        const int margin = px(metrics().margin);
+        QRect room =
+            tile.rect.adjusted(margin, px(metrics().bandHeight) + margin / 2, -margin, -margin / 2);
         drawFigures(tile, room);
+        if (m_form == Form::Brief)
+            return drawReason(tile, room);
         drawData(tile, room);
         drawAlarms(tile, room);
     }
@@ -119,43 +140,53 @@ void DeviceTileDelegate::drawCompact(const Tile& tile) const
         painter->setPen(QPen(tile.text(), kFocusWidth));
         painter->drawRect(tile.rect.adjusted(1, 1, -2, -2));
     }
-    QRect line = tile.rect.adjusted(px(kCompactMargin), 1, -px(kCompactMargin), -1);
-    line.setHeight(line.height() / 2);
+    const int margin = px(metrics().margin);
+    QRect room = tile.rect.adjusted(margin, 1, -margin, -1);
+    QRect line = room;
+    line.setHeight(px(metrics().size.height()) / 2 - 1);
     painter->setPen(Qt::white);
-    painter->setFont(sized(tile, kCompactNameSize, true));
+    painter->setFont(sized(tile, metrics().name, true));
     drawElided(painter, line, kLeft, tile.device.name());
-    line.translate(0, line.height());
-    painter->setFont(sized(tile, kCompactStateSize, false));
-    drawElided(painter, line, kLeft, compactText(tile.condition));
+    painter->setFont(sized(tile, metrics().state, false));
+    room.setTop(line.bottom() + 1);
+    const QString text = compactText(tile.condition);
+    if (room.height() < 2 * painter->fontMetrics().lineSpacing())
+        return void(drawElided(painter, room, kLeft, text));
+    room.setHeight(wholeLines(room.height(), painter->fontMetrics()));
+    painter->setClipRect(room);
+    painter->drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
 }
 
 void DeviceTileDelegate::drawFrame(const Tile& tile) const
 {
     const bool marked = tile.hasFocus() || tile.option.state & QStyle::State_MouseOver;
     const QColor color = urgencyColor(tile.condition.urgency);
+    const int corner = px(metrics().cornerRadius);
     tile.painter->setPen(QPen(marked ? tile.text() : color, tile.hasFocus() ? kFocusWidth : 2));
     tile.painter->setBrush(tile.option.palette.base());
-    tile.painter->drawRoundedRect(tile.rect, px(kCornerRadius), px(kCornerRadius));
+    tile.painter->drawRoundedRect(tile.rect, corner, corner);
 }
 
 // The state fills the head of the tile: its colour is what the room sees first.
 void DeviceTileDelegate::drawBand(const Tile& tile) const
 {
     QPainter* painter = tile.painter;
+    const int corner = px(metrics().cornerRadius);
     QRect band = tile.rect.adjusted(1, 1, -1, 0);
-    band.setHeight(px(kBandHeight));
+    band.setHeight(px(metrics().bandHeight));
     painter->setPen(Qt::NoPen);
     painter->setBrush(urgencyColor(tile.condition.urgency));
-    painter->drawRoundedRect(band, px(kCornerRadius), px(kCornerRadius));
-    painter->drawRect(band.adjusted(0, px(kCornerRadius), 0, 0));
+    painter->drawRoundedRect(band, corner, corner);
+    painter->drawRect(band.adjusted(0, corner, 0, 0));
     painter->setPen(Qt::white);
-    const QRect line = band.adjusted(px(kMargin), 0, -px(kMargin), 0);
-    painter->setFont(sized(tile, kSmallSize, false));
+    const int margin = px(metrics().margin);
+    const QRect line = band.adjusted(margin, 0, -margin, 0);
+    const QDateTime since = tile.device.conditionSince();
+    painter->setFont(sized(tile, metrics().small, false));
     const int taken = drawElided(painter, line, Qt::AlignRight | Qt::AlignVCenter,
-                                 sinceText(tile.device.conditionSince()));
-    painter->setFont(sized(tile, kStateSize, true));
-    drawElided(painter, line.adjusted(0, 0, -taken - px(kMargin) / 2, 0), kLeft,
-               tile.condition.state);
+                                 m_form == Form::Full ? sinceText(since) : momentText(since));
+    painter->setFont(sized(tile, metrics().state, true));
+    drawElided(painter, line.adjusted(0, 0, -taken - margin / 2, 0), kLeft, tile.condition.state);
 }
 
 // Values that are not live are still told, but faintly.
@@ -164,22 +195,22 @@ void DeviceTileDelegate::drawFigures(const Tile& tile, QRect& room) const
     constexpr int kWidthPercent[] = {33, 36, 31}; // of the tile; minutes need most
     QPainter* painter = tile.painter;
     painter->setPen(tile.text());
-    painter->setFont(sized(tile, kNameSize, true));
+    painter->setFont(sized(tile, metrics().name, true));
     QRect line = room;
     line.setHeight(painter->fontMetrics().height());
     drawElided(painter, line, kLeft, tile.device.name());
 
-    QRect value(line.bottomLeft() + QPoint(0, px(kMargin) / 2), QSize());
+    QRect value(line.bottomLeft() + QPoint(0, px(metrics().gap)), QSize());
     QRect caption;
     std::size_t number = 0;
     for (const DeviceFigure& figure : deviceFigures(tile.device.reading())) {
         value.setWidth(room.width() * kWidthPercent[number++] / 100);
         painter->setPen(tile.live ? tile.text() : tile.soft());
-        painter->setFont(sized(tile, kFigureSize, tile.live));
+        painter->setFont(sized(tile, metrics().figure, tile.live));
         value.setHeight(painter->fontMetrics().height());
         drawElided(painter, value, kLeft, figure.value);
         painter->setPen(tile.soft());
-        painter->setFont(sized(tile, kSmallSize, false));
+        painter->setFont(sized(tile, metrics().caption, false));
         caption = QRect(value.bottomLeft(), QSize(value.width(), painter->fontMetrics().height()));
         drawElided(painter, caption, kLeft, figure.caption);
         value.moveLeft(value.left() + value.width());
@@ -191,7 +222,7 @@ void DeviceTileDelegate::drawFigures(const Tile& tile, QRect& room) const
 void DeviceTileDelegate::drawData(const Tile& tile, QRect& room) const
 {
     QPainter* painter = tile.painter;
-    painter->setFont(sized(tile, kSmallSize, false));
+    painter->setFont(sized(tile, metrics().small, false));
     painter->setPen(tile.live ? tile.soft()
                               : urgencyTextColor(tile.condition.urgency, tile.option.palette));
     const int flags = Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap;
@@ -203,21 +234,38 @@ void DeviceTileDelegate::drawData(const Tile& tile, QRect& room) const
     room.setBottom(needed.top() - 1);
 }
 
-// Whole, in letters as large as the room allows.
 void DeviceTileDelegate::drawAlarms(const Tile& tile, const QRect& room) const
 {
-    if (tile.condition.alarms.isEmpty())
-        return;
+    tile.painter->setPen(urgencyTextColor(tile.condition.alarmUrgency, tile.option.palette));
+    drawWhole(tile, room, tile.condition.alarms.join(QStringLiteral("  \u00b7  ")));
+}
+
+// Of data that is not live the cause, else the alarms; a brief tile has no room for ages.
+void DeviceTileDelegate::drawReason(const Tile& tile, const QRect& room) const
+{
+    if (tile.live)
+        return drawAlarms(tile, room);
+    tile.painter->setPen(urgencyTextColor(tile.condition.urgency, tile.option.palette));
+    drawWhole(tile, room, dataText(tile.device).section(QLatin1Char('\n'), 0, 0));
+}
+
+// In letters as large as the room allows; of what even the least are too large for, whole lines.
+void DeviceTileDelegate::drawWhole(const Tile& tile, QRect room, const QString& text) const
+{
     QPainter* painter = tile.painter;
-    const int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
-    const QString text = tile.condition.alarms.join(QStringLiteral("  \u00b7  "));
-    double points = kSmallSize + 1;
+    int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+    double points = metrics().small + 1;
+    const auto fits = [&] {
+        return room.contains(painter->fontMetrics().boundingRect(room, flags, text));
+    };
     do {
         painter->setFont(sized(tile, points, true));
         points -= 0.5;
-    } while (points >= kLeastSize &&
-             !room.contains(painter->fontMetrics().boundingRect(room, flags, text)));
-    painter->setPen(urgencyTextColor(tile.condition.alarmUrgency, tile.option.palette));
+    } while (points * m_scale >= kLeastSize && !fits());
+    if (!fits()) {
+        flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+        room.setHeight(wholeLines(room.height(), painter->fontMetrics()));
+    }
     painter->setClipRect(room);
     painter->drawText(room, flags, text);
     painter->setClipping(false);
@@ -225,5 +273,5 @@ void DeviceTileDelegate::drawAlarms(const Tile& tile, const QRect& room) const
 
 QSize DeviceTileDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
 {
-    return {m_tileWidth, px(leastSize(m_form).height())};
+    return m_tile;
 }

@@ -15,14 +15,15 @@ public:
 
     enum class Form {
         Full,   // state, figures, alarms, age
+        Brief,  // the same in little room: the cause in place of the age
         Compact // name and state on the colour of the urgency
     };
 
     // px at scale 1: the least width and the height.
     static QSize leastSize(Form form);
 
-    // width: tiles of this width fill the view evenly; px. scale: of height and texts.
-    void setTile(Form form, int width, double scale);
+    // size: px, such that tiles fill the view evenly. scale: of texts and margins.
+    void setTile(Form form, const QSize& size, double scale);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -30,7 +31,10 @@ public:
 
 private:
     struct Tile;
+    struct Metrics;
+    static const Metrics kMetrics[];
 
+    const Metrics& metrics() const;
     int px(int atScaleOne) const { return static_cast<int>(atScaleOne * m_scale); }
     QFont sized(const Tile& tile, double points, bool bold) const;
     void drawCompact(const Tile& tile) const;
@@ -39,9 +43,11 @@ private:
     void drawFigures(const Tile& tile, QRect& room) const;
     void drawData(const Tile& tile, QRect& room) const;
     void drawAlarms(const Tile& tile, const QRect& room) const;
+    void drawReason(const Tile& tile, const QRect& room) const;
+    void drawWhole(const Tile& tile, QRect room, const QString& text) const;
 
     Form m_form = Form::Full;
-    int m_tileWidth = 0;
+    QSize m_tile;
     double m_scale = 1;
 };
 

@@ -10,11 +10,19 @@
 
 #include <algorithm>
 
-namespace {
+// The first that finds room is used: what it says counts more than its size.
+struct OverviewPage::FormRow {
+    DeviceTileDelegate::Form form;
+    double least;   // scale; below, it is no longer read in passing
+    double largest; // times the page's largest scale; beyond, there is room for another form
+    double growth;  // times its height, where room is left: words that had none are shown
+};
 
-constexpr double kLeastFullScale = 0.85; // below, full tiles are no longer read in passing
-
-} // namespace
+const OverviewPage::FormRow OverviewPage::kForms[] = {
+    {DeviceTileDelegate::Form::Full, 0.85, 1, 0},
+    {DeviceTileDelegate::Form::Brief, 0.9, 1.2, 0.4},
+    {DeviceTileDelegate::Form::Compact, 1, 1.3, 1},
+};
 
 OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     : QWidget(parent)
@@ -110,39 +118,58 @@ void OverviewPage::fitTilesToSections()
 }
 
 // Tiles of one row are equally wide, and as large as still shows all of them. Where full ones do
-// not find room they are small ones, and where even these do not, the page scrolls.
+// not find room they are brief or small ones, and where even these do not, the page scrolls.
 void OverviewPage::fitTiles()
 {
-    using Form = DeviceTileDelegate::Form;
-    constexpr double kCompactScale = 1.8; // beyond, there is room for full tiles
     m_fitted = m_sorted->sections();
-    if (!fitTilesOf(static_cast<int>(Form::Full), kLeastFullScale, m_largestScale))
-        fitTilesOf(static_cast<int>(Form::Compact), 1, m_largestScale * kCompactScale);
+    for (const FormRow& row : kForms) {
+        int columns = 0;
+        const double scale = bestScale(row, columns);
+        setTiles(row, columns, std::max(scale, row.least));
+        if (scale > 0)
+            break;
+    }
     m_tiles->doItemsLayout();
 }
 
-bool OverviewPage::fitTilesOf(int form, double leastScale, double largestScale)
+// Of all numbers of columns that of the largest tiles; 0 where none finds room.
+double OverviewPage::bestScale(const FormRow& row, int& columns) const
 {
     constexpr double kWidest = 1.5; // times its width at that scale; beyond, a tile looks empty
-    const auto tileForm = static_cast<DeviceTileDelegate::Form>(form);
-    const QSize least = DeviceTileDelegate::leastSize(tileForm);
-    const int room = m_tiles->width() - m_tiles->verticalScrollBar()->sizeHint().width() - 2;
-    const int most = std::max(static_cast<int>(room / (least.width() * leastScale)), 1);
-    int columns = most;
-    double scale = 0;
+    const QSize least = DeviceTileDelegate::leastSize(row.form);
+    const double largest = m_largestScale * row.largest;
+    const int most = std::max(static_cast<int>(roomForTiles() / (least.width() * row.least)), 1);
+    columns = most;
+    double best = 0;
     for (int tried = 1; tried <= most; ++tried) {
-        if (tried < most && room / tried > least.width() * largestScale * kWidest)
+        if (tried < most && roomForTiles() / tried > least.width() * largest * kWidest)
             continue;
-        const double widest = static_cast<double>(room) / tried / least.width();
+        const double widest = static_cast<double>(roomForTiles()) / tried / least.width();
         const double fits =
-            scaleThatFits(tried, least.height(), leastScale, std::min(widest, largestScale));
-        if (fits > scale) {
+            scaleThatFits(tried, least.height(), row.least, std::min(widest, largest));
+        if (fits > best) {
             columns = tried;
-            scale = fits;
+            best = fits;
         }
     }
-    m_delegate->setTile(tileForm, room / columns, std::max(scale, leastScale));
-    return scale > 0;
+    return best;
+}
+
+void OverviewPage::setTiles(const FormRow& row, int columns, double scale)
+{
+    const auto heightAt = [&](int tile) {
+        return TileView::heightOf(m_fitted, columns, tile, m_tiles->fontMetrics());
+    };
+    const int least = static_cast<int>(DeviceTileDelegate::leastSize(row.form).height() * scale);
+    const int rows = std::max(heightAt(1) - heightAt(0), 1);
+    const int left = std::max(m_tiles->height() - heightAt(least), 0) / rows;
+    const int height = least + std::min(left, static_cast<int>(least * row.growth));
+    m_delegate->setTile(row.form, {roomForTiles() / columns, height}, scale);
+}
+
+int OverviewPage::roomForTiles() const
+{
+    return m_tiles->width() - m_tiles->verticalScrollBar()->sizeHint().width() - 2;
 }
 
 // The largest scale at which all tiles find room in so many columns; 0 where there is none.

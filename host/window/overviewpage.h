@@ -41,10 +41,15 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    struct FormRow;
+    static const FormRow kForms[];
+
     void showCounts();
     void fitTiles();
     void fitTilesToSections();
-    bool fitTilesOf(int form, double leastScale, double largestScale);
+    double bestScale(const FormRow& row, int& columns) const;
+    void setTiles(const FormRow& row, int columns, double scale);
+    int roomForTiles() const;
     double scaleThatFits(int columns, int height, double least, double largest) const;
 
     DeviceListModel& m_model;
