@@ -153,9 +153,9 @@ QVector<QPair<Urgency, QString>> DeviceListModel::countWords() const
 
 QString DeviceListModel::countsText() const
 {
-    QStringList words;
-    for (const auto& count : countWords())
-        words << count.second;
+    QStringList words; // a line breaks between them, never between a number and its word
+    for (QPair<Urgency, QString> count : countWords())
+        words << count.second.replace(QLatin1Char(' '), QChar::Nbsp);
     return words.join(QStringLiteral("  \u00b7  "));
 }
 

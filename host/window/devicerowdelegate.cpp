@@ -69,13 +69,14 @@ RowColors colorsOf(const QStyleOptionViewItem& option, Urgency urgency)
 }
 
 // In one line of the row: on the left what may be cut, on the right what may not.
-void writeLine(QPainter* painter, const QRect& line, const QString& left, const QString& right = {})
+void writeLine(QPainter* painter, const QRect& line, const QString& left, const QString& right = {},
+               Qt::TextElideMode elide = Qt::ElideRight)
 {
     const QFontMetrics metrics = painter->fontMetrics();
     const int rightWidth = right.isEmpty() ? 0 : metrics.horizontalAdvance(right) + kMargin;
     painter->drawText(line, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, right);
     painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                      metrics.elidedText(left, Qt::ElideRight, line.width() - rightWidth));
+                      metrics.elidedText(left, elide, line.width() - rightWidth));
 }
 
 void writeLines(QPainter* painter, const QStyleOptionViewItem& option, const Device& device)
@@ -102,7 +103,7 @@ void writeLines(QPainter* painter, const QStyleOptionViewItem& option, const Dev
 
     nextLine();
     painter->setPen(colors.soft);
-    writeLine(painter, line, device.address());
+    writeLine(painter, line, device.address(), {}, Qt::ElideMiddle); // its end is what differs
 }
 
 } // namespace

@@ -94,7 +94,9 @@ void FindDevicesDialog::makeTable()
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setMinimumHeight(kLeastTableHeight);
-    constexpr int kWidths[] = {170, 190}; // px
+    m_table->setWordWrap(false);
+    m_table->setTextElideMode(Qt::ElideMiddle); // the ends of addresses differ
+    constexpr int kWidths[] = {170, 190};       // px
     for (int column = 0; column < static_cast<int>(std::size(kWidths)); ++column)
         m_table->setColumnWidth(column, kWidths[column]);
 }
