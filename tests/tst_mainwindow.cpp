@@ -19,6 +19,7 @@
 #include <QListView>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QtTest>
 
 namespace {
@@ -234,6 +235,7 @@ void TestMainWindow::menuActs()
         filter->setText(text);
         QTRY_COMPARE(tiles->isVisible(), text.isEmpty()); // or the note that nothing matches
     }
+    QTRY_VERIFY(!filter->findChild<QToolButton*>()->isVisible()); // has faded: outlives the window
 }
 
 QTEST_MAIN(TestMainWindow)
