@@ -187,7 +187,11 @@ bool goesAgainstTheEye(const QWidget* from, const QWidget* to)
 // By Tab, from where the window puts the focus, until it comes round: what is wrong on the way.
 QString faultOfTabbing(QWidget* window)
 {
+    constexpr QSize smallest(683, 480); // 1024x768 at 150 %, less the title
     window->show();
+    window->resize(window->size().boundedTo(smallest));
+    if (window->size() != window->size().boundedTo(smallest))
+        return "too large";
     window->activateWindow();
     if (!QTest::qWaitFor([window] { return qApp->activeWindow() == window; }))
         return "not active";

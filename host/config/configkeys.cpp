@@ -108,20 +108,32 @@ DeskKeys generalKeys()
 
 DeskKeys historyKeys()
 {
+    using H = HistorySettings;
     return {
-        desk<&D::history, &HistorySettings::store>("history", "store", "", C::text(kMaxPath)),
-        desk<&D::history, &HistorySettings::mode>("history", "mode", "",
-                                                  C::choice({{"desk", ""}, {"viewer", ""}})),
-        desk<&D::history, &HistorySettings::tls>(
-            "history", "tls", "", C::choice({{"required", ""}, {"preferred", ""}, {"off", ""}})),
-        desk<&D::history, &HistorySettings::certificateAuthority>("history", "ca-file", "",
-                                                                  C::text(kMaxPath)),
-        desk<&D::history, &HistorySettings::keepSamples>("history", "keep-samples", "",
-                                                         C::number(1, 366, "days")),
-        desk<&D::history, &HistorySettings::keepMinutes>("history", "keep-minutes", "",
-                                                         C::number(1, 3660, "days")),
-        desk<&D::history, &HistorySettings::keepQuarters>("history", "keep-quarters", "",
-                                                          C::number(1, 36600, "days")),
+        desk<&D::history, &H::store>(
+            "history", "store", QT_TRANSLATE_NOOP("ConfigKeys", "&Kept in"), C::text(kMaxPath)),
+        desk<&D::history, &H::mode>(
+            "history", "mode", QT_TRANSLATE_NOOP("ConfigKeys", "This &desk"),
+            C::choice({{"desk", QT_TRANSLATE_NOOP("ConfigKeys", "records")},
+                       {"viewer", QT_TRANSLATE_NOOP("ConfigKeys", "does not record")}})),
+        desk<&D::history, &H::tls>(
+            "history", "tls", QT_TRANSLATE_NOOP("ConfigKeys", "&Encryption"),
+            C::choice({{"required", QT_TRANSLATE_NOOP("ConfigKeys", "always")},
+                       {"preferred", QT_TRANSLATE_NOOP("ConfigKeys", "always with a password")},
+                       {"off", QT_TRANSLATE_NOOP("ConfigKeys", "never")}})),
+        desk<&D::history, &H::certificateAuthority>("history", "ca-file",
+                                                    QT_TRANSLATE_NOOP("ConfigKeys", "&Authorities"),
+                                                    C::text(kMaxPath)),
+        desk<&D::history, &H::keepSamples>("history", "keep-samples",
+                                           QT_TRANSLATE_NOOP("ConfigKeys", "Keep every &poll for"),
+                                           C::number(1, 366, "days")),
+        desk<&D::history, &H::keepMinutes>("history", "keep-minutes",
+                                           QT_TRANSLATE_NOOP("ConfigKeys", "&minutes for"),
+                                           C::number(1, 3660, "days")),
+        desk<&D::history, &H::keepQuarters>(
+            "history", "keep-quarters",
+            QT_TRANSLATE_NOOP("ConfigKeys", "&quarters of an hour and the journal for"),
+            C::number(1, 36600, "days")),
     };
 }
 

@@ -5,6 +5,7 @@
 #include "window/deviceadvanced.h"
 #include "window/devicename.h"
 #include "window/devicesummary.h"
+#include "window/formarea.h"
 #include "window/nutfields.h"
 #include "window/simulatorfields.h"
 #include "window/snmpfields.h"
@@ -12,13 +13,10 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QScreen>
-#include <QScrollArea>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -29,7 +27,6 @@
 namespace {
 
 constexpr int kWidth = 520; // px
-constexpr int kFrame = 40;  // that the title and borders may take
 constexpr int kLongestAddress = 1000;
 
 // In the order of the pages with their fields.
@@ -56,23 +53,6 @@ QString sentence(const QString& reason)
         return {};
     const QString text = reason.at(0).toUpper() + reason.mid(1);
     return text.endsWith(QLatin1Char('.')) ? text : text + QLatin1Char('.');
-}
-
-// The form of a small screen's dialog scrolls; elsewhere it has all the room it asks for.
-QScrollArea* scrolled(QWidget* form)
-{
-    class FormArea : public QScrollArea
-    {
-    public:
-        QSize sizeHint() const override { return widget()->sizeHint(); }
-    };
-    auto* area = new FormArea;
-    area->setFocusPolicy(Qt::NoFocus); // it follows the fields
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setWidget(form);
-    return area;
 }
 
 } // namespace
@@ -106,8 +86,7 @@ DeviceDialog::DeviceDialog(const DeviceSettings& device, const QStringList& take
     m_ok->setDefault(true); // in its dialog: earlier, Cancel would stay the default once focused
     connectFields();
     showDevice(device);
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        resize(sizeHint().boundedTo(screen->availableSize() - QSize(kFrame, kFrame)));
+    fitScreen(this, sizeHint());
 }
 
 QFormLayout* DeviceDialog::makeTop()
@@ -143,8 +122,8 @@ QWidget* DeviceDialog::makeTabs()
     m_fields->addWidget(new SimulatorFields);
     auto* tabs = new QTabWidget;
     tabs->setObjectName(QStringLiteral("DeviceTabs"));
-    tabs->addTab(scrolled(m_fields), tr("Con&nection"));
-    tabs->addTab(scrolled(m_advanced), tr("A&dvanced"));
+    tabs->addTab(new FormArea(m_fields), tr("Con&nection"));
+    tabs->addTab(new FormArea(m_advanced), tr("A&dvanced"));
     return tabs;
 }
 

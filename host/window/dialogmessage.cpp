@@ -35,7 +35,8 @@ void DialogMessage::say(const QString& text, Tone tone)
     style()->unpolish(this); // the style sheet looks at the property
     style()->polish(this);
     const QLayout* layout = window()->layout();
-    if (layout && window()->isVisible())
-        window()->resize(window()->width(),
-                         std::max(window()->height(), layout->heightForWidth(window()->width())));
+    if (layout && window()->isVisible()) // forms that scroll need not grow with it
+        window()->resize(
+            window()->width(),
+            std::max(window()->height(), layout->minimumHeightForWidth(window()->width())));
 }

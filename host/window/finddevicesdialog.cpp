@@ -3,6 +3,7 @@
 #include "connectors/addressrange.h"
 #include "connectors/nut/nutserverlist.h"
 #include "window/devicename.h"
+#include "window/formarea.h"
 #include "window/hostport.h"
 #include "window/secretedit.h"
 #include "window/snmpfields.h"
@@ -11,11 +12,9 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QStackedWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -26,7 +25,6 @@ namespace {
 
 constexpr QSize kSize(620, 560); // px
 constexpr int kLeastTableHeight = 80;
-constexpr int kFrame = 40; // that the title and borders may take
 constexpr int kLongestName = 255;
 constexpr int kAnswerWithin = 2; // s; an address without an agent is asked no longer
 
@@ -64,8 +62,7 @@ FindDevicesDialog::FindDevicesDialog(const DeviceSettings& fresh, const QStringL
     makeTable();
     layOut();
     connectAll();
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        resize(kSize.boundedTo(screen->availableSize() - QSize(kFrame, kFrame)));
+    fitScreen(this, kSize);
     stopSearch();
     review();
 }

@@ -1,6 +1,7 @@
 #include "window/settingsdialog.h"
 
 #include "window/dialogmessage.h"
+#include "window/formarea.h"
 #include "window/notifytests.h"
 #include "window/operatorspage.h"
 #include "window/settingsform.h"
@@ -34,12 +35,20 @@ constexpr PageRow kPages[] = {
                        "Passwords and keys of devices. Where another place is chosen, those that "
                        "the desk knows move there. The file is not encrypted: this user and the "
                        "administrator of this machine can read it.")},
-    {QT_TRANSLATE_NOOP("SettingsDialog", "&Notifications"), "notify",
+    {QT_TRANSLATE_NOOP("SettingsDialog", "Histor&y"), "history",
      QT_TRANSLATE_NOOP("SettingsDialog",
-                       "Power failures are told at once, anything else after it has held for one "
-                       "more poll. In quiet hours the desktop is told only what is critical. The "
-                       "command is a program with its arguments; what happened is in its "
-                       "environment (UPSDESK_TEXT and others).")},
+                       "In a file of yours, or where it says: sqlite:/PATH or "
+                       "postgresql://USER@HOST/DATABASE, the latter encrypted as chosen and "
+                       "checked against the authorities in that file, or those of the system. "
+                       "Followed from the next start on.")},
+    {QT_TRANSLATE_NOOP("SettingsDialog", "&Notifications"), "notify collector",
+     QT_TRANSLATE_NOOP(
+         "SettingsDialog",
+         "Power failures are told at once, anything else after it has held for one "
+         "more poll. In quiet hours the desktop is told only what is critical. The "
+         "command is a program with its arguments; what happened is in its "
+         "environment (UPSDESK_TEXT and others). Metrics are served at a port of this "
+         "machine, or at an address like 127.0.0.1:9199.")},
 };
 
 } // namespace
@@ -57,7 +66,7 @@ SettingsDialog::SettingsDialog(WatchList& list, QWidget* parent, const HashLimit
     for (const PageRow& row : kPages) {
         const QStringList sections = QString::fromLatin1(row.sections).split(QLatin1Char(' '));
         m_forms += new SettingsForm(sections, tr(row.help), list.config().settings());
-        m_pages->addTab(m_forms.last(), tr(row.title));
+        m_pages->addTab(new FormArea(m_forms.last()), tr(row.title));
     }
     auto* trials = new NotifyTests([this] { return shown().notify; });
     connect(trials, &NotifyTests::said, this, [this](const QString& text, bool isBad) {
@@ -80,6 +89,7 @@ SettingsDialog::SettingsDialog(WatchList& list, QWidget* parent, const HashLimit
     column->addWidget(m_message);
     column->addWidget(buttons);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    fitScreen(this, sizeHint());
 }
 
 void SettingsDialog::accept()
