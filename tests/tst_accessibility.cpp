@@ -353,8 +353,8 @@ void TestAccessibility::textStandsOut()
         applyTheme(theme);
         const QPalette palette = qApp->palette();
         for (auto role : {QPalette::Window, QPalette::Base}) {
-            const QColor ground = palette.color(role);
-            const QColor text = palette.color(QPalette::Text);
+            const QColor& ground = palette.color(role);
+            const QColor& text = palette.color(QPalette::Text);
             QVERIFY(contrast(fadedColor(text, ground), ground) >= enough);
             for (int urgency = 0; urgency <= static_cast<int>(Urgency::Critical); ++urgency) {
                 const auto u = static_cast<Urgency>(urgency);
