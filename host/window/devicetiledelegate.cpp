@@ -23,10 +23,23 @@ int drawElided(QPainter* painter, const QRect& rect, int flags, const QString& t
     return metrics.horizontalAdvance(shown);
 }
 
-// As many px as that many lines of text take.
-int wholeLines(int height, const QFontMetrics& metrics)
+bool fits(const QFontMetrics& metrics, const QRect& room, const QString& text)
 {
-    return std::max(height / metrics.lineSpacing(), 1) * metrics.lineSpacing();
+    return room.contains(
+        metrics.boundingRect(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text));
+}
+
+// Words as far as there is room for whole lines of them.
+QString cutWords(const QFontMetrics& metrics, const QRect& room, const QString& text)
+{
+    const QString more(QStringLiteral("\u2026"));
+    QStringList words = text.split(QLatin1Char(' '));
+    QString shown = text;
+    while (words.size() > 1 && !fits(metrics, room, shown)) {
+        words.removeLast();
+        shown = words.join(QLatin1Char(' ')) + more;
+    }
+    return shown;
 }
 
 // What makes the tile's colour stands first.
@@ -58,9 +71,9 @@ struct DeviceTileDelegate::Metrics {
 
 const DeviceTileDelegate::Metrics DeviceTileDelegate::kMetrics[] = {
     // size     gap margin band corner  name state figure caption small
-    {{290, 186}, 6, 12, 34, 6, 13, 14, 18, 9.5, 9.5},  // Full
-    {{176, 108}, 3, 8, 24, 4, 10.5, 11, 11.5, 8, 8.5}, // Brief
-    {{108, 32}, 1, 5, 0, 0, 8.5, 8, 0, 0, 0},          // Compact
+    {{290, 186}, 6, 12, 34, 6, 13, 14, 18, 9.5, 9.5}, // Full
+    {{176, 108}, 3, 8, 24, 4, 10.5, 11, 11, 8, 8.5},  // Brief
+    {{108, 32}, 1, 5, 0, 0, 8.5, 8, 0, 0, 0},         // Compact
 };
 
 struct DeviceTileDelegate::Tile {
@@ -152,9 +165,8 @@ void DeviceTileDelegate::drawCompact(const Tile& tile) const
     const QString text = compactText(tile.condition);
     if (room.height() < 2 * painter->fontMetrics().lineSpacing())
         return void(drawElided(painter, room, kLeft, text));
-    room.setHeight(wholeLines(room.height(), painter->fontMetrics()));
-    painter->setClipRect(room);
-    painter->drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
+    painter->drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+                      cutWords(painter->fontMetrics(), room, text));
 }
 
 void DeviceTileDelegate::drawFrame(const Tile& tile) const
@@ -249,25 +261,18 @@ void DeviceTileDelegate::drawReason(const Tile& tile, const QRect& room) const
     drawWhole(tile, room, dataText(tile.device).section(QLatin1Char('\n'), 0, 0));
 }
 
-// In letters as large as the room allows; of what even the least are too large for, whole lines.
-void DeviceTileDelegate::drawWhole(const Tile& tile, QRect room, const QString& text) const
+// In letters as large as the room allows.
+void DeviceTileDelegate::drawWhole(const Tile& tile, const QRect& room, const QString& text) const
 {
     QPainter* painter = tile.painter;
-    int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
     double points = metrics().small + 1;
-    const auto fits = [&] {
-        return room.contains(painter->fontMetrics().boundingRect(room, flags, text));
-    };
     do {
         painter->setFont(sized(tile, points, true));
         points -= 0.5;
-    } while (points * m_scale >= kLeastSize && !fits());
-    if (!fits()) {
-        flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
-        room.setHeight(wholeLines(room.height(), painter->fontMetrics()));
-    }
+    } while (points * m_scale >= kLeastSize && !fits(painter->fontMetrics(), room, text));
     painter->setClipRect(room);
-    painter->drawText(room, flags, text);
+    painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
+                      cutWords(painter->fontMetrics(), room, text));
     painter->setClipping(false);
 }
 

@@ -44,7 +44,7 @@ private:
     void drawData(const Tile& tile, QRect& room) const;
     void drawAlarms(const Tile& tile, const QRect& room) const;
     void drawReason(const Tile& tile, const QRect& room) const;
-    void drawWhole(const Tile& tile, QRect room, const QString& text) const;
+    void drawWhole(const Tile& tile, const QRect& room, const QString& text) const;
 
     Form m_form = Form::Full;
     QSize m_tile;

@@ -129,6 +129,8 @@ void MainWindow::setUpWall()
             [this] { m_wayBack->setVisible(currentPage()); });
     m_wayBack->hide();
     setCentralWidget(makeRightSide());
+    setFocusPolicy(Qt::StrongFocus); // no tile is marked until somebody is at the keys
+    setFocus();
 }
 
 QWidget* MainWindow::makeRightSide()

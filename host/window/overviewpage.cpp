@@ -13,7 +13,7 @@
 // The first that finds room is used: what it says counts more than its size.
 struct OverviewPage::FormRow {
     DeviceTileDelegate::Form form;
-    double least;   // scale; below, it is no longer read in passing
+    double least;   // scale, times the page's least; below, it is no longer read in passing
     double largest; // times the page's largest scale; beyond, there is room for another form
     double growth;  // times its height, where room is left: words that had none are shown
 };
@@ -21,7 +21,7 @@ struct OverviewPage::FormRow {
 const OverviewPage::FormRow OverviewPage::kForms[] = {
     {DeviceTileDelegate::Form::Full, 0.85, 1, 0},
     {DeviceTileDelegate::Form::Brief, 0.9, 1.2, 0.4},
-    {DeviceTileDelegate::Form::Compact, 1, 1.3, 1},
+    {DeviceTileDelegate::Form::Compact, 0.85, 1.3, 1},
 };
 
 OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
@@ -98,9 +98,10 @@ void OverviewPage::resizeEvent(QResizeEvent* event)
     fitTiles();
 }
 
-void OverviewPage::setLargestScale(double scale)
+void OverviewPage::setScales(double least, double largest)
 {
-    m_largestScale = scale;
+    m_leastScale = least;
+    m_largestScale = largest;
     fitTiles();
 }
 
@@ -125,7 +126,7 @@ void OverviewPage::fitTiles()
     for (const FormRow& row : kForms) {
         int columns = 0;
         const double scale = bestScale(row, columns);
-        setTiles(row, columns, std::max(scale, row.least));
+        setTiles(row, columns, std::max(scale, m_leastScale * row.least));
         if (scale > 0)
             break;
     }
@@ -137,8 +138,9 @@ double OverviewPage::bestScale(const FormRow& row, int& columns) const
 {
     constexpr double kWidest = 1.5; // times its width at that scale; beyond, a tile looks empty
     const QSize least = DeviceTileDelegate::leastSize(row.form);
+    const double smallest = m_leastScale * row.least;
     const double largest = m_largestScale * row.largest;
-    const int most = std::max(static_cast<int>(roomForTiles() / (least.width() * row.least)), 1);
+    const int most = std::max(static_cast<int>(roomForTiles() / (least.width() * smallest)), 1);
     columns = most;
     double best = 0;
     for (int tried = 1; tried <= most; ++tried) {
@@ -146,7 +148,7 @@ double OverviewPage::bestScale(const FormRow& row, int& columns) const
             continue;
         const double widest = static_cast<double>(roomForTiles()) / tried / least.width();
         const double fits =
-            scaleThatFits(tried, least.height(), row.least, std::min(widest, largest));
+            scaleThatFits(tried, least.height(), smallest, std::min(widest, largest));
         if (fits > best) {
             columns = tried;
             best = fits;

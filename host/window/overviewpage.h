@@ -21,8 +21,8 @@ class OverviewPage : public QWidget
 public:
     explicit OverviewPage(DeviceListModel& model, QWidget* parent = nullptr);
 
-    // How much larger than at a desk the tiles may grow while all of them find room; at least 1.
-    void setLargestScale(double scale);
+    // Between these the tiles grow while all of them find room; at a desk 1 and 1.25.
+    void setScales(double least, double largest);
     // The line of counts above the tiles; shown unless somebody else shows it larger.
     void setCountsShown(bool shown);
     // Each group in rows of its own, or all devices together.
@@ -58,6 +58,7 @@ private:
     TileView* m_tiles;
     QLabel* m_counts;
     QLabel* m_nothing;
+    double m_leastScale = 1;
     double m_largestScale = 1.25;
     QVector<DeviceSection> m_fitted; // that the size of the tiles is for
 };

@@ -13,7 +13,9 @@
 
 namespace {
 
-constexpr double kAcrossTheRoom = 2.5; // times the size at a desk
+// Times the size at a desk, to be read across the room.
+constexpr double kLeastScale = 1.5;
+constexpr double kLargestScale = 2.5;
 constexpr int kTurnMs = 12 * 1000;
 constexpr int kCursorRestMs = 3000;
 constexpr int kClockMs = 1000;
@@ -35,7 +37,7 @@ WallDisplay::WallDisplay(OverviewPage* overview, DeviceListModel& model, QWidget
     , m_counts(new QHBoxLayout)
     , m_clock(new QLabel)
 {
-    overview->setLargestScale(kAcrossTheRoom);
+    overview->setScales(kLeastScale, kLargestScale);
     overview->setCountsShown(false);
     m_clock->setObjectName(QStringLiteral("WallClock"));
     m_head->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // its letters shrink instead
