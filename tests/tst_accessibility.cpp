@@ -6,6 +6,7 @@
 #include "support/recordingdevice.h"
 #include "support/scriptedconnector.h"
 #include "window/confirmbox.h"
+#include "window/deviceactions.h"
 #include "window/devicedialog.h"
 #include "window/devicepage.h"
 #include "window/finddevicesdialog.h"
@@ -20,6 +21,7 @@
 #include "trendchart.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QRegularExpression>
@@ -154,6 +156,8 @@ struct Windows : Desk {
             << new DeviceDialog(v3, {}, makeConnector, save, &window)
             << new FindDevicesDialog({}, {}, makeConnector, save, &window)
             << new LoginDialog(session, true, &window) << new SettingsDialog(list, &window);
+        window.setActions(new DeviceActions(fleet, list, makeConnector, session, &window),
+                          new QAction(&window));
     }
 
     int count() const { return all.size() + 1; }
@@ -184,13 +188,14 @@ bool goesAgainstTheEye(const QWidget* from, const QWidget* to)
     return up ? after.left() < before.right() : sameRow && after.right() <= before.left();
 }
 
+constexpr QSize kSmallest(683, 480); // 1024x768 at 150 %, less the title
+
 // By Tab, from where the window puts the focus, until it comes round: what is wrong on the way.
-QString faultOfTabbing(QWidget* window)
+QString faultOfTabbing(QWidget* window, const QSize& largest = kSmallest)
 {
-    constexpr QSize smallest(683, 480); // 1024x768 at 150 %, less the title
     window->show();
-    window->resize(window->size().boundedTo(smallest));
-    if (window->size() != window->size().boundedTo(smallest))
+    window->resize(window->size().boundedTo(largest));
+    if (window->size() != window->size().boundedTo(largest))
         return "too large";
     window->activateWindow();
     if (!QTest::qWaitFor([window] { return qApp->activeWindow() == window; }))
@@ -289,6 +294,15 @@ void TestAccessibility::tabFollowsTheEye()
                  window->windowTitle() + ": ");
         if (number > 0)
             window->close();
+    }
+    windows.window.openDevice(windows.fleet.at(0)); // a page that came after all the rest
+    windows.window.currentPage()->finishViews();
+    const QSize large(1280, 1000);
+    windows.window.resize(large);
+    for (int page = 0; page < DevicePage::pages().size(); ++page) {
+        windows.window.currentPage()->showPage(page);
+        QCOMPARE(QString::number(page) + faultOfTabbing(&windows.window, large),
+                 QString::number(page));
     }
 }
 

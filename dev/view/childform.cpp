@@ -36,6 +36,7 @@ ChildForm::ChildForm(CollectView* parent)
     auto* rateInfoArea = new QScrollArea;
     rateInfoArea->setAutoFillBackground(true);
     rateInfoArea->setWidgetResizable(true);
+    rateInfoArea->setAccessibleName(tr("Detail")); // it takes the focus, to be scrolled by keys
 
     ui->tabWidget->insertTab(EnergyTab, rtData, tr("EnergyLine"));
     ui->tabWidget->insertTab(AlarmTab, rtEvent, tr("RT-Alarm"));

@@ -111,6 +111,7 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
         m_viewTabs->addTab(tr(row.title));
         Building building;
         building.place = makePlace();
+        building.place->setAccessibleName(tr(row.title)); // arrow keys scroll it
         m_stack->addWidget(building.place);
         m_buildings << building;
     }

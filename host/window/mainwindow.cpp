@@ -30,6 +30,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -432,6 +433,22 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
         openOverview();
     else
         QMainWindow::keyPressEvent(event);
+}
+
+// Pages come while the desk is used, and would be the last that Tab reaches; these stand below.
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    const auto last = [this] {
+        QWidget* widget = previousInFocusChain();
+        while (widget->focusPolicy() == Qt::NoFocus && widget != this)
+            widget = widget->previousInFocusChain();
+        return widget;
+    };
+    if (m_events && last() != m_events->widget()) {
+        setTabOrder(last(), m_banner->findChild<QToolButton*>());
+        setTabOrder(last(), m_events->widget());
+    }
+    return QMainWindow::focusNextPrevChild(next);
 }
 
 // What the menu does

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -54,6 +55,8 @@ QWidget* SidePanel::makeHead()
     connect(m_filter, &QLineEdit::textChanged, m_sorted,
             &QSortFilterProxyModel::setFilterFixedString);
     connect(m_filter, &QLineEdit::textChanged, this, &SidePanel::filterChanged);
+    connect(m_filter, &QLineEdit::returnPressed, m_list,
+            [this] { m_list->setCurrentIndex(m_sorted->index(0, 0)); });
     m_worstFirst->setObjectName(QStringLiteral("WorstFirstBox"));
     connect(m_worstFirst, &QCheckBox::toggled, this, [this](bool on) {
         m_sorted->setOrder(on ? DeviceSortModel::Order::WorstFirst
@@ -108,7 +111,13 @@ void SidePanel::setUpList()
 void SidePanel::setActions(DeviceActions* actions)
 {
     constexpr int kBelowTheList = 2;
-    m_column->insertWidget(kBelowTheList, actions->makeButtons());
+    QWidget* buttons = actions->makeButtons();
+    m_column->insertWidget(kBelowTheList, buttons);
+    QWidget* before = m_list;
+    for (auto* button : buttons->findChildren<QToolButton*>()) {
+        setTabOrder(before, button);
+        before = button;
+    }
     m_list->addActions(actions->actions());
     m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
