@@ -27,7 +27,7 @@ struct HistoryWriterOptions {
     QString spoolFolder = HistorySpool::defaultFolder();
     int mostSamples = 400000; // that wait in memory; the oldest go first
     int retryMs = 3000;       // between tries to reach a store that failed
-    int commitMs = 500;       // longest time that a record waits for others to join it
+    int commitMs = 250;       // longest time that a record waits for others to join it
 };
 
 class HistoryWriter : public QObject
