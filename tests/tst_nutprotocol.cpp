@@ -12,6 +12,49 @@ using Words = QList<QByteArray>;
 using K = CommandKind;
 using std::chrono::seconds;
 
+namespace {
+
+using O = CommandOutcome;
+
+// What an order says, line by line, and what it concludes; "-": the connection breaks before
+// the line goes out, "!": after.
+const struct {
+    const char* title;
+    Words said; // answers that differ from the orderly ones: "LINE=ANSWER"
+    O outcome;
+    const char* message;
+    int sent;        // orders that went out
+    int minutes = 0; // of standby; 0: a self-test
+} kOrders[] = {
+    {"followed", {}, O::Done, "was carried out", 1},
+    {"silent server", {"LIST CMD=!"}, O::NoAnswer, "Nothing was sent", 0},
+    {"refused before", {"LIST RW=ERR DATA-STALE"}, O::Refused, "Nothing was sent", 0},
+    {"log-in lost before it went out", {"INSTCMD=-"}, O::Done, "was carried out", 1},
+    {"lost before it went out", {"INSTCMD=-", "INSTCMD=-"}, O::NoAnswer, "Nothing was sent", 0},
+    {"lost between two steps",
+     {"INSTCMD=-", "INSTCMD=-"},
+     O::Unknown,
+     "shutdown.return was not sent",
+     1,
+     10},
+    {"two steps", {}, O::Done, "shutdown.return was carried out", 2, 10},
+    {"lost after it went out", {"INSTCMD=!"}, O::Unknown, "not sent again", 1},
+    {"not tracked", {"INSTCMD=OK"}, O::Unknown, "cannot tell", 1},
+    {"nonsense", {"INSTCMD=WHAT"}, O::Unknown, "not sent again", 1},
+    {"refused", {"INSTCMD=ERR ACCESS-DENIED"}, O::Refused, "wrong password", 1},
+    {"failed", {"GET TRACKING=ERR FAILED"}, O::Refused, "reports that it failed", 1},
+    {"not known to the driver", {"GET TRACKING=ERR UNKNOWN"}, O::Refused, "driver", 1},
+    {"forgotten by a new server",
+     {"GET TRACKING=!", "GET TRACKING=ERR UNKNOWN"},
+     O::Unknown,
+     "connection broke",
+     1},
+    {"for ever pending", {"GET TRACKING*=PENDING"}, O::Unknown, "Look at the readings", 1},
+    {"old server", {"SET TRACKING=ERR UNKNOWN-COMMAND", "INSTCMD=OK"}, O::Unknown, "", 1},
+};
+
+} // namespace
+
 class TestNutProtocol : public QObject
 {
     Q_OBJECT
@@ -84,50 +127,9 @@ private slots:
         }
     }
 
-    // What an order says, line by line, and what it concludes; "-": the connection breaks before
-    // the line goes out, "!": after.
     void orders()
     {
-        using O = CommandOutcome;
-        const struct {
-            const char* title;
-            Words said; // answers that differ from the orderly ones: "LINE=ANSWER"
-            O outcome;
-            const char* message;
-            int sent;        // orders that went out
-            int minutes = 0; // of standby; 0: a self-test
-        } rows[] = {
-            {"followed", {}, O::Done, "was carried out", 1},
-            {"silent server", {"LIST CMD=!"}, O::NoAnswer, "Nothing was sent", 0},
-            {"refused before", {"LIST RW=ERR DATA-STALE"}, O::Refused, "Nothing was sent", 0},
-            {"log-in lost before it went out", {"INSTCMD=-"}, O::Done, "was carried out", 1},
-            {"lost before it went out",
-             {"INSTCMD=-", "INSTCMD=-"},
-             O::NoAnswer,
-             "Nothing was sent",
-             0},
-            {"lost between two steps",
-             {"INSTCMD=-", "INSTCMD=-"},
-             O::Unknown,
-             "shutdown.return was not sent",
-             1,
-             10},
-            {"two steps", {}, O::Done, "shutdown.return was carried out", 2, 10},
-            {"lost after it went out", {"INSTCMD=!"}, O::Unknown, "not sent again", 1},
-            {"not tracked", {"INSTCMD=OK"}, O::Unknown, "cannot tell", 1},
-            {"nonsense", {"INSTCMD=WHAT"}, O::Unknown, "not sent again", 1},
-            {"refused", {"INSTCMD=ERR ACCESS-DENIED"}, O::Refused, "wrong password", 1},
-            {"failed", {"GET TRACKING=ERR FAILED"}, O::Refused, "reports that it failed", 1},
-            {"not known to the driver", {"GET TRACKING=ERR UNKNOWN"}, O::Refused, "driver", 1},
-            {"forgotten by a new server",
-             {"GET TRACKING=!", "GET TRACKING=ERR UNKNOWN"},
-             O::Unknown,
-             "connection broke",
-             1},
-            {"for ever pending", {"GET TRACKING*=PENDING"}, O::Unknown, "Look at the readings", 1},
-            {"old server", {"SET TRACKING=ERR UNKNOWN-COMMAND", "INSTCMD=OK"}, O::Unknown, "", 1},
-        };
-        for (const auto& row : rows) {
+        for (const auto& row : kOrders) {
             UpsCommand command;
             command.kind = row.minutes > 0 ? CommandKind::Standby : CommandKind::SelfTest;
             command.standbyMinutes = row.minutes;

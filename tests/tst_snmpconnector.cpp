@@ -166,6 +166,7 @@ private slots:
     {
         SnmpPorts ports;
         std::vector<std::shared_ptr<SnmpPort>> taken;
+        taken.reserve(3 * SnmpPorts::kSessionsPerPort);
         QString reason;
         for (int i = 0; i < 3 * SnmpPorts::kSessionsPerPort; ++i)
             taken.push_back(ports.take(QAbstractSocket::IPv4Protocol, &reason));

@@ -41,7 +41,7 @@ QString toolTipOf(const Device& device)
     for (const DeviceFigure& figure : deviceFigures(device.reading()))
         figures << figure.caption + QLatin1Char(' ') + figure.value;
     const QPalette palette = QToolTip::palette();
-    const QColor text = palette.color(QPalette::ToolTipText);
+    const QColor& text = palette.color(QPalette::ToolTipText);
     const QColor color = device.link() == LinkState::Live
                              ? text
                              : fadedColor(text, palette.color(QPalette::ToolTipBase));
@@ -119,7 +119,7 @@ QVariant DeviceListModel::data(const QModelIndex& index, int role) const
         return toolTipOf(*device);
     }
     case DeviceRole:
-        return QVariant::fromValue(reinterpret_cast<quintptr>(device));
+        return QVariant::fromValue(static_cast<void*>(device));
     case UrgencyRole:
         return static_cast<int>(device->condition().urgency);
     case GroupRole:
@@ -167,7 +167,7 @@ QModelIndex DeviceListModel::indexOf(const Device* device) const
 
 Device* DeviceListModel::deviceAt(const QModelIndex& index)
 {
-    return reinterpret_cast<Device*>(index.data(DeviceRole).value<quintptr>());
+    return static_cast<Device*>(index.data(DeviceRole).value<void*>());
 }
 
 void DeviceListModel::flushDirty()

@@ -16,7 +16,7 @@ class DeviceListModel : public QAbstractListModel
 
 public:
     enum Role {
-        DeviceRole = Qt::UserRole, // Device*, as quintptr
+        DeviceRole = Qt::UserRole, // Device*, as void*
         UrgencyRole,               // int, higher is worse
         GroupRole,                 // site or room; may be empty
         FilterRole                 // text that the filter looks in
