@@ -4,6 +4,8 @@
 #include "cli/cliparser.h"
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
+#include "collector/collector.h"
+#include "collector/servicemanager.h"
 #include "config/deskconfig.h"
 #include "connectors/factory/connectorfactory.h"
 #include "fleet/watchlist.h"
@@ -243,6 +245,23 @@ int runWindow(const WindowOptions& options)
     return result;
 }
 
+int runCollector()
+{
+    if (QCoreApplication::arguments().size() > 2) {
+        logLine(LogLevel::Error, QCoreApplication::translate(
+                                     "main", "--collector takes its devices from the configuration "
+                                             "and no further arguments"));
+        return ExitUsage;
+    }
+    Collector collector(makeConnector);
+    if (const QString reason = collector.start(); !reason.isEmpty()) {
+        logLine(LogLevel::Error, reason);
+        return ExitUsage;
+    }
+    quitOnSignals([&collector] { collector.reload(); });
+    return QCoreApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -254,6 +273,11 @@ int main(int argc, char** argv)
     if (isSubcommand(mode) && !needsWidgets(mode)) {
         QCoreApplication app(argc, argv);
         return endPromptly(runSubcommand(QCoreApplication::arguments()));
+    }
+
+    if (mode == QLatin1String("--collector")) {
+        QCoreApplication app(argc, argv);
+        return endPromptly(runCollector());
     }
 
     fallBackToOffscreen();

@@ -30,7 +30,8 @@ constexpr CliUsage kUsages[] = {
          "Cli",
          "Watches uninterruptible power supplies: those given, or else those of the "
          "configuration, or else a\nsimulated one. Other modes, each with a --help of "
-         "its own: probe, check, picture, command,\nadd-operator, check-config, export, journal."),
+         "its own: probe, check, picture, command,\nadd-operator, check-config, export, journal.\n"
+         "upsdesk --collector polls, records and notifies without a window."),
      QT_TRANSLATE_NOOP("Cli", "0 closed, 2 usage"),
      "nut://10.0.0.5/rack3 snmp://public@10.0.0.7\nsim: sim:outage\n--kiosk --dark"},
     {"probe", "ADDRESS [--json]", 1, 1,

@@ -167,6 +167,7 @@ DeskKeys outsideKeys()
                 .hidden()),
         desk<&D::notify, &N::webhookFrom>("notify", "webhook-level",
                                           QT_TRANSLATE_NOOP("ConfigKeys", "&tell it"), level),
+        desk<&D::site>("collector", "site", "", C::text(kMaxGroup)),
         desk<&D::metrics>("collector", "metrics",
                           QT_TRANSLATE_NOOP("ConfigKeys", "Serve &metrics at"), C::text(kMaxPath)),
     };

@@ -39,6 +39,7 @@ struct DeskSettings {
     SecretsChoice secrets = SecretsChoice::Keychain;
     HistorySettings history;
     NotifySettings notify;
+    QString site;    // of the collector: its devices in a shared store; empty: without a name
     QString metrics; // where metrics are served, "127.0.0.1:9199" or a port; empty: nowhere
 };
 

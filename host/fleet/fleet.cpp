@@ -11,6 +11,7 @@ constexpr qint64 kSuspendMs = 2000;
 constexpr quint32 kPlaceBits = 16;
 // Between two polls out of turn.
 constexpr qint64 kOutOfTurnGapMs = 10;
+constexpr int kAskAgainMs = 500; // where nothing may be polled now
 
 double placeInInterval(quint32 number)
 {
@@ -133,6 +134,10 @@ void Fleet::setThresholds(const Thresholds& thresholds)
 
 void Fleet::pollDueDevices()
 {
+    if (m_mayPoll && !m_mayPoll()) {
+        m_pollTimer.start(kAskAgainMs);
+        return;
+    }
     const qint64 now = m_clock.monotonicMs();
     for (const auto& device : m_devices)
         if (!device->isPolling() && device->dueMs() <= now)

@@ -47,6 +47,9 @@ public:
     // What the device was held back for has come, or will not come.
     void release(Device* device);
 
+    // Asked before devices are polled: whether they may be at this moment. By default always.
+    void setPermit(const std::function<bool()>& mayPoll) { m_mayPoll = mayPoll; }
+
     // For all devices, those that are there and those to come.
     void setThresholds(const Thresholds& thresholds);
     const Thresholds& thresholds() const { return m_thresholds; }
@@ -71,6 +74,7 @@ private:
     void tick();
 
     ConnectorMaker m_maker;
+    std::function<bool()> m_mayPoll;
     Thresholds m_thresholds;
     const FleetClock& m_clock;
     std::vector<std::unique_ptr<Device>> m_devices;

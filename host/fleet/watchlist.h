@@ -43,6 +43,9 @@ public:
     void load();
     static constexpr qint64 kSecretsPatienceMs = 10 * 1000;
 
+    // Another configuration, as the file has it now: the fleet follows it.
+    void follow(const DeskConfig& config);
+
     // The fleet's device for this name in the file, or null.
     Device* find(const QString& name) const { return m_devices.value(name); }
     bool isConfigured(const Device* device) const;
@@ -71,7 +74,6 @@ private:
     QString whyNot() const { return m_guard ? m_guard() : QString(); }
     QString save(const Edit& edit);
     QString tellChange(const QString& reason);
-    void follow(const DeskConfig& config);
     void orderAsInFile();
     void append(const DeviceSettings& settings);
     void replace(Device* device, const DeviceSettings& settings);

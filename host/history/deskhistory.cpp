@@ -19,6 +19,7 @@ void DeskHistory::start(const HistorySettings& settings, SecretsChoice secrets, 
     }
     HistoryWriterOptions options;
     options.site = site;
+    options.mayWrite = m_mayWrite;
     options.keep = tierLengths(settings);
     m_secrets = SecretStore::make(secrets);
     withStoreSecret(store.address, *m_secrets, this,

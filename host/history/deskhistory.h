@@ -22,6 +22,8 @@ public:
                 QObject* parent = nullptr);
     ~DeskHistory() override;
 
+    // Asked before the store is written, from the writer's thread; to be set before the start.
+    void setPermit(const std::function<bool()>& mayWrite) { m_mayWrite = mayWrite; }
     // Fetches the password where there is one, then records. Once; returns at once.
     void start(const HistorySettings& settings, SecretsChoice secrets, const QString& site = {});
 
@@ -41,6 +43,7 @@ private:
     Fleet& m_fleet;
     EventLog& m_log;
     const Recorder::IsRecorded m_isRecorded;
+    std::function<bool()> m_mayWrite;
     std::unique_ptr<SecretStore> m_secrets;
     // In this order: the recorder writes its last word before the writer ends.
     std::unique_ptr<HistoryWriter> m_writer;

@@ -215,7 +215,7 @@ void HistoryWriter::finish()
 
 bool HistoryWriter::isReady()
 {
-    return openStore() && replaySpool();
+    return (!m_options.mayWrite || m_options.mayWrite()) && openStore() && replaySpool();
 }
 
 bool HistoryWriter::openStore()

@@ -15,6 +15,7 @@
 
 #include <atomic>
 #include <deque>
+#include <functional>
 #include <memory>
 
 class BatchStore;
@@ -25,6 +26,9 @@ struct HistoryWriterOptions {
     QString site; // which of several collectors this one is; "" for a desk of its own
     TierLengths keep{kMsPerDay, 30 * kMsPerDay, 3 * 365 * kMsPerDay, 3 * 365 * kMsPerDay};
     QString spoolFolder = HistorySpool::defaultFolder();
+    // Whether the store may be written at this moment; from the writer's thread. What comes while
+    // it may not waits as while the store is gone. Null: always.
+    std::function<bool()> mayWrite;
     int mostSamples = 400000; // that wait in memory; the oldest go first
     int retryMs = 3000;       // between tries to reach a store that failed
     int commitMs = 250;       // longest time that a record waits for others to join it
