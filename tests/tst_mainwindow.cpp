@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -66,6 +67,8 @@ private slots:
     void stateIsRemembered();
     void eventsStayClosed();
     void menuActs();
+    void allTilesFindRoom();
+    void wallIsReadFromAfar();
 };
 
 void TestMainWindow::initTestCase()
@@ -236,6 +239,43 @@ void TestMainWindow::menuActs()
         QTRY_COMPARE(tiles->isVisible(), text.isEmpty()); // or the note that nothing matches
     }
     QTRY_VERIFY(!filter->findChild<QToolButton*>()->isVisible()); // has faded: outlives the window
+}
+
+void TestMainWindow::allTilesFindRoom()
+{
+    Desk desk;
+    desk.window.setWindowState(Qt::WindowNoState);
+    desk.window.resize(1024, 700);
+    desk.window.show();
+    const auto* tiles = desk.window.findChild<QListView*>("OverviewTiles");
+    int before = QWIDGETSIZE_MAX;    // px
+    for (int count : {1, 12, 100}) { // each in a form with less in it
+        while (desk.fleet.count() < count)
+            desk.add("nut://h/a");
+        const auto last = [&] { return tiles->visualRect(tiles->model()->index(count - 1, 0)); };
+        QTRY_VERIFY(!last().isEmpty() && tiles->viewport()->rect().contains(last()));
+        QVERIFY(last().height() < before * 3 / 4);
+        before = last().height();
+    }
+}
+
+void TestMainWindow::wallIsReadFromAfar()
+{
+    Desk desk;
+    desk.add("nut://h/a");
+    MainWindow wall(desk.fleet, desk.commands, desk.log, desk.session, MainWindow::Mode::Kiosk);
+    wall.show();
+    QVERIFY(QTime::fromString(wall.findChild<QLabel*>("WallClock")->text(), "HH:mm").isValid());
+    QCOMPARE(wall.findChildren<QLabel*>("WallCount").size(), 1);
+    const auto* tiles = wall.findChild<QListView*>("OverviewTiles");
+    QVERIFY(tiles->sizeHintForRow(0) > 186); // px, of a full tile at a desk
+    QVERIFY(!tiles->hasFocus());
+    while (desk.fleet.count() < 400)
+        desk.add("nut://h/a");
+    QTRY_VERIFY(tiles->verticalScrollBar()->maximum() > 0); // rather than small: the pages turn
+    QTRY_COMPARE_WITH_TIMEOUT(wall.cursor().shape(), Qt::BlankCursor, 30000);
+    QTest::mouseMove(&wall, {50, 50});
+    QTRY_COMPARE(wall.cursor().shape(), Qt::ArrowCursor);
 }
 
 QTEST_MAIN(TestMainWindow)
