@@ -218,17 +218,26 @@ QWidget* HistoryPage::makeCharts()
 {
     auto* charts = new QWidget;
     charts->setObjectName(QStringLiteral("HistoryCharts"));
-    auto* column = new QVBoxLayout(charts);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    for (int chart = 0; chart < historyCharts().size(); ++chart) {
-        auto* plot = new HistoryPlot(chart);
-        column->addWidget(plot, 1);
-        followPlot(plot);
-        m_plots += plot;
-        plot->setVisible(historyCharts().at(chart).isShownAtFirst);
-    }
+    m_column = new QVBoxLayout(charts);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(0);
+    for (int chart = 0; chart < historyCharts().size(); ++chart)
+        if (historyCharts().at(chart).isShownAtFirst)
+            addPlot(chart);
     return charts;
+}
+
+// A plot takes some ms to make, so those that nobody wants are not made.
+void HistoryPage::addPlot(int chart)
+{
+    auto* plot = new HistoryPlot(chart);
+    const auto place = std::distance(m_plots.begin(), m_plots.lowerBound(chart));
+    m_column->insertWidget(static_cast<int>(place), plot, 1);
+    m_plots.insert(chart, plot);
+    followPlot(plot);
+    plot->setRange(m_window.range());
+    if (m_history)
+        plot->setHistory(m_history, m_longestStepMs);
 }
 
 void HistoryPage::followPlot(HistoryPlot* plot)
@@ -403,14 +412,17 @@ QString HistoryPage::message() const
 
 void HistoryPage::showCharts()
 {
-    int last = -1;
-    for (int chart = 0; chart < m_plots.size(); ++chart) {
+    HistoryPlot* last = nullptr;
+    for (int chart = 0; chart < m_chartChoices.size(); ++chart) {
         const bool wanted = m_chartChoices.at(chart)->isChecked();
-        m_plots.at(chart)->setVisible(wanted);
-        last = wanted ? chart : last;
+        if (wanted && !m_plots.contains(chart))
+            addPlot(chart);
+        if (HistoryPlot* plot = m_plots.value(chart))
+            plot->setVisible(wanted);
+        last = wanted ? m_plots.value(chart) : last;
     }
-    for (int chart = 0; chart < m_plots.size(); ++chart)
-        m_plots.at(chart)->showTimes(chart == last);
+    for (HistoryPlot* plot : qAsConst(m_plots))
+        plot->showTimes(plot == last);
 }
 
 void HistoryPage::readAt(std::optional<qint64> timeMs)

@@ -9,6 +9,7 @@
 #include "window/timewindow.h"
 
 #include <QElapsedTimer>
+#include <QMap>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
@@ -21,6 +22,7 @@ class OutageTable;
 class QAction;
 class QButtonGroup;
 class QHBoxLayout;
+class QVBoxLayout;
 class QLabel;
 class QSplitter;
 class QStackedWidget;
@@ -72,6 +74,7 @@ private:
     void addMenus(QHBoxLayout* row);
     QWidget* makeInfo();
     QWidget* makeCharts();
+    void addPlot(int chart);
     void followPlot(HistoryPlot* plot);
     QString fileName(const QString& suffix) const;
     void askForPath(const QString& suffix, void (HistoryPage::*save)(const QString&));
@@ -111,7 +114,8 @@ private:
     QLabel* m_message;
     QLabel* m_info;
     QLabel* m_legend;
-    QVector<HistoryPlot*> m_plots; // in the order of historyCharts()
+    QVBoxLayout* m_column = nullptr;
+    QMap<int, HistoryPlot*> m_plots; // by index in historyCharts()
     QVector<QAction*> m_chartChoices;
     QSplitter* m_splitter;
     OutageTable* m_outages;

@@ -7,10 +7,26 @@
 
 namespace {
 
-constexpr double kWidth = 1.5;   // px, of a curve
-constexpr double kDot = 3;       // px, of a sample that stands alone
-constexpr double kShade = 0.3;   // opacity of the band between least and most
-constexpr int kCurvesAbove = 20; // z, over bands and grid
+constexpr double kWidth = 1.5;    // px, of a curve
+constexpr double kDot = 3;        // px, of a sample that stands alone
+constexpr double kLeastShade = 1; // px, between least and most
+constexpr double kShade = 0.3;    // opacity of the band between least and most
+constexpr int kCurvesAbove = 20;  // z, over bands and grid
+constexpr int kPiece = 64; // points; smoothing takes time by the square of a flat line's length
+
+// One line, its dashes going on from piece to piece.
+void drawInPieces(QPainter* painter, QPen pen, const QPolygonF& line)
+{
+    double length = 0;
+    for (int from = 0; from < line.size() - 1; from += kPiece) {
+        const int to = std::min(from + kPiece, line.size() - 1);
+        pen.setDashOffset(length / pen.widthF());
+        painter->setPen(pen);
+        painter->drawPolyline(line.constData() + from, to - from + 1);
+        for (int point = from; point < to; ++point)
+            length += QLineF(line.at(point), line.at(point + 1)).length();
+    }
+}
 
 } // namespace
 
@@ -34,7 +50,7 @@ void HistoryTrace::setHistory(const std::shared_ptr<const DeviceHistory>& histor
 void HistoryTrace::setColor(const QColor& color, int line)
 {
     constexpr Qt::PenStyle styles[] = {Qt::SolidLine, Qt::SolidLine, Qt::DashLine, Qt::DotLine};
-    m_pen = QPen(color, kWidth, styles[line], Qt::RoundCap, Qt::RoundJoin);
+    m_pen = QPen(color, kWidth, styles[line], Qt::FlatCap, Qt::BevelJoin);
 }
 
 ValueRange HistoryTrace::extremes(TimeRange range) const
@@ -88,8 +104,9 @@ void HistoryTrace::drawRun(QPainter* painter, const QwtScaleMap& xMap, const Qwt
         const double x =
             xMap.transform(static_cast<double>(series.timeMs.at(row) + series.spanMs.at(row) / 2));
         means += QPointF(x, yMap.transform(value.mean * m_factor));
-        shade += QPointF(x, yMap.transform(value.most * m_factor));
-        below += QPointF(x, yMap.transform(value.least * m_factor));
+        // Half a pixel more at each side: a swing of seconds has no width of its own.
+        shade += QPointF(x, yMap.transform(value.most * m_factor) - kLeastShade / 2);
+        below += QPointF(x, yMap.transform(value.least * m_factor) + kLeastShade / 2);
     }
     if (means.size() == 1) {
         painter->setPen(QPen(m_pen.color(), kDot, Qt::SolidLine, Qt::RoundCap));
@@ -100,10 +117,11 @@ void HistoryTrace::drawRun(QPainter* painter, const QwtScaleMap& xMap, const Qwt
     std::reverse(below.begin(), below.end());
     QColor fill = m_pen.color();
     fill.setAlphaF(kShade);
-    painter->setPen(QPen(fill, 1)); // a swing of seconds has no width of its own
+    painter->setPen(Qt::NoPen);
     painter->setBrush(fill);
+    painter->setRenderHint(QPainter::Antialiasing, false);
     painter->drawPolygon(shade + below);
-    painter->setPen(m_pen);
+    painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(Qt::NoBrush);
-    painter->drawPolyline(means);
+    drawInPieces(painter, m_pen, means);
 }
