@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -219,6 +220,9 @@ void TestMainWindow::menuActs()
         told |=
             label->text().endsWith(": unknown <b>UPS</b>") && label->textFormat() == Qt::PlainText;
     QVERIFY(told);
+
+    for (const QMenu* menu : desk.window.findChild<DeskMenu*>()->findChildren<QMenu*>())
+        QVERIFY2(!menu->isEmpty(), qPrintable(menu->title()));
 
     desk.item(DeskMenu::ShowList)->setChecked(false);
     desk.item(DeskMenu::Filter)->trigger(); // brings the list back

@@ -116,6 +116,7 @@ void DeskMenu::addThemes()
     for (const auto& row : kThemes) {
         QAction* theme = m_themes->addAction(tr(row.text));
         theme->setCheckable(true);
+        themes->addAction(theme);
         connect(theme, &QAction::triggered, this, [this, &row] { emit themeChosen(row.choice); });
     }
     menu->addSeparator();
