@@ -76,32 +76,8 @@ MainWindow::~MainWindow() = default;
 void MainWindow::setUpDesk()
 {
     m_pages = new PageStack(m_desk, m_overview);
-    m_journal = new JournalPage(m_session);
-    m_journalPlace = new QScrollArea; // its filters would keep the window from fitting the screen
-    m_journalPlace->setFocusPolicy(Qt::NoFocus);
-    m_journalPlace->setWidgetResizable(true);
-    m_journalPlace->setFrameShape(QFrame::NoFrame);
-    m_journalPlace->setWidget(m_journal);
-    m_pages->addWidget(m_journalPlace);
-    connect(m_journal, &JournalPage::told, this, &MainWindow::tell);
-    connect(m_journal, &JournalPage::replayWanted, this, &MainWindow::openReplay);
-    connect(m_pages, &QStackedWidget::currentChanged, this, [this] {
-        if (m_replay && m_replay != m_pages->currentWidget())
-            m_replay->deleteLater();
-    });
-    m_side = new SidePanel(*m_model, m_session);
-    connect(m_side, &SidePanel::overviewWanted, this, &MainWindow::openOverview);
-    connect(m_side, &SidePanel::loginWanted, this, &MainWindow::askWhoIsThere);
-    connect(m_side, &SidePanel::filterChanged, m_overview, &OverviewPage::setFilter);
-    m_overview->showGroups(true);
-    connect(m_side, &SidePanel::worstFirstChanged, m_overview,
-            [this](bool on) { m_overview->showGroups(!on); });
-    connect(m_side, &SidePanel::deviceSelected, this, [this](Device* device) {
-        if (device)
-            openDevice(device);
-        choiceChanged();
-    });
-
+    setUpJournal();
+    setUpSide();
     m_splitter = new QSplitter;
     m_splitter->setObjectName(QStringLiteral("Splitter"));
     m_splitter->addWidget(m_side);
@@ -116,6 +92,39 @@ void MainWindow::setUpDesk()
     connect(m_events, &EventDock::cameUp, this,
             [this] { resizeDocks({m_events}, {kEventListHeight}, Qt::Vertical); });
     setUpMenu();
+}
+
+void MainWindow::setUpJournal()
+{
+    m_journal = new JournalPage(m_session);
+    m_journalPlace = new QScrollArea; // its filters would keep the window from fitting the screen
+    m_journalPlace->setFocusPolicy(Qt::NoFocus);
+    m_journalPlace->setWidgetResizable(true);
+    m_journalPlace->setFrameShape(QFrame::NoFrame);
+    m_journalPlace->setWidget(m_journal);
+    m_pages->addWidget(m_journalPlace);
+    connect(m_journal, &JournalPage::told, this, &MainWindow::tell);
+    connect(m_journal, &JournalPage::replayWanted, this, &MainWindow::openReplay);
+    connect(m_pages, &QStackedWidget::currentChanged, this, [this] {
+        if (m_replay && m_replay != m_pages->currentWidget())
+            m_replay->deleteLater();
+    });
+}
+
+void MainWindow::setUpSide()
+{
+    m_side = new SidePanel(*m_model, m_session);
+    connect(m_side, &SidePanel::overviewWanted, this, &MainWindow::openOverview);
+    connect(m_side, &SidePanel::loginWanted, this, &MainWindow::askWhoIsThere);
+    connect(m_side, &SidePanel::filterChanged, m_overview, &OverviewPage::setFilter);
+    m_overview->showGroups(true);
+    connect(m_side, &SidePanel::worstFirstChanged, m_overview,
+            [this](bool on) { m_overview->showGroups(!on); });
+    connect(m_side, &SidePanel::deviceSelected, this, [this](Device* device) {
+        if (device)
+            openDevice(device);
+        choiceChanged();
+    });
 }
 
 void MainWindow::setUpWall()

@@ -89,6 +89,8 @@ private:
     static const ItemRow kItems[];
 
     void setUpDesk();
+    void setUpJournal();
+    void setUpSide();
     void setUpWall();
     QWidget* makeRightSide();
     void setUpMenu();

@@ -36,6 +36,23 @@ OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     m_sorted->setSourceModel(&model);
     m_sorted->setOrder(DeviceSortModel::Order::WorstFirst);
     m_counts->setObjectName(QStringLiteral("OverviewCounts"));
+    setUpTiles();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(12, 10, 12, 0);
+    column->addWidget(m_counts);
+    column->addWidget(m_tiles, 1);
+    m_nothing->setTextFormat(Qt::PlainText);
+    m_nothing->setAlignment(Qt::AlignCenter);
+    m_nothing->setObjectName(QStringLiteral("NothingMatches"));
+    m_nothing->hide();
+    column->addWidget(m_nothing, 1);
+    connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::showCounts);
+    connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::fitTilesToSections);
+    showCounts();
+}
+
+void OverviewPage::setUpTiles()
+{
     m_tiles->setObjectName(QStringLiteral("OverviewTiles"));
     m_tiles->setAccessibleName(tr("All devices"));
     m_tiles->setModel(m_sorted);
@@ -51,19 +68,6 @@ OverviewPage::OverviewPage(DeviceListModel& model, QWidget* parent)
     };
     connect(m_tiles, &QListView::clicked, this, choose);
     connect(m_tiles, &QListView::activated, this, choose);
-
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(12, 10, 12, 0);
-    column->addWidget(m_counts);
-    column->addWidget(m_tiles, 1);
-    m_nothing->setTextFormat(Qt::PlainText);
-    m_nothing->setAlignment(Qt::AlignCenter);
-    m_nothing->setObjectName(QStringLiteral("NothingMatches"));
-    m_nothing->hide();
-    column->addWidget(m_nothing, 1);
-    connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::showCounts);
-    connect(&model, &DeviceListModel::refreshed, this, &OverviewPage::fitTilesToSections);
-    showCounts();
 }
 
 void OverviewPage::refreshAge()

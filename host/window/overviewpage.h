@@ -44,6 +44,7 @@ private:
     struct FormRow;
     static const FormRow kForms[];
 
+    void setUpTiles();
     void showCounts();
     void fitTiles();
     void fitTilesToSections();

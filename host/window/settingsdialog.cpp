@@ -63,21 +63,7 @@ SettingsDialog::SettingsDialog(WatchList& list, QWidget* parent, const HashLimit
     setWindowTitle(tr("Settings"));
     setMinimumWidth(kWidth);
     m_pages->setObjectName(QStringLiteral("DeviceTabs")); // looks like the tabs of a device
-    for (const PageRow& row : kPages) {
-        const QStringList sections = QString::fromLatin1(row.sections).split(QLatin1Char(' '));
-        m_forms += new SettingsForm(sections, tr(row.help), list.config().settings());
-        m_pages->addTab(new FormArea(m_forms.last()), tr(row.title));
-    }
-    auto* trials = new NotifyTests([this] { return shown().notify; });
-    connect(trials, &NotifyTests::said, this, [this](const QString& text, bool isBad) {
-        m_message->say(text, isBad ? DialogMessage::Tone::Bad : DialogMessage::Tone::Good);
-    });
-    m_forms.last()->addBelow(trials);
-    auto* operators = new OperatorsPage(list, limits);
-    connect(operators, &OperatorsPage::said, this, [this](const QString& text, bool isBad) {
-        m_message->say(text, isBad ? DialogMessage::Tone::Bad : DialogMessage::Tone::Good);
-    });
-    m_pages->addTab(operators, tr("&Operators"));
+    addPages(limits);
     connect(m_pages, &QTabWidget::currentChanged, this,
             [this] { m_message->say(QString(), DialogMessage::Tone::Hint); });
 
@@ -90,6 +76,25 @@ SettingsDialog::SettingsDialog(WatchList& list, QWidget* parent, const HashLimit
     column->addWidget(buttons);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     fitScreen(this, sizeHint());
+}
+
+void SettingsDialog::addPages(const HashLimits& limits)
+{
+    for (const PageRow& row : kPages) {
+        const QStringList sections = QString::fromLatin1(row.sections).split(QLatin1Char(' '));
+        m_forms += new SettingsForm(sections, tr(row.help), m_list.config().settings());
+        m_pages->addTab(new FormArea(m_forms.last()), tr(row.title));
+    }
+    auto* trials = new NotifyTests([this] { return shown().notify; });
+    connect(trials, &NotifyTests::said, this, [this](const QString& text, bool isBad) {
+        m_message->say(text, isBad ? DialogMessage::Tone::Bad : DialogMessage::Tone::Good);
+    });
+    m_forms.last()->addBelow(trials);
+    auto* operators = new OperatorsPage(m_list, limits);
+    connect(operators, &OperatorsPage::said, this, [this](const QString& text, bool isBad) {
+        m_message->say(text, isBad ? DialogMessage::Tone::Bad : DialogMessage::Tone::Good);
+    });
+    m_pages->addTab(operators, tr("&Operators"));
 }
 
 void SettingsDialog::accept()

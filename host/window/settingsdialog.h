@@ -26,6 +26,7 @@ public:
     void accept() override;
 
 private:
+    void addPages(const HashLimits& limits);
     QString save();
     DeskSettings shown() const; // as the fields say now
 
