@@ -7,6 +7,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <qwt_date_scale_draw.h>
@@ -137,9 +138,14 @@ void HistoryPlot::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::PaletteChange)
         return;
-    setColors();
-    showReading();
-    m_plot->replot();
+    // The canvas gets its old ground back while the style sheet of a new theme is laid on it.
+    const auto recolor = [this] {
+        setColors();
+        showReading();
+        m_plot->replot();
+    };
+    recolor();
+    QTimer::singleShot(0, this, recolor);
 }
 
 // What is shown
