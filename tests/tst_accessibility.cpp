@@ -24,6 +24,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
+#include <QMenuBar>
 #include <QRegularExpression>
 #include <QTableWidget>
 #include <QtMath>
@@ -295,6 +296,11 @@ void TestAccessibility::tabFollowsTheEye()
         if (number > 0)
             window->close();
     }
+    for (const QAction* menu : windows.window.menuBar()->actions()) // or Alt opens neither
+        for (QLabel* label : windows.window.centralWidget()->findChildren<QLabel*>())
+            QVERIFY2(!label->buddy() || QKeySequence::mnemonic(label->text()) !=
+                                            QKeySequence::mnemonic(menu->text()),
+                     qPrintable(label->text()));
     windows.window.openDevice(windows.fleet.at(0)); // a page that came after all the rest
     windows.window.currentPage()->finishViews();
     const QSize large(1280, 1000);

@@ -117,7 +117,7 @@ QHBoxLayout* JournalPage::makeFilters()
         QComboBox* box;
         const char* name;
         QString label;
-    } boxes[] = {{m_device, "JournalDevice", tr("De&vice")},
+    } boxes[] = {{m_device, "JournalDevice", tr("Devi&ce")},
                  {m_kind, "JournalKind", tr("&Kind")},
                  {m_period, "JournalPeriod", tr("T&ime")},
                  {m_severity, "JournalSeverity", tr("&Severity from")}};
