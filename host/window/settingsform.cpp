@@ -51,8 +51,8 @@ SettingsForm::SettingsForm(const QStringList& sections, const QString& help,
 {
     auto* form = new QFormLayout(this);
     for (const ConfigKey<DeskSettings>& key : deskKeys()) {
-        if (!sections.contains(QLatin1String(key.section)))
-            continue;
+        if (!sections.contains(QLatin1String(key.section)) || !*key.label)
+            continue; // without a label it is none of the window's
         QWidget* field = makeField(key.type);
         field->setObjectName(QLatin1String(key.name));
         const bool isText = key.type.kind == ConfigType::Kind::Text;
