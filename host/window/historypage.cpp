@@ -83,6 +83,7 @@ HistoryPage::HistoryPage(const Device& device, QWidget* parent)
     setObjectName(QStringLiteral("HistoryPage"));
     m_message->setObjectName(QStringLiteral("HistoryMessage"));
     m_message->setAlignment(Qt::AlignCenter);
+    m_message->setMargin(kMargin);
     m_splitter->addWidget(makeCharts());
     m_splitter->addWidget(m_outages);
     m_splitter->setStretchFactor(0, 1);
@@ -401,6 +402,9 @@ void HistoryPage::say(const QString& message)
 {
     m_message->setText(message);
     m_stack->setCurrentIndex(message.isEmpty() ? 0 : 1);
+    // A note takes the room there is; charts that are not shown need none.
+    const auto policy = message.isEmpty() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+    m_stack->widget(0)->setSizePolicy(policy, policy);
 }
 
 QString HistoryPage::message() const
