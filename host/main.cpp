@@ -16,6 +16,8 @@
 #include "operators/operatorsession.h"
 #include "promptexit.h"
 #include "quitsignals.h"
+#include "viewer/relayconnector.h"
+#include "viewer/viewer.h"
 #include "window/activitywatch.h"
 #include "window/deviceactions.h"
 #include "window/mainwindow.h"
@@ -186,6 +188,42 @@ void follow(const DeskConfig& config, OperatorSession& session, Fleet& fleet)
     fleet.setThresholds(config.settings().thresholds);
 }
 
+// Who names a device wants to see that one, whatever others collect.
+bool isViewer(const DeskConfig& config, const QVector<DeviceSettings>& devices)
+{
+    return config.settings().history.mode == HistoryMode::Viewer && devices.isEmpty();
+}
+
+// A desk that shows what the collectors tell, and polls nothing.
+std::unique_ptr<Viewer> view(const DeskSettings& settings, Fleet& fleet, DeskHistory& history,
+                             MainWindow& window)
+{
+    auto viewer = std::make_unique<Viewer>(fleet);
+    window.setViewer(*viewer);
+    viewer->start(settings.history, settings.secrets);
+    // What collectors have written is news for the journal, too.
+    QObject::connect(&history, &DeskHistory::started, viewer.get(), [&history, v = viewer.get()] {
+        QObject::connect(v, &Viewer::heard, history.writer(), &HistoryWriter::committed);
+    });
+    history.startReading(settings.history, settings.secrets);
+    return viewer;
+}
+
+std::unique_ptr<Viewer> beginWatching(const QVector<DeviceSettings>& devices, Fleet& fleet,
+                                      WatchList& list, DeskHistory& history, MainWindow& window,
+                                      bool isWall)
+{
+    const DeskSettings& settings = list.config().settings();
+    if (isViewer(list.config(), devices)) {
+        list.leaveDevices();
+        return view(settings, fleet, history, window);
+    }
+    watchDevices(devices, fleet, list, window, isWall);
+    if (settings.history.mode == HistoryMode::Desk)
+        history.start(settings.history, settings.secrets);
+    return {};
+}
+
 int runWindow(const WindowOptions& options)
 {
     const auto devices = devicesOf(options.addresses);
@@ -198,7 +236,7 @@ int runWindow(const WindowOptions& options)
     applyThemeChoice(theme);
     OperatorSession session;
     ActivityWatch watch(session);
-    Fleet fleet(makeConnector);
+    Fleet fleet(isViewer(config, *devices) ? RelayConnector::make : makeConnector);
     follow(config, session, fleet);
     EventLog log;
     CommandDesk desk(fleet, log, [&session] {
@@ -228,15 +266,13 @@ int runWindow(const WindowOptions& options)
                      [&] { window.setTroubleCount(attention.count()); });
     TrayIcon tray(attention, window);
     QObject::connect(&tray, &TrayIcon::muted, &notifier, &Notifier::setMuted);
-    watchDevices(*devices, fleet, list, window, options.kiosk);
     // A simulation is worth keeping only where somebody has put it into the configuration.
     DeskHistory history(fleet, log, [&list](const Device& device) {
         return !device.isSimulated() || list.isConfigured(&device);
     });
     QObject::connect(&history, &DeskHistory::told, &window, &MainWindow::tell);
     window.setHistory(history);
-    if (config.settings().history.mode == HistoryMode::Desk)
-        history.start(config.settings().history, config.settings().secrets);
+    const auto viewer = beginWatching(*devices, fleet, list, history, window, options.kiosk);
     openWindow(window, options, state);
     quitOnSignals();
     const int result = QApplication::exec();

@@ -27,7 +27,12 @@ CollectorDuty::CollectorDuty(const DeskConfig& config, const Fleet::ConnectorMak
     connect(&m_history, &DeskHistory::told, this, [](const QString& text, bool isBad) {
         logLine(isBad ? LogLevel::Error : LogLevel::Info, text);
     });
-    connect(&m_history, &DeskHistory::started, this, &CollectorDuty::logJournal);
+    connect(&m_history, &DeskHistory::started, this, [this, isOnDuty] {
+        logJournal();
+        const HistoryWriterOptions& options = m_history.writer()->options();
+        if (options.store.kind == StoreAddress::Kind::Postgres)
+            m_live = std::make_unique<LiveWriter>(m_fleet, options.store, options.site, isOnDuty);
+    });
     connect(&m_notifier, &Notifier::failed, this,
             [this](Notifier::Channel channel, const QString& reason) {
                 DeskEvent event;

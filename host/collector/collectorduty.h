@@ -5,6 +5,7 @@
 // begins with the object and ends with it.
 // May touch: fleet, history, notify, metrics, the site lock, the service manager.
 
+#include "collector/livewriter.h"
 #include "collector/sitelock.h"
 #include "fleet/eventlog.h"
 #include "fleet/watchlist.h"
@@ -35,6 +36,7 @@ private:
     Notifier m_notifier;
     MetricsServer m_metrics;
     DeskHistory m_history;
+    std::unique_ptr<LiveWriter> m_live; // where viewers can read it
     QString m_listening;
 };
 

@@ -13,12 +13,16 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 // What one poll brought. reading matters only when state is Live.
 struct PollResult {
     LinkState state = LinkState::Connecting;
     UpsReading reading;
     QString message;            // why it is not Live, naming the cause; plain text for the operator
     LinkSecurity security = {}; // of links that can be encrypted
+    // Of a poll that another desk made, and has judged: when it began, on this one's boot clock.
+    std::optional<qint64> askedBootMs = {};
 };
 Q_DECLARE_METATYPE(PollResult)
 

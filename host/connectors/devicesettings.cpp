@@ -5,7 +5,7 @@
 QString DeviceSettings::displayName() const
 {
     if (!name.isEmpty())
-        return name;
+        return nameAtSite(site, name);
     if (address.scheme == DeviceAddress::Scheme::Simulator)
         return address.scenario.isEmpty()
                    ? QCoreApplication::translate("DeviceSettings", "Simulator")

@@ -17,9 +17,16 @@ enum class TlsUse {
     Off        // plain text, passwords too
 };
 
+// "North/Rack 3": the name that no device of another site has; without a site, the name alone.
+inline QString nameAtSite(const QString& site, const QString& name)
+{
+    return site.isEmpty() ? name : site + QLatin1Char('/') + name;
+}
+
 struct DeviceSettings {
     QString name; // the operator's name for it; empty: what the address calls it
     DeviceAddress address;
+    QString site;  // whose collector watches it; empty: this desk does
     QString group; // site or room, to order the devices by; empty: none
 
     // Account of a NUT server; needed for commands only.
@@ -43,7 +50,7 @@ struct DeviceSettings {
     // Correction of agents that are wrong by a power of ten: quantity name to factor.
     QMap<QString, double> scales;
 
-    // For people: the given name, else what the address calls the device.
+    // For people: the given name, else what the address calls the device; with its site.
     QString displayName() const;
 };
 

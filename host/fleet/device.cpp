@@ -148,12 +148,13 @@ void Device::planNext(LinkState state)
 void Device::takeResult(const PollResult& result)
 {
     // An answer may have been under way for long: the machine may have slept meanwhile.
-    const qint64 asked = isPolling() ? m_pollStarted : m_clock.bootMs();
+    const qint64 asked =
+        result.askedBootMs.value_or(isPolling() ? m_pollStarted : m_clock.bootMs());
     m_pollStarted = -1;
     planNext(result.state);
     m_security = result.security;
-    const bool isConfirmed =
-        result.state != LinkState::Lost || m_link != LinkState::Live || m_plan.isSilenceConfirmed();
+    const bool isConfirmed = result.askedBootMs || result.state != LinkState::Lost ||
+                             m_link != LinkState::Live || m_plan.isSilenceConfirmed();
     if (isConfirmed) {
         m_link = result.state;
         m_message = cleanDeviceText(result.message);

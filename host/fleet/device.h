@@ -66,6 +66,9 @@ public:
     // began before there was a reason to hurry (before a suspend, or a command), so another
     // follows.
     void hurry(qint64 atMs);
+    // What a poll has brought, of this desk or, where the result says when it was asked, of another
+    // one.
+    void takeResult(const PollResult& result);
     // Until that monotonic ms nothing hurries the device: what it needs is still to come. 0: it has
     // come.
     void hold(qint64 untilMs) { m_heldUntilMs = untilMs; }
@@ -93,7 +96,6 @@ private:
     };
 
     void planNext(LinkState state);
-    void takeResult(const PollResult& result);
     void takeReading(const UpsReading& reading, qint64 askedBootMs);
     qint64 pollLimitMs() const;
     qint64 freshnessLimitMs() const;

@@ -134,10 +134,8 @@ void Fleet::setThresholds(const Thresholds& thresholds)
 
 void Fleet::pollDueDevices()
 {
-    if (m_mayPoll && !m_mayPoll()) {
-        m_pollTimer.start(kAskAgainMs);
-        return;
-    }
+    if (!mayPoll())
+        return schedule();
     const qint64 now = m_clock.monotonicMs();
     for (const auto& device : m_devices)
         if (!device->isPolling() && device->dueMs() <= now)
@@ -147,6 +145,11 @@ void Fleet::pollDueDevices()
 
 void Fleet::schedule()
 {
+    if (!mayPoll()) {
+        if (!m_pollTimer.isActive())
+            m_pollTimer.start(kAskAgainMs);
+        return;
+    }
     qint64 next = -1;
     for (const auto& device : m_devices)
         if (!device->isPolling() && (next < 0 || device->dueMs() < next))

@@ -49,6 +49,7 @@ public:
 
     // Asked before devices are polled: whether they may be at this moment. By default always.
     void setPermit(const std::function<bool()>& mayPoll) { m_mayPoll = mayPoll; }
+    bool mayPoll() const { return !m_mayPoll || m_mayPoll(); }
 
     // For all devices, those that are there and those to come.
     void setThresholds(const Thresholds& thresholds);

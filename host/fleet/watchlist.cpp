@@ -253,6 +253,13 @@ void WatchList::follow(const DeskConfig& config)
 {
     m_config = config;
     m_operators = config.operators();
+    if (!m_leavesDevices)
+        followDevices();
+    emit changed();
+}
+
+void WatchList::followDevices()
+{
     for (int i = m_fleet.count() - 1; i >= 0; --i)
         if (isConfigured(m_fleet.at(i)) && !m_config.device(m_fleet.at(i)->settings().name))
             m_fleet.remove(i);
@@ -269,7 +276,6 @@ void WatchList::follow(const DeskConfig& config)
         devices += device->settings();
     m_secrets.use(m_config.settings().secrets, devices);
     fetchSecrets();
-    emit changed();
 }
 
 void WatchList::orderAsInFile()

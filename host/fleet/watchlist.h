@@ -35,6 +35,9 @@ public:
     // next edit, so that no device changes under somebody's hands.
     void readOperators();
 
+    // The fleet's devices come from elsewhere: those of the file are left alone.
+    void leaveDevices() { m_leavesDevices = true; }
+
     // Asked at every change from the desk: why nothing may be changed now; empty: it may.
     void setGuard(const Guard& guard) { m_guard = guard; }
 
@@ -74,6 +77,7 @@ private:
     QString whyNot() const { return m_guard ? m_guard() : QString(); }
     QString save(const Edit& edit);
     QString tellChange(const QString& reason);
+    void followDevices();
     void orderAsInFile();
     void append(const DeviceSettings& settings);
     void replace(Device* device, const DeviceSettings& settings);
@@ -88,6 +92,7 @@ private:
     OperatorAccounts m_operators;
     FileStamp m_stamp; // of the file that they were read from
     Guard m_guard;
+    bool m_leavesDevices = false;
     SecretKeeper m_secrets;
     QHash<QString, Device*> m_devices; // of the file, by name
 };

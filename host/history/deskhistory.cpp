@@ -12,14 +12,27 @@ DeskHistory::~DeskHistory() = default;
 
 void DeskHistory::start(const HistorySettings& settings, SecretsChoice secrets, const QString& site)
 {
+    HistoryWriterOptions options;
+    options.site = site;
+    options.mayWrite = m_mayWrite;
+    open(options, settings, secrets);
+}
+
+void DeskHistory::startReading(const HistorySettings& settings, SecretsChoice secrets)
+{
+    HistoryWriterOptions options;
+    options.keepsHouse = false;
+    open(options, settings, secrets);
+}
+
+void DeskHistory::open(HistoryWriterOptions options, const HistorySettings& settings,
+                       SecretsChoice secrets)
+{
     const ParsedStore store = storeOf(settings);
     if (!store.error.isEmpty()) {
         emit told(tr("Nothing is recorded: %1").arg(store.error), true);
         return;
     }
-    HistoryWriterOptions options;
-    options.site = site;
-    options.mayWrite = m_mayWrite;
     options.keep = tierLengths(settings);
     m_secrets = SecretStore::make(secrets);
     withStoreSecret(store.address, *m_secrets, this,
@@ -27,21 +40,23 @@ void DeskHistory::start(const HistorySettings& settings, SecretsChoice secrets, 
                         if (!fault.isEmpty())
                             emit told(fault, true);
                         options.store = address;
-                        open(options);
+                        work(options);
                     });
 }
 
-void DeskHistory::open(const HistoryWriterOptions& options)
+void DeskHistory::work(const HistoryWriterOptions& options)
 {
     m_writer = std::make_unique<HistoryWriter>(options);
     m_reader = std::make_unique<HistoryReader>(options.store);
-    m_recorder = std::make_unique<Recorder>(m_fleet, m_log, *m_writer, *m_reader, m_isRecorded);
+    if (options.keepsHouse)
+        m_recorder = std::make_unique<Recorder>(m_fleet, m_log, *m_writer, *m_reader, m_isRecorded);
     connect(m_writer.get(), &HistoryWriter::storeFault, this,
             [this](const QString& text) { emit told(text, true); });
     connect(m_writer.get(), &HistoryWriter::storeRecovered, this,
             [this](const QString& text) { emit told(text, false); });
     m_writer->start();
-    m_recorder->start();
+    if (m_recorder)
+        m_recorder->start();
     emit started();
 }
 

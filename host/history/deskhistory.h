@@ -26,11 +26,13 @@ public:
     void setPermit(const std::function<bool()>& mayWrite) { m_mayWrite = mayWrite; }
     // Fetches the password where there is one, then records. Once; returns at once.
     void start(const HistorySettings& settings, SecretsChoice secrets, const QString& site = {});
+    // As start(), but records nothing: others do. Entries can be acknowledged.
+    void startReading(const HistorySettings& settings, SecretsChoice secrets);
 
     // Null until the store is known, and where its address is wrong.
     HistoryWriter* writer() const { return m_writer.get(); }
     HistoryReader* reader() const { return m_reader.get(); }
-    Recorder* recorder() const { return m_recorder.get(); }
+    Recorder* recorder() const { return m_recorder.get(); } // null where nothing is recorded
 
 signals:
     void started(); // writer, reader and recorder are there
@@ -38,7 +40,8 @@ signals:
     void told(const QString& text, bool isBad);
 
 private:
-    void open(const HistoryWriterOptions& options);
+    void open(HistoryWriterOptions options, const HistorySettings& settings, SecretsChoice secrets);
+    void work(const HistoryWriterOptions& options);
 
     Fleet& m_fleet;
     EventLog& m_log;

@@ -85,7 +85,8 @@ QString conditionFact(const Condition& condition)
 
 QString storedName(const Device& device)
 {
-    return device.settings().name.isEmpty() ? device.address() : device.settings().name;
+    const DeviceSettings& settings = device.settings();
+    return nameAtSite(settings.site, settings.name.isEmpty() ? device.address() : settings.name);
 }
 
 bool isSeenWithoutReading(JournalKind kind)

@@ -25,7 +25,8 @@ QVector<DeviceFact> factsOf(const Device& device);
 // Whether the end of such a fact shows in a device that is not live.
 bool isSeenWithoutReading(JournalKind kind);
 
-// Under which name the history knows the device: the operator's, else its address.
+// Under which name the history knows the device: the operator's, else its address; with its site
+// where that is another desk's.
 QString storedName(const Device& device);
 
 #endif // DEVICEFACTS_H

@@ -1,5 +1,7 @@
 #include "history/historyqueries.h"
 
+#include "connectors/devicesettings.h"
+
 #include <algorithm>
 
 namespace {
@@ -45,7 +47,7 @@ Where whereOf(const JournalFilter& filter, const QString& like)
 {
     Where where;
     if (!filter.device.isEmpty())
-        where.add("d.name = ?", {filter.device});
+        where.add("(d.name = ? OR d.site || '/' || d.name = ?)", {filter.device, filter.device});
     if (!filter.kinds.isEmpty()) {
         QStringList marks;
         QVariantList kinds;
@@ -196,7 +198,7 @@ std::optional<StoredDevice> HistoryQueries::device(const QString& nameOrAddress,
     for (const StoredDevice& device : devices()) {
         if (!site.isEmpty() && device.site != site)
             continue;
-        if (device.name == nameOrAddress)
+        if (device.name == nameOrAddress || nameAtSite(device.site, device.name) == nameOrAddress)
             return device;
         if (device.address == nameOrAddress)
             byAddress = device;

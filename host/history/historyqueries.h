@@ -55,7 +55,7 @@ public:
     QString errorText() const { return m_failed ? m_store.errorText() : QString(); }
 
     QVector<StoredDevice> devices();
-    // By name, or by address as it may be shown; the site matters where it is not empty.
+    // By name, "SITE/NAME", or address as it may be shown; the site matters where it is not empty.
     std::optional<StoredDevice> device(const QString& nameOrAddress, const QString& site = {});
 
     // About mostRows rows at most (twice that at the seams of the tiers).

@@ -226,7 +226,7 @@ bool HistoryWriter::openStore()
         return false;
     if (m_store->open(HistoryStore::Access::Write)) {
         m_batches = std::make_unique<BatchStore>(*m_store, m_options.site);
-        if (m_batches->rollup().resume())
+        if (!m_options.keepsHouse || m_batches->rollup().resume())
             return true;
     }
     tellFault(m_store->errorText());
@@ -293,7 +293,7 @@ void HistoryWriter::putBack(const QVector<HistoryRecord>& records)
 
 void HistoryWriter::maintain()
 {
-    if (!m_batches)
+    if (!m_batches || !m_options.keepsHouse)
         return;
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
     if (m_batches->rollup().step(now, kSpansPerStep) < 0)

@@ -29,6 +29,8 @@ struct HistoryWriterOptions {
     // Whether the store may be written at this moment; from the writer's thread. What comes while
     // it may not waits as while the store is gone. Null: always.
     std::function<bool()> mayWrite;
+    // Makes means of samples and forgets what is old; not where others write the samples.
+    bool keepsHouse = true;
     int mostSamples = 400000; // that wait in memory; the oldest go first
     int retryMs = 3000;       // between tries to reach a store that failed
     int commitMs = 250;       // longest time that a record waits for others to join it

@@ -59,7 +59,7 @@ QString newJournalKey();
 
 // Which entries; what is left empty does not choose.
 struct JournalFilter {
-    QString device; // name
+    QString device; // name, or "SITE/NAME"
     QVector<JournalKind> kinds;
     std::optional<qint64> fromMs; // entries that lasted until then or longer
     std::optional<qint64> toMs;   // entries that began before

@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <libpq-fe.h>
+#include <poll.h>
 
 namespace {
 
@@ -57,6 +58,30 @@ QStringList optionsOf(const StoreAddress& store)
 
 } // namespace
 
+PGconn* PostgresStore::connection() const
+{
+    return isOpen() ? *static_cast<PGconn**>(m_database.driver()->handle().data()) : nullptr;
+}
+
+bool PostgresStore::listen(const QString& channel)
+{
+    return execute(QStringLiteral("LISTEN ") + channel);
+}
+
+int PostgresStore::waitForNotice(int ms)
+{
+    PGconn* link = connection();
+    pollfd wanted{link ? PQsocket(link) : -1, POLLIN, 0};
+    if (!link || (::poll(&wanted, 1, ms) > 0 && PQconsumeInput(link) == 0)) {
+        takeError({});
+        return -1;
+    }
+    int count = 0;
+    for (; PGnotify* notice = PQnotifies(link); ++count)
+        PQfreemem(notice);
+    return count;
+}
+
 bool PostgresStore::connectTo(QSqlDatabase& database, Access access)
 {
     m_partitions.clear();
@@ -68,8 +93,8 @@ bool PostgresStore::connectTo(QSqlDatabase& database, Access access)
     database.setDatabaseName(m_address.database);
     if (!database.open())
         return takeError(database.lastError());
-    if (PGconn* connection = *static_cast<PGconn**>(database.driver()->handle().data()))
-        setSocket(PQsocket(connection));
+    if (PGconn* link = connection())
+        setSocket(PQsocket(link));
     const QString timeout = QStringLiteral("SET lock_timeout = '5s'");
     const QString limit = QStringLiteral("SET statement_timeout = '60s'");
     const QString readOnly =
@@ -92,7 +117,9 @@ QString PostgresStore::inDialect(QString statement) const
         .replace("{blob}", "BYTEA")
         .replace("{real}", "DOUBLE PRECISION")
         .replace("{partitioned}", "PARTITION BY RANGE (t)")
-        .replace("{clustered}", QString());
+        .replace("{clustered}", QString())
+        .replace("{unlogged}", "UNLOGGED")
+        .replace("{roomy}", "WITH (fillfactor = 50)"); // a row that changes stays in its page
 }
 
 QString PostgresStore::plainFault(const QString& code) const

@@ -9,6 +9,8 @@
 
 #include <QSet>
 
+struct pg_conn;
+
 class PostgresStore : public HistoryStore
 {
 public:
@@ -22,6 +24,11 @@ public:
     int rowsPerInsert() const override { return 50; }
     QString likeOperator() const override { return QStringLiteral("ILIKE"); }
 
+    bool listen(const QString& channel);
+    // Then: how many notifications have come, at the latest after that time. -1: the connection is
+    // lost.
+    int waitForNotice(int ms);
+
 protected:
     bool connectTo(QSqlDatabase& database, Access access) override;
     QString beginStatement(bool isMigration) const override;
@@ -29,6 +36,8 @@ protected:
     QString plainFault(const QString& code) const override;
 
 private:
+    pg_conn* connection() const;
+
     QSet<QString> m_partitions; // known to be there
 };
 

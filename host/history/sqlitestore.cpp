@@ -69,7 +69,9 @@ QString SqliteStore::inDialect(QString statement) const
         .replace("{blob}", "BLOB")
         .replace("{real}", "REAL")
         .replace("{partitioned}", QString())
-        .replace("{clustered}", "WITHOUT ROWID");
+        .replace("{clustered}", "WITHOUT ROWID")
+        .replace("{unlogged}", QString())
+        .replace("{roomy}", QString());
 }
 
 QString SqliteStore::plainFault(const QString& code) const

@@ -31,10 +31,25 @@ QStringList firstVersion()
     return statements;
 }
 
+// What is so now, for viewers. It is worth nothing after a crash of the server: the collectors
+// write it anew.
+QStringList secondVersion()
+{
+    return {
+        "CREATE {unlogged} TABLE live_sites (site TEXT PRIMARY KEY, number {big} NOT NULL, "
+        "heard {big} NOT NULL)",
+        "CREATE {unlogged} TABLE live_devices (site TEXT NOT NULL, name TEXT NOT NULL, "
+        "place INTEGER NOT NULL, gone INTEGER NOT NULL, number {big} NOT NULL, settings TEXT, "
+        "settings_number {big}, info {blob}, link INTEGER NOT NULL, message TEXT NOT NULL, "
+        "data {blob}, asked {big}, condition INTEGER NOT NULL, since {big} NOT NULL, "
+        "PRIMARY KEY (site, name)) {roomy}",
+    };
+}
+
 } // namespace
 
 const QVector<QStringList>& schemaSteps()
 {
-    static const QVector<QStringList> steps{firstVersion()};
+    static const QVector<QStringList> steps{firstVersion(), secondVersion()};
     return steps;
 }

@@ -82,8 +82,17 @@ void DeviceActions::setCurrent(Device* device)
     refresh();
 }
 
+void DeviceActions::lock()
+{
+    m_isLocked = true;
+    for (QAction* action : {m_add, m_addSeveral, m_edit, m_remove, m_moveUp, m_moveDown})
+        action->setEnabled(false);
+}
+
 void DeviceActions::refresh()
 {
+    if (m_isLocked)
+        return;
     const int index = m_current ? m_fleet.indexOf(m_current) : -1;
     m_edit->setEnabled(index >= 0);
     m_remove->setEnabled(index >= 0);

@@ -23,6 +23,8 @@ public:
     DeviceActions(Fleet& fleet, WatchList& list, const Fleet::ConnectorMaker& maker,
                   OperatorSession& session, QWidget* window);
 
+    // The devices are others' to change: from here on all of it is out of reach.
+    void lock();
     // What edit, remove and move act on; null: nothing. Follows the device when it is replaced.
     void setCurrent(Device* device);
     Device* current() const { return m_current; }
@@ -66,6 +68,7 @@ private:
     OperatorGate* m_gate;
     QWidget* m_window;
     QPointer<Device> m_current;
+    bool m_isLocked = false;
     int m_lostIndex = -1; // where the current device was when it went
     QAction* m_add;
     QAction* m_addSeveral;

@@ -38,6 +38,12 @@ void FirstRunStrip::offerNothing()
     m_add->hide();
 }
 
+void FirstRunStrip::retire()
+{
+    m_isRetired = true;
+    hide();
+}
+
 void FirstRunStrip::follow()
 {
     bool real = false;
@@ -49,5 +55,5 @@ void FirstRunStrip::follow()
     const bool empty = m_fleet.count() == 0;
     m_text->setText(empty ? tr("There is no device yet - add your UPS")
                           : tr("This is a simulation - add your UPS"));
-    setVisible(empty || (m_isFirstRun && m_simulation));
+    setVisible(!m_isRetired && (empty || (m_isFirstRun && m_simulation)));
 }

@@ -22,6 +22,8 @@ public:
 
     // The device that nobody asked for. It is an ordinary one as soon as it has been edited.
     void setSimulation(Device* device);
+    // Never shown again: where the devices come from elsewhere.
+    void retire();
     // Without the button, where nothing can be added.
     void offerNothing();
 
@@ -34,6 +36,7 @@ private:
     Fleet& m_fleet;
     QPointer<Device> m_simulation;
     bool m_isFirstRun = false;
+    bool m_isRetired = false;
     QLabel* m_text;
     QPushButton* m_add;
 };

@@ -1,5 +1,6 @@
 #include "window/journalmodel.h"
 
+#include "connectors/devicesettings.h"
 #include "reading/sanitize.h"
 #include "window/urgencycolors.h"
 
@@ -232,7 +233,8 @@ QString JournalModel::cellText(const JournalEntry& entry, int column) const
     case Duration:
         return lastingText(entry);
     case DeviceName:
-        return cleanDeviceText(entry.device);
+        return cleanDeviceText(entry.device.isEmpty() ? entry.site
+                                                      : nameAtSite(entry.site, entry.device));
     case Kind:
         return kindText(entry.kind);
     case Severity:

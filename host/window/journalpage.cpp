@@ -1,5 +1,6 @@
 #include "window/journalpage.h"
 
+#include "connectors/devicesettings.h"
 #include "history/historytext.h"
 #include "reading/sanitize.h"
 #include "window/operatorgate.h"
@@ -237,8 +238,9 @@ void JournalPage::readDevices()
         this, [](HistoryQueries& store) { return store.devices(); },
         [this](const QVector<StoredDevice>& devices, const QString&) {
             for (const StoredDevice& device : devices)
-                if (m_device->findData(device.name) < 0)
-                    m_device->addItem(cleanDeviceText(device.name), device.name);
+                if (const QString name = nameAtSite(device.site, device.name);
+                    m_device->findData(name) < 0)
+                    m_device->addItem(cleanDeviceText(name), name);
         });
 }
 
@@ -287,7 +289,7 @@ void JournalPage::replayFrom(const QModelIndex& index)
 {
     const JournalEntry entry = m_model->entry(index.row());
     if (m_reader && !entry.device.isEmpty())
-        emit replayWanted(entry.device, entry.onsetMs - kBeforeOnset);
+        emit replayWanted(nameAtSite(entry.site, entry.device), entry.onsetMs - kBeforeOnset);
 }
 
 void JournalPage::askForNote()

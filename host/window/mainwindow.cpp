@@ -2,6 +2,7 @@
 
 #include "history/deskhistory.h"
 #include "history/devicefacts.h"
+#include "viewer/relayconnector.h"
 #include "window/clipboardtext.h"
 #include "window/deskmenu.h"
 #include "window/deviceactions.h"
@@ -18,6 +19,7 @@
 #include "window/replaypage.h"
 #include "window/resultbanner.h"
 #include "window/sidepanel.h"
+#include "window/viewerline.h"
 #include "window/walldisplay.h"
 
 #include <QAbstractItemView>
@@ -55,6 +57,7 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorS
     , m_pages(nullptr)
     , m_banner(new ResultBanner)
     , m_strip(new FirstRunStrip(fleet))
+    , m_viewerLine(new ViewerLine)
 {
     setWindowTitle(tr("upsdesk"));
     if (mode == Mode::Kiosk)
@@ -152,6 +155,7 @@ QWidget* MainWindow::makeRightSide()
     if (m_wayBack)
         column->addWidget(m_wayBack);
     column->addWidget(m_strip);
+    column->addWidget(m_viewerLine);
     column->addWidget(m_pages, 1);
     column->addWidget(m_banner);
     return right;
@@ -263,6 +267,15 @@ void MainWindow::setActions(DeviceActions* actions, QAction* settings)
 void MainWindow::setSimulation(Device* device)
 {
     m_strip->setSimulation(device);
+}
+
+void MainWindow::setViewer(const Viewer& viewer)
+{
+    m_desk.lock(RelayConnector::noCommands());
+    m_strip->retire();
+    m_viewerLine->follow(viewer);
+    if (m_actions)
+        m_actions->lock();
 }
 
 void MainWindow::markTheme(ThemeChoice choice)
@@ -470,7 +483,11 @@ void MainWindow::findInList()
 
 void MainWindow::pollNow()
 {
-    if (Device* device = chosenDevice())
+    Device* device = chosenDevice();
+    if (device && !m_fleet.mayPoll())
+        return tell(tr("%1: its collector polls it, this desk does not.").arg(device->name()),
+                    true);
+    if (device)
         m_fleet.pollNow(device);
 }
 

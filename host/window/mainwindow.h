@@ -33,6 +33,8 @@ class QSplitter;
 class ReplayPage;
 class ResultBanner;
 class SidePanel;
+class Viewer;
+class ViewerLine;
 
 class MainWindow : public QMainWindow
 {
@@ -58,6 +60,9 @@ public:
     void setActions(DeviceActions* actions, QAction* settings);
     // The device of a desk that has none: the strip above says that it is none of the operator's.
     void setSimulation(Device* device);
+    // What is shown comes from collectors: nothing is polled, commanded or added here. Must be
+    // there as long as the window is used.
+    void setViewer(const Viewer& viewer);
     // The choice that the menu shows.
     void markTheme(ThemeChoice choice);
     // All devices as tiles.
@@ -131,6 +136,7 @@ private:
     PageStack* m_pages;
     ResultBanner* m_banner;
     FirstRunStrip* m_strip;
+    ViewerLine* m_viewerLine;
     DeskMenu* m_menu = nullptr; // these: at a desk only
     SidePanel* m_side = nullptr;
     QSplitter* m_splitter = nullptr;
