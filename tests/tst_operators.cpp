@@ -21,7 +21,7 @@ OperatorAccount account(const QString& name, int level, const char* password)
     return {name, level, hashPassword(secret(password), HashLimits::minimal())};
 }
 
-// A session of two operators, whose wall clock the test moves, as a machine that sleeps does.
+// A session of two operators, whose clock the test moves, as a machine that sleeps does.
 class SessionProbe : public OperatorSession
 {
 public:
@@ -38,7 +38,7 @@ public:
     QSignalSpy refusals{this, &OperatorSession::refused};
 
 protected:
-    qint64 wallClock() const override { return OperatorSession::wallClock() + slept; }
+    qint64 clockMs() const override { return OperatorSession::clockMs() + slept; }
 };
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "operators/operatorsession.h"
 
+#include "connectors/bootclock.h"
 #include "operators/logincheck.h"
 
-#include <QDateTime>
 #include <QThreadPool>
 
 #include <algorithm>
@@ -25,9 +25,9 @@ OperatorSession::OperatorSession(QObject* parent)
     connect(&m_idle, &QTimer::timeout, this, &OperatorSession::logOut);
 }
 
-qint64 OperatorSession::wallClock() const
+qint64 OperatorSession::clockMs() const
 {
-    return QDateTime::currentMSecsSinceEpoch();
+    return bootClockMs();
 }
 
 void OperatorSession::setOperators(const Operators& operators)
@@ -69,7 +69,7 @@ void OperatorSession::logIn(const QString& name, const SecretText& password)
 {
     check();
     const int attempt = ++m_attempt;
-    const qint64 wait = m_failures.value(name).until - wallClock();
+    const qint64 wait = m_failures.value(name).until - clockMs();
     if (wait > 0) {
         constexpr int kMsPerSecond = 1000;
         m_checking = false;
@@ -98,7 +98,7 @@ void OperatorSession::answer(int attempt, const QString& name, bool fits)
         return;
     }
     m_failures.remove(name);
-    m_lastActivity = wallClock();
+    m_lastActivity = clockMs();
     m_idle.start();
     set(name, *level);
 }
@@ -110,7 +110,7 @@ void OperatorSession::noteFailure(const QString& name)
     Failures& failures = m_failures[name];
     if (++failures.count > kFreeFailures) {
         const int doublings = std::min(failures.count - kFreeFailures - 1, 6);
-        failures.until = wallClock() + std::min(kFirstWaitMs << doublings, kLongestWaitMs);
+        failures.until = clockMs() + std::min(kFirstWaitMs << doublings, kLongestWaitMs);
     }
     emit failed(m_operators.level(name) ? name : QString());
 }
@@ -132,7 +132,7 @@ void OperatorSession::activity()
 {
     if (!isLoggedIn())
         return;
-    const qint64 now = wallClock();
+    const qint64 now = clockMs();
     if (now - m_lastActivity >= m_idle.interval()) {
         logOut();
         return;

@@ -2,7 +2,7 @@
 #define OPERATORSESSION_H
 
 // Who is logged in at the window, and for how long.
-// May touch: Qt Core, operators. Checks passwords in a pool thread.
+// May touch: Qt Core, operators, the boot clock. Checks passwords in a pool thread.
 
 #include "operators/operators.h"
 
@@ -63,12 +63,13 @@ signals:
     void failed(const QString& name);
 
 protected:
-    virtual qint64 wallClock() const; // ms; goes on while the machine sleeps
+    // ms; goes on while the machine sleeps, and no setting of the time moves it.
+    virtual qint64 clockMs() const;
 
 private:
     struct Failures {
         int count = 0;
-        qint64 until = 0; // ms of the wall clock; refused unseen before
+        qint64 until = 0; // ms of clockMs(); refused unseen before
     };
 
     void answer(int attempt, const QString& name, bool fits);
@@ -82,7 +83,7 @@ private:
     int m_level = OperatorAccount::kMinLevel;
     int m_attempt = 0;
     bool m_checking = false;
-    qint64 m_lastActivity = 0; // ms of the wall clock
+    qint64 m_lastActivity = 0; // ms of clockMs()
     QTimer m_idle;
 };
 
