@@ -175,6 +175,8 @@ const struct {
     {"first of two steps", "standby", "120", silent, O::Unknown, "was not sent", 1},
     {"silent agent", "shutdown", "", [](T& t) { t.silent = true; }, O::NoAnswer, "nothing was set",
      0},
+    {"user turned away after the order", "shutdown", "", [](T& t) { t.refusesAfter = 1; },
+     O::Unknown, "Unknown user. The command was sent", 1},
     {"second step refused: the first is taken back", "standby", "120",
      [](T& t) { t.refusing = {UpsMib::shutdownAfterDelay}; }, O::Refused, "cannot do this now", 3,
      "8.3.0 i -1\n8.2.0 i -1"},

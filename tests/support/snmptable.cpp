@@ -78,6 +78,11 @@ std::optional<SnmpReply> SnmpTable::answer(const SnmpRequest& request, int versi
     if (asked > tooBigAbove)
         return errorReply(SnmpTooBig, 0);
     SnmpReply reply;
+    if (sets >= refusesAfter) {
+        reply.kind = SnmpReply::Kind::Refusal;
+        reply.message = QStringLiteral("Unknown user");
+        return reply;
+    }
     switch (request.kind) {
     case SnmpRequest::Kind::Get:
         reply = get(request, version);

@@ -36,7 +36,8 @@ public:
     int setError = 0;           // of every SET
     int setErrorIndex = 1;
     bool setSaysNoInstance = false;
-    bool setSilent = false; // but carried out
+    bool setSilent = false;  // but carried out
+    int refusesAfter = 1000; // SETs, from when on the user is turned away
     std::function<void(const SnmpVariable&)> onSet;
 
     // What was asked, for tests that count.

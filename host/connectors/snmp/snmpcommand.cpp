@@ -130,13 +130,26 @@ void SnmpCommand::take(const SnmpReply& reply)
 {
     m_sinceBefore = m_phase == Phase::Before ? milliseconds(0) : m_sinceBefore + reply.elapsed;
     if (reply.kind == SnmpReply::Kind::Refusal && m_phase != Phase::Undo)
-        finish(CommandOutcome::Refused, reply.message);
+        takeRefusal(reply.message);
     else if (m_phase == Phase::Set)
         takeSet(reply);
     else if (m_phase == Phase::Undo)
         m_phase = Phase::Done; // the result stands already
     else
         takeLook(reply);
+}
+
+// An agent that turns away the user only now has taken what was set before.
+void SnmpCommand::takeRefusal(const QString& cause)
+{
+    if (m_phase == Phase::After)
+        return finish(CommandOutcome::Unknown,
+                      tr("%1. The command was sent before; look at the readings before sending it "
+                         "again.")
+                          .arg(cause));
+    finish(CommandOutcome::Refused, cause);
+    if (!m_undo.empty())
+        m_phase = Phase::Undo;
 }
 
 void SnmpCommand::takeLook(const SnmpReply& reply)

@@ -46,6 +46,7 @@ private:
     std::optional<qint64> number(const SnmpOid& object) const;
     std::optional<qint64> numberBefore(const SnmpOid& object) const;
 
+    void takeRefusal(const QString& cause);
     void takeLook(const SnmpReply& reply);
     void set(const SnmpOid& object, int value);
     void prepareTest();
