@@ -347,6 +347,16 @@ void TestFleet::ageCountsFromTheQuestion()
     desk.connectors[0]->answer(LinkState::Live, onMains());
     QCOMPARE(device->ageMs(), qint64(8 * 3600 * 1000));
     QCOMPARE(device->link(), LinkState::Stale);
+
+    // The poll was given up, and the next one asked for, before its answer came.
+    desk.clock.monotonic += 5000;
+    desk.fleet.pollNow(device);
+    QTRY_COMPARE(desk.connectors[0]->polls, 2);
+    desk.clock.suspended += 8 * 3600 * 1000;
+    QTRY_COMPARE(desk.connectors[0]->polls, 3);
+    desk.connectors[0]->answer(LinkState::Live, onMains());
+    QCOMPARE(device->ageMs(), qint64(8 * 3600 * 1000));
+    QTRY_COMPARE(desk.connectors[0]->polls, 4); // the third went unheard
 }
 
 void TestFleet::oneLostPollOfARareOneIsNoSilence()
@@ -438,6 +448,8 @@ void TestFleet::endlessTestIsAnOutage()
     reading.alarms = {Alarm::TestInProgress};
     reading.outputSource = OutputSource::Battery;
     QCOMPARE(kindAfter(5), ConditionKind::BatteryTest); // a test of its own
+    reading.alarmAges = {{Alarm::TestInProgress, 601}};
+    QCOMPARE(kindAfter(5), ConditionKind::Battery); // it began before the desk did
 }
 
 void TestFleet::thresholdsReachEveryDevice()

@@ -243,6 +243,9 @@ private slots:
             const UpsReading reading = readingFromSnmp(table.objects);
             QVERIFY2(reading.alarmAges.value(Alarm::TemperatureBad, -1) == row.age, row.times);
         }
+        SnmpTable testing = threePhase(); // a test that draws on the battery is as old as that
+        testing.load("4.1.0 i 5\n7.3.0 i 5\n2.2.0 i 3600");
+        QCOMPARE(readingFromSnmp(testing.objects).alarmAges.value(Alarm::TestInProgress), 3600.0);
     }
 
     // Whatever the agent's habits: the same reading, within the time of a poll, and the next poll

@@ -24,7 +24,7 @@ Device::Device(const DeviceSettings& settings, std::unique_ptr<Connector> connec
     , m_plan(settings.pollInterval * kMsPerSecond, firstDueMs)
 {
     noteCondition();
-    connect(m_connector.get(), &Connector::polled, this, &Device::takeResult);
+    connect(m_connector.get(), &Connector::polled, this, &Device::takeAnswer);
     connect(m_connector.get(), &Connector::commandFinished, this, &Device::commandFinished);
 }
 
@@ -108,6 +108,8 @@ QMap<int, QVariant> Device::snapshot(SnapshotPage page) const
 void Device::startPoll()
 {
     m_pollStarted = m_clock.bootMs();
+    if (m_askedMs < 0)
+        m_askedMs = m_pollStarted;
     m_connector->poll();
 }
 
@@ -130,7 +132,7 @@ void Device::checkPollLimit()
         PollResult silence;
         silence.state = LinkState::Lost;
         silence.message = tr("The poll was not answered in time.");
-        takeResult(silence);
+        noteResult(silence, m_pollStarted);
     }
 }
 
@@ -145,11 +147,23 @@ void Device::planNext(LinkState state)
         m_plan.hurry(m_clock.monotonicMs());
 }
 
+// An answer may have been under way for long: the machine may have slept meanwhile. Where its poll
+// was given up before, the connector has not begun the next one.
+void Device::takeAnswer(const PollResult& result)
+{
+    const qint64 asked = m_askedMs >= 0 ? m_askedMs : m_clock.bootMs();
+    m_askedMs = -1;
+    m_followUp = m_followUp || (isPolling() && asked != m_pollStarted);
+    noteResult(result, asked);
+}
+
 void Device::takeResult(const PollResult& result)
 {
-    // An answer may have been under way for long: the machine may have slept meanwhile.
-    const qint64 asked =
-        result.askedBootMs.value_or(isPolling() ? m_pollStarted : m_clock.bootMs());
+    noteResult(result, result.askedBootMs.value_or(m_clock.bootMs()));
+}
+
+void Device::noteResult(const PollResult& result, qint64 askedBootMs)
+{
     m_pollStarted = -1;
     planNext(result.state);
     m_security = result.security;
@@ -160,7 +174,7 @@ void Device::takeResult(const PollResult& result)
         m_message = cleanDeviceText(result.message);
     }
     if (result.state == LinkState::Live)
-        takeReading(result.reading, asked);
+        takeReading(result.reading, askedBootMs);
     m_judgedLink.reset();
     noteCondition();
     emit polled();
@@ -178,12 +192,20 @@ void Device::takeReading(const UpsReading& reading, qint64 askedBootMs)
         m_testSinceMs = -1;
     else if (m_testSinceMs < 0)
         m_testSinceMs = askedBootMs;
-    m_past.testSeconds =
-        m_testSinceMs < 0 ? 0 : static_cast<double>(askedBootMs - m_testSinceMs) / kMsPerSecond;
+    m_past.testSeconds = testSeconds(askedBootMs);
     // A test that does not end is an outage on every page.
     if (m_reading->outputSource == OutputSource::Battery &&
         !isExcusedByTest(*m_reading, m_past.testSeconds))
         m_reading->alarms.insert(Alarm::OnBattery);
+}
+
+// A desk that has just started has seen nothing yet: then the device's own clock tells.
+double Device::testSeconds(qint64 nowBootMs) const
+{
+    if (m_testSinceMs < 0)
+        return 0;
+    return std::max(static_cast<double>(nowBootMs - m_testSinceMs) / kMsPerSecond,
+                    m_reading->alarmAges.value(Alarm::TestInProgress));
 }
 
 // Lists ask for it often, and between two polls only the link can change.

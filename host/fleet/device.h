@@ -66,8 +66,7 @@ public:
     // began before there was a reason to hurry (before a suspend, or a command), so another
     // follows.
     void hurry(qint64 atMs);
-    // What a poll has brought, of this desk or, where the result says when it was asked, of another
-    // one.
+    // What a poll of another desk has brought; it says when it was asked.
     void takeResult(const PollResult& result);
     // Until that monotonic ms nothing hurries the device: what it needs is still to come. 0: it has
     // come.
@@ -96,7 +95,10 @@ private:
     };
 
     void planNext(LinkState state);
+    void takeAnswer(const PollResult& result);
+    void noteResult(const PollResult& result, qint64 askedBootMs);
     void takeReading(const UpsReading& reading, qint64 askedBootMs);
+    double testSeconds(qint64 nowBootMs) const;
     qint64 pollLimitMs() const;
     qint64 freshnessLimitMs() const;
     qint64 shortGapMs() const;
@@ -118,6 +120,7 @@ private:
     std::optional<LinkState> m_judgedLink; // m_noticed was judged by; empty: judge anew
     Noticed m_beforeGap;                   // the last of the device while it was live
     qint64 m_pollStarted = -1;             // boot ms; -1: no poll is under way
+    qint64 m_askedMs = -1; // boot ms at which the poll began whose answer the connector still owes
     qint64 m_heldUntilMs = 0;
     bool m_followUp = false; // poll again when the one under way has ended
 };

@@ -378,5 +378,8 @@ UpsReading readingFromSnmp(const SnmpValues& values)
     const bool onBattery =
         reading.outputSource == OutputSource::Battery || reading.alarms.contains(Alarm::OnBattery);
     reading.secondsOnBattery = onBattery ? numberOf(values, UpsMib::secondsOnBattery) : Value(0.0);
+    // Agents seldom tell when a test began, but how long it has drawn on the battery.
+    if (isBatteryTest(reading))
+        noteAlarm(Alarm::TestInProgress, reading.secondsOnBattery, reading);
     return reading;
 }
