@@ -157,6 +157,8 @@ const struct {
     {"wake-up of an output that is on", "wake-up", "", none, O::Unknown, "was on before", 1},
     {"restart of an output that is off", "restart", "", from("4.1.0 i 2\n8.4.0 i 0", "8.4.0 i 0"),
      O::Unknown, "was off before", 1},
+    {"restart of an output that is off, only noted", "restart", "", with("4.1.0 i 2"), O::Unknown,
+     "was off before", 1},
     {"restart brings the output on", "restart", "",
      from("4.1.0 i 2\n8.4.0 i 0", "4.1.0 i 3\n8.4.0 i 0"), O::Done, "is on", 1},
     {"countdown always reads 0", "shutdown", "", from("8.2.0 i 0", "8.2.0 i 0"), O::Unknown,

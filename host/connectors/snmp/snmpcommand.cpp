@@ -363,10 +363,12 @@ bool SnmpCommand::endedTestShowsResult(qint64 result)
 
 bool SnmpCommand::controlShowsResult()
 {
+    const bool comesOn =
+        m_command.kind == CommandKind::Restart && isOff(numberBefore(outputSource));
     if (outputHasSwitched())
         finish(CommandOutcome::Done,
                isOn(number(outputSource)) ? tr("The output is on.") : tr("The output is off."));
-    else if (countdownHasBegun())
+    else if (!comesOn && countdownHasBegun())
         finish(CommandOutcome::Done,
                tr("The countdown is running, %1 s left.").arg(*number(m_countdown)));
     else
@@ -374,7 +376,7 @@ bool SnmpCommand::controlShowsResult()
     return true;
 }
 
-// An output that was off before a restart has to come on.
+// An output that was off before a restart has to come on; a countdown alone does not show it.
 bool SnmpCommand::outputHasSwitched() const
 {
     const std::optional<qint64> before = numberBefore(outputSource);
