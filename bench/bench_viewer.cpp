@@ -16,7 +16,9 @@
 #include <QCommandLineParser>
 #include <QProcess>
 
+#include <csignal>
 #include <cstdio>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 
 namespace {
@@ -69,6 +71,7 @@ double cpuSeconds()
 // Collectors as they are, but for what viewers have no use of.
 int collect(const Options& options)
 {
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL); // also where the measuring is killed
     std::vector<std::unique_ptr<Fleet>> fleets;
     std::vector<std::unique_ptr<LiveWriter>> writers;
     const StoreAddress store = parseStoreAddress(options.store).address;
