@@ -206,7 +206,7 @@ int main(int argc, char** argv)
     const auto numbered = [](const char* option, int number) {
         return QStringLiteral("--%1=%2").arg(QLatin1String(option)).arg(number);
     };
-    collectors.start(app.applicationFilePath(),
+    collectors.start(QCoreApplication::applicationFilePath(),
                      {"--collect=" + postgres.address().text(),
                       numbered("devices", options.devices), numbered("sites", options.sites),
                       numbered("interval", options.interval)});
