@@ -82,8 +82,12 @@ std::shared_ptr<NutServer> NutServer::of(const DeviceSettings& settings)
     const std::shared_ptr<NetworkThread> thread = NetworkThread::instance();
     auto* made = new NutServer(endpoint);
     made->moveToThread(thread.get());
-    // The thread is held until its server has been told to go.
-    server.reset(made, [thread](NutServer* gone) { gone->deleteLater(); });
+    // The thread is held until its server has been told to go, not until the list above is cleared:
+    // by then there may be no application whose events would delete the server.
+    server.reset(made, [held = thread](NutServer* gone) mutable {
+        gone->deleteLater();
+        held.reset();
+    });
     servers.insert(endpoint.key(), server);
     return server;
 }
