@@ -6,7 +6,7 @@ namespace {
 
 constexpr qint64 kSilenceMs = 30000; // of a server, after which a question is given up
 constexpr int kWatchMs = 1000;
-constexpr unsigned long kEndMs = 500; // for which the end of the program waits for an answer
+constexpr unsigned long kEndMs = 200; // for which the end of the program waits for an answer
 
 } // namespace
 

@@ -80,6 +80,7 @@ void HistoryStore::setSocket(int socket)
 
 void HistoryStore::abort()
 {
+    ++m_aborts;
     QMutexLocker locker(&m_socketMutex);
     if (m_socket >= 0)
         ::shutdown(m_socket, SHUT_RDWR);

@@ -13,6 +13,7 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+#include <atomic>
 #include <map>
 #include <memory>
 
@@ -31,6 +32,8 @@ public:
     void close();
     // From any thread: ends what waits for a server that does not answer, with an error.
     void abort();
+    // How often that was asked for.
+    int aborts() const { return m_aborts; }
     bool isOpen() const { return m_database.isOpen(); }
 
     // A statement with ? for each value, prepared once and kept. Null after an error. The query
@@ -85,6 +88,7 @@ private:
     QString m_name;
     QString m_error;
     bool m_connectionLost = false;
+    std::atomic<int> m_aborts{0};
     QMutex m_socketMutex;
     int m_socket = -1;
     std::map<QString, QSqlQuery> m_prepared;

@@ -22,6 +22,7 @@ constexpr qint64 kForgetPauseMs = 10 * kMsPerMinute;
 constexpr qint64 kClockJumpMs = kMsPerMinute;
 // A server that is silent for so long is not waited for: what happens must get to the disk.
 constexpr qint64 kSilenceMs = 8000;
+constexpr unsigned long kEndMs = 200; // for which the end of the program waits for the store
 constexpr int kWatchMs = 1000;
 
 } // namespace
@@ -61,7 +62,7 @@ void HistoryWriter::stop()
         m_isStopping = true;
     }
     m_wake.wakeAll();
-    while (!m_thread->wait(kSilenceMs))
+    while (!m_thread->wait(kEndMs)) // what is not written by then goes to the spool
         m_store->abort();
     delete m_thread;
     m_thread = nullptr;
@@ -199,8 +200,10 @@ void HistoryWriter::step()
 // What the store does not take now must outlive the program.
 void HistoryWriter::finish()
 {
+    // Another machine's store may be slow to be reached.
+    const bool mayOpen = m_batches || m_options.store.kind == StoreAddress::Kind::Sqlite;
     m_nextTryMs = 0;
-    for (int before = waiting(); before > 0 && isReady(); before = waiting()) {
+    for (int before = waiting(); before > 0 && mayOpen && isReady(); before = waiting()) {
         writeOrPark(takeWaiting(true));
         if (waiting() >= before)
             break;

@@ -1,8 +1,12 @@
 #include "history/postgresstore.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QHostInfo>
 #include <QSqlDriver>
 #include <QSqlError>
+#include <QTimer>
 #include <QVariant>
 
 #include <libpq-fe.h>
@@ -17,6 +21,9 @@ struct Tr {
 // One lock for all that changes tables; any number that no other program uses.
 constexpr qint64 kSchemaLock = 0x757073646573;
 const QString kSystemAuthorities = QStringLiteral("/etc/ssl/certs/ca-certificates.crt");
+
+constexpr int kConnectMs = 5000;
+constexpr int kLookMs = 50; // between looks whether connecting is to be given up
 
 struct Fault {
     const char* code; // SQLSTATE, or how it begins
@@ -35,6 +42,11 @@ constexpr Fault kFaults[] = {
     {"57P", QT_TRANSLATE_NOOP("PostgresStore", "%1 is shutting down or starting up")},
 };
 
+QString quoted(QString value)
+{
+    return QLatin1Char('\'') + value.replace('\\', "\\\\").replace('\'', "\\'") + QLatin1Char('\'');
+}
+
 QStringList optionsOf(const StoreAddress& store)
 {
     QStringList options{
@@ -50,10 +62,7 @@ QStringList optionsOf(const StoreAddress& store)
                                                         : QStringLiteral("sslmode=prefer"));
     const QString& file = store.certificateAuthority;
     return options << QStringLiteral("sslmode=verify-full")
-                   << QStringLiteral("sslrootcert='%1'")
-                          .arg(QString(file.isEmpty() ? kSystemAuthorities : file)
-                                   .replace('\\', "\\\\")
-                                   .replace('\'', "\\'"));
+                   << "sslrootcert=" + quoted(file.isEmpty() ? kSystemAuthorities : file);
 }
 
 } // namespace
@@ -82,10 +91,75 @@ int PostgresStore::waitForNotice(int ms)
     return count;
 }
 
+// Opening waits for names and servers without an end that anybody could bring about. So it is
+// looked first who answers, in a way that can be given up.
+std::optional<QHostAddress> PostgresStore::addressThatAnswers()
+{
+    std::optional<QHostAddress> refusing;
+    for (const QHostAddress& address : addresses()) {
+        const auto isLetIn = letsIn(address);
+        if (isLetIn == true)
+            return address;
+        if (isLetIn && !refusing)
+            refusing = address; // why is told by the attempt that follows
+    }
+    return refusing;
+}
+
+QList<QHostAddress> PostgresStore::addresses()
+{
+    const int before = aborts();
+    QList<QHostAddress> found;
+    QEventLoop loop;
+    QTimer look;
+    const QDeadlineTimer limit(kConnectMs);
+    const int lookup = QHostInfo::lookupHost(m_address.host, &loop, [&](const QHostInfo& info) {
+        found = info.addresses();
+        loop.quit();
+    });
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (aborts() != before || limit.hasExpired())
+            loop.quit();
+    });
+    look.start(kLookMs);
+    loop.exec();
+    QHostInfo::abortHostLookup(lookup);
+    return found;
+}
+
+std::optional<bool> PostgresStore::letsIn(const QHostAddress& address)
+{
+    const int before = aborts();
+    const QStringList settings = optionsOf(m_address) << "host=" + quoted(m_address.host)
+                                                      << "hostaddr=" + address.toString()
+                                                      << "port=" + QString::number(m_address.port)
+                                                      << "user=" + quoted(m_address.user)
+                                                      << "password=" + quoted(m_address.secret)
+                                                      << "dbname=" + quoted(m_address.database);
+    PGconn* link = PQconnectStart(settings.join(QLatin1Char(' ')).toUtf8().constData());
+    const QDeadlineTimer limit(kConnectMs);
+    PostgresPollingStatusType status = PGRES_POLLING_WRITING;
+    while (status != PGRES_POLLING_OK && status != PGRES_POLLING_FAILED && !limit.hasExpired() &&
+           aborts() == before) {
+        pollfd wanted{PQsocket(link), short(status == PGRES_POLLING_READING ? POLLIN : POLLOUT), 0};
+        if (wanted.fd < 0 || ::poll(&wanted, 1, kLookMs) > 0)
+            status = PQconnectPoll(link);
+    }
+    PQfinish(link);
+    if (status != PGRES_POLLING_OK && status != PGRES_POLLING_FAILED)
+        return {};
+    return status == PGRES_POLLING_OK;
+}
+
 bool PostgresStore::connectTo(QSqlDatabase& database, Access access)
 {
     m_partitions.clear();
-    database.setConnectOptions(optionsOf(m_address).join(QLatin1Char(';')));
+    QStringList options = optionsOf(m_address);
+    if (const auto address = addressThatAnswers())
+        options << QStringLiteral("hostaddr=") + address->toString();
+    else
+        return fail(plainFault({}));
+    database.setConnectOptions(options.join(QLatin1Char(';')));
     database.setHostName(m_address.host);
     database.setPort(m_address.port);
     database.setUserName(m_address.user);

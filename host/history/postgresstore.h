@@ -7,7 +7,10 @@
 
 #include "history/historystore.h"
 
+#include <QHostAddress>
 #include <QSet>
+
+#include <optional>
 
 struct pg_conn;
 
@@ -37,6 +40,10 @@ protected:
 
 private:
     pg_conn* connection() const;
+    std::optional<QHostAddress> addressThatAnswers();
+    QList<QHostAddress> addresses();
+    // Empty: it did not answer in time.
+    std::optional<bool> letsIn(const QHostAddress& address);
 
     QSet<QString> m_partitions; // known to be there
 };
