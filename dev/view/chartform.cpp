@@ -5,6 +5,7 @@
 namespace {
 
 constexpr int kSinglePage = 0; // any other index is the three-phase page
+constexpr int kThreePage = 1;
 
 } // namespace
 
@@ -13,6 +14,7 @@ ChartForm::ChartForm(QWidget* parent)
     , ui(new Ui_ChartForm)
 {
     ui->setupUi(this);
+    ui->stackedWidget->setCurrentIndex(kThreePage);
 }
 
 ChartForm::~ChartForm()

@@ -42,7 +42,7 @@ ChildForm::ChildForm(CollectView* parent)
     ui->tabWidget->insertTab(AlarmTab, rtEvent, tr("RT-Alarm"));
     ui->tabWidget->insertTab(DetailTab, rateInfoArea, tr("Detail"));
     ui->tabWidget->insertTab(ControlTab, setInfo, tr("Control"));
-    rateInfo = new RateInfoForm(nullptr);
+    rateInfo = new RateInfoForm(rateInfoArea->viewport());
     rateInfoArea->setWidget(rateInfo);
     // Renamed only now: setupUi connects the slot by the designer's name, style sheets use this
     // one.

@@ -264,7 +264,8 @@ void RateInfoForm::InitRateData()
 
     for (const Panel& panel : kPanels) {
         fillCatalogue(panel);
-        auto* widget = new QWidget;
+        auto* widget = new QWidget(this); // in its place from the start, as all parts are: a part
+                                          // that moves is styled anew with all that is in it
         ShowPanalView(widget, tr(panel.title), this->*panel.rows, this->*panel.labels);
         page->addWidget(widget, panel.row, panel.column);
         page->setColumnStretch(panel.column, 1);
@@ -273,9 +274,9 @@ void RateInfoForm::InitRateData()
 
 namespace {
 
-QLabel* titleOf(const QString& text)
+QLabel* titleOf(const QString& text, QWidget* panel)
 {
-    auto* title = new QLabel(text);
+    auto* title = new QLabel(text, panel);
     title->setObjectName(QStringLiteral("PanelTitle"));
     title->setStyleSheet(QString::fromLatin1(kTitleStyle));
     QFont font;
@@ -289,12 +290,13 @@ QLabel* titleOf(const QString& text)
 // Returns the label of the value.
 QLabel* addRow(QGridLayout* grid, int row, const ParameterInformation& p)
 {
-    auto* name = new QLabel(p.strName);
+    QWidget* body = grid->parentWidget();
+    auto* name = new QLabel(p.strName, body);
     name->setObjectName(QStringLiteral("PanalBodyKeyName"));
     name->setTextFormat(Qt::PlainText);
     auto* value = new ElidedLabel(
         p.strUnit.isEmpty() ? p.strValue : RateInfoForm::tr("%1 %2").arg(p.strValue, p.strUnit),
-        roomFor(p.formatType));
+        roomFor(p.formatType), body);
     value->setObjectName(QStringLiteral("PanalBodyKeyValue"));
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(name, row, NameColumn);
@@ -307,12 +309,12 @@ QLabel* addRow(QGridLayout* grid, int row, const ParameterInformation& p)
 void RateInfoForm::ShowPanalView(QWidget* panel, QString title, QList<ParameterInformation*> rows,
                                  QList<QLabel*>& labels)
 {
-    auto* body = new QWidget;
+    auto* body = new QWidget(panel);
     body->setObjectName(QStringLiteral("PanelBody"));
     auto* layout = new QVBoxLayout(panel);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(titleOf(title));
+    layout->addWidget(titleOf(title, panel));
     layout->addWidget(body, 1); // all height beyond the title
 
     auto* grid = new QGridLayout(body);

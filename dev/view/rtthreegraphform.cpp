@@ -1,6 +1,8 @@
 #include "rtthreegraphform.h"
 
 #include "chartpage.h"
+#include "threedynamicchart.h"
+#include "trendlegend.h"
 #include "ui_rtthreegraphform.h"
 
 #include <algorithm>
@@ -34,61 +36,111 @@ constexpr Gauge kGauges[] = {
      QT_TRANSLATE_NOOP("RTThreeGraphForm", "Battery current(A)"), realdata_BatCurrent, true},
 };
 
-// By series id within each chart.
+enum Tab { InputTab, OutputTab, BypassTab };
+
+// Object names beside the page's, by which style sheets and tests find the parts of a tab.
+struct TabRow {
+    QWidget* Form::*page;
+    const char* chart;
+    const char* leftScale;
+    const char* rightScale;
+    const char* caption; // of the first entry; the others count on from _2
+};
+
+constexpr TabRow kTabs[] = {
+    {&Form::tab, "widget_in", "label_input_left", "label_input_right", "label_input_vol"},
+    {&Form::tab_2, "widget_out", "label_output_vol_5", "label_output_vol_6", "label_output_vol"},
+    {&Form::tab_3, "widget_bypass", "label_bypass_vol_5", "label_bypass_vol_6", "label_bypass_vol"},
+};
+
+// By series id within each tab.
 struct Trend {
-    ThreeDynamicChart* Form::*chart;
+    Tab tab;
     int series;
     int curveKey;
-    QLabel* Form::*label;
-    QLabel* Form::*value;
+    const char* caption;
+    const char* value; // object name of its label
     int legendKey;
     bool tenths;
     const char* initial;
 };
 
+constexpr char kVoltageR[] = QT_TRANSLATE_NOOP("RTThreeGraphForm", "Voltage R(V)");
+constexpr char kVoltageS[] = QT_TRANSLATE_NOOP("RTThreeGraphForm", "Voltage S(V)");
+constexpr char kVoltageT[] = QT_TRANSLATE_NOOP("RTThreeGraphForm", "Voltage T(V)");
+constexpr char kFrequencyR[] = QT_TRANSLATE_NOOP("RTThreeGraphForm", "Frequency R(Hz)");
+constexpr char kFrequencyS[] = QT_TRANSLATE_NOOP("RTThreeGraphForm", "Frequency S(Hz)");
+constexpr char kFrequencyT[] = QT_TRANSLATE_NOOP("RTThreeGraphForm", "Frequency T(Hz)");
+constexpr char kFrequency[] = QT_TRANSLATE_NOOP("RTThreeGraphForm", "Frequency(Hz)");
 constexpr char kZero[] = "(0)";
 constexpr char kZeroTenths[] = "(0.0)";
 
 constexpr Trend kTrends[] = {
-    {&Form::widget_in, 0, realdata_InputVoltage_A, &Form::label_input_vol, &Form::inVol1,
-     realdata_InputVoltage_A, false, kZero},
-    {&Form::widget_in, 1, realdata_InputVoltage_B, &Form::label_input_vol_2, &Form::inVol2,
-     realdata_InputVoltage_B, false, kZero},
-    {&Form::widget_in, 2, realdata_InputVoltage_C, &Form::label_input_vol_3, &Form::inVol3,
-     realdata_InputVoltage_C, false, kZero},
-    {&Form::widget_in, 3, realdata_InputFre_A, &Form::label_input_vol_4, &Form::inFre1,
-     realdata_InputFre_A, true, kZeroTenths},
-    {&Form::widget_in, 4, realdata_InputFre_B, &Form::label_input_vol_5, &Form::inFre2,
-     realdata_InputFre_B, true, kZeroTenths},
-    {&Form::widget_in, 5, realdata_InputFre_C, &Form::label_input_vol_6, &Form::inFre3,
-     realdata_InputFre_C, true, kZeroTenths},
+    {InputTab, 0, realdata_InputVoltage_A, kVoltageR, "inVol1", realdata_InputVoltage_A, false,
+     kZero},
+    {InputTab, 1, realdata_InputVoltage_B, kVoltageS, "inVol2", realdata_InputVoltage_B, false,
+     kZero},
+    {InputTab, 2, realdata_InputVoltage_C, kVoltageT, "inVol3", realdata_InputVoltage_C, false,
+     kZero},
+    {InputTab, 3, realdata_InputFre_A, kFrequencyR, "inFre1", realdata_InputFre_A, true,
+     kZeroTenths},
+    {InputTab, 4, realdata_InputFre_B, kFrequencyS, "inFre2", realdata_InputFre_B, true,
+     kZeroTenths},
+    {InputTab, 5, realdata_InputFre_C, kFrequencyT, "inFre3", realdata_InputFre_C, true,
+     kZeroTenths},
 
-    {&Form::widget_out, 0, realdata_OutputVoltage_A, &Form::label_output_vol, &Form::outVol1,
-     realdata_OutputVoltage_A, false, kZero},
-    {&Form::widget_out, 1, realdata_OutputVoltage_B, &Form::label_output_vol_2, &Form::outVol2,
-     realdata_OutputVoltage_B, false, kZero},
-    {&Form::widget_out, 2, realdata_OutputVoltage_C, &Form::label_output_vol_3, &Form::outVol3,
-     realdata_OutputVoltage_C, false, kZero},
-    {&Form::widget_out, 3, realdata_OutputFre, &Form::label_output_vol_4, &Form::outFre,
-     realdata_OutputFre, true, kZero},
+    {OutputTab, 0, realdata_OutputVoltage_A, kVoltageR, "outVol1", realdata_OutputVoltage_A, false,
+     kZero},
+    {OutputTab, 1, realdata_OutputVoltage_B, kVoltageS, "outVol2", realdata_OutputVoltage_B, false,
+     kZero},
+    {OutputTab, 2, realdata_OutputVoltage_C, kVoltageT, "outVol3", realdata_OutputVoltage_C, false,
+     kZero},
+    {OutputTab, 3, realdata_OutputFre, kFrequency, "outFre", realdata_OutputFre, true, kZero},
 
-    {&Form::widget_bypass, 0, realdata_BypVoltage_A, &Form::label_bypass_vol, &Form::byVol1,
-     realdata_BypVoltage_A, false, kZero},
-    {&Form::widget_bypass, 1, realdata_BypVoltage_B, &Form::label_bypass_vol_2, &Form::byVol2,
-     realdata_BypVoltage_B, false, kZero},
+    {BypassTab, 0, realdata_BypVoltage_A, kVoltageR, "byVol1", realdata_BypVoltage_A, false, kZero},
+    {BypassTab, 1, realdata_BypVoltage_B, kVoltageS, "byVol2", realdata_BypVoltage_B, false, kZero},
     // Phase C is not charted: its curve repeats phase B. Its legend does show phase C.
-    {&Form::widget_bypass, 2, realdata_BypVoltage_B, &Form::label_bypass_vol_3, &Form::byVol3,
-     realdata_BypVoltage_C, false, kZero},
-    {&Form::widget_bypass, 3, realdata_BypFre, &Form::label_bypass_vol_4, &Form::byFre,
-     realdata_BypFre, true, kZero},
+    {BypassTab, 2, realdata_BypVoltage_B, kVoltageT, "byVol3", realdata_BypVoltage_C, false, kZero},
+    {BypassTab, 3, realdata_BypFre, kFrequency, "byFre", realdata_BypFre, true, kZero},
 };
 
 // What a curve really shows, which is not always the legend entry of its own colour.
-QLabel* Form::*nameOf(const Trend& curve)
+const char* nameOf(const Trend& curve)
 {
     return std::find_if(std::begin(kTrends), std::end(kTrends),
                         [&](const Trend& row) { return row.legendKey == curve.curveKey; })
-        ->label;
+        ->caption;
+}
+
+// The lines of all entries and the one below each legend are numbered through all tabs.
+QString lineName(int tab, int entries)
+{
+    constexpr int kFirst = 3;
+    return QStringLiteral("line_%1").arg(kFirst + tab + entries);
+}
+
+QString captionName(const TabRow& tab, int series)
+{
+    const QString first = QLatin1String(tab.caption);
+    return series == 0 ? first : first + QStringLiteral("_%1").arg(series + 1);
+}
+
+QFrame* makeSeparator(const QString& name, QWidget* parent)
+{
+    auto* line = new QFrame(parent);
+    line->setObjectName(name);
+    line->setFrameStyle(QFrame::HLine | QFrame::Plain);
+    return line;
+}
+
+ThreeDynamicChart* makeChart(const char* name, QWidget* parent)
+{
+    constexpr QSize kLeast{700, 260};
+    auto* chart = new ThreeDynamicChart(parent);
+    chart->setObjectName(QLatin1String(name));
+    chart->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    chart->setMinimumSize(kLeast);
+    return chart;
 }
 
 } // namespace
@@ -101,19 +153,42 @@ RTThreeGraphForm::RTThreeGraphForm(QWidget* parent)
     for (const Gauge& row : kGauges)
         chartpage::setCaption(ui->*row.gauge, ui->*row.label, tr(row.caption));
     // The gauges keep their own scale and bands until values come: only these decide the scale.
-
-    QMap<ThreeDynamicChart*, QStringList> names;
-    for (const Trend& row : kTrends) {
-        names[ui->*row.chart].append((ui->*nameOf(row))->text());
-        chartpage::showLegend(ui->*row.value, ui->*row.label, (ui->*row.value)->text());
-    }
-    ThreeDynamicChart* const charts[] = {ui->widget_in, ui->widget_out, ui->widget_bypass};
-    int page = 0;
-    for (ThreeDynamicChart* chart : charts) {
-        chart->setSeriesNames(names.value(chart));
-        chart->setCaption(ui->tabWidget->tabText(page++));
-    }
+    for (int tab = InputTab; tab <= BypassTab; ++tab)
+        fillTab(tab);
     chartpage::setPageLook(this);
+}
+
+// In its place, after the page was put into the tabs: a page that moves is styled anew with all
+// that is in it.
+void RTThreeGraphForm::fillTab(int tab)
+{
+    constexpr int kSpacing = 4; // px
+    const TabRow& row = kTabs[tab];
+    QWidget* page = ui->*row.page;
+    auto* legend = new TrendLegend(row.leftScale, row.rightScale, page);
+    QStringList names;
+    for (const Trend& trend : kTrends) {
+        if (trend.tab != tab)
+            continue;
+        const TrendLegend::Entry entry = legend->add(trend.series, captionName(row, trend.series),
+                                                     trend.value, lineName(tab, m_values.size()));
+        entry.caption->setText(tr(trend.caption));
+        m_captions.append(entry.caption);
+        m_values.append(entry.value);
+        showEntry(m_values.size() - 1, QLatin1String(trend.initial));
+        names.append(tr(nameOf(trend)));
+    }
+    ThreeDynamicChart* chart = makeChart(row.chart, page);
+    chart->setSeriesNames(names);
+    chart->setCaption(ui->tabWidget->tabText(tab));
+    m_charts.append(chart);
+
+    auto* column = new QVBoxLayout(page);
+    column->setSpacing(kSpacing);
+    column->setContentsMargins(kSpacing, kSpacing, kSpacing, kSpacing);
+    column->addWidget(legend);
+    column->addWidget(makeSeparator(lineName(tab, m_values.size()), page));
+    column->addWidget(chart, 1);
 }
 
 RTThreeGraphForm::~RTThreeGraphForm()
@@ -145,10 +220,11 @@ void RTThreeGraphForm::InitRtChart()
 {
     for (const Gauge& row : kGauges)
         chartpage::setValue(ui->*row.gauge, 0);
-    for (const Trend& row : kTrends) {
-        chartpage::showLegend(ui->*row.value, ui->*row.label, QLatin1String(row.initial));
-        (ui->*row.chart)->initValue();
-    }
+    int entry = 0;
+    for (const Trend& row : kTrends)
+        showEntry(entry++, QLatin1String(row.initial));
+    for (ThreeDynamicChart* chart : qAsConst(m_charts))
+        chart->initValue();
 }
 
 void RTThreeGraphForm::RefreshRtChartInfo(QMap<int, QVariant> snapshot)
@@ -157,10 +233,16 @@ void RTThreeGraphForm::RefreshRtChartInfo(QMap<int, QVariant> snapshot)
     configureGauges(chartpage::reading(values, realdata_BatVoltage, true));
     for (const Gauge& row : kGauges)
         chartpage::setValue(ui->*row.gauge, chartpage::reading(values, row.key, row.tenths));
+    int entry = 0;
     for (const Trend& row : kTrends) {
-        (ui->*row.chart)->addData(row.series, chartpage::reading(values, row.curveKey, row.tenths));
-        chartpage::showLegend(
-            ui->*row.value, ui->*row.label,
-            chartpage::legendText(tr("Current value:"), values, row.legendKey, row.tenths));
+        m_charts.at(row.tab)->addData(row.series,
+                                      chartpage::reading(values, row.curveKey, row.tenths));
+        showEntry(entry++,
+                  chartpage::legendText(tr("Current value:"), values, row.legendKey, row.tenths));
     }
+}
+
+void RTThreeGraphForm::showEntry(int entry, const QString& text)
+{
+    chartpage::showLegend(m_values.at(entry), m_captions.at(entry), text);
 }

@@ -9,8 +9,11 @@
 
 #include <QMap>
 #include <QVariant>
+#include <QVector>
 #include <QWidget>
 
+class QLabel;
+class ThreeDynamicChart;
 class Ui_RTThreeGraphForm;
 
 class DEVVIEW_EXPORT RTThreeGraphForm : public QWidget
@@ -31,9 +34,14 @@ public:
     void RefreshRtChartInfo(QMap<int, QVariant> snapshot);
 
 private:
+    void fillTab(int tab);
     void configureGauges(double batteryVoltage);
+    void showEntry(int entry, const QString& text);
 
     Ui_RTThreeGraphForm* ui;
+    QVector<ThreeDynamicChart*> m_charts; // by tab
+    QVector<QLabel*> m_captions;          // of the legends' entries, through all tabs
+    QVector<QLabel*> m_values;
 };
 
 #endif // RTTHREEGRAPHFORM_H
