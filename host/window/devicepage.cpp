@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -78,6 +79,7 @@ const QVector<DevicePage::Page>& DevicePage::pages()
 struct DevicePage::ViewRow {
     const char* title;
     QWidget* (DevicePage::*make)();
+    void (DevicePage::*fit)();
     void (DevicePage::*feed)();
     bool isMadeAhead;     // it has something to gather before it is opened
     bool showsThePresent; // needs a reading, and is covered while that is not live
@@ -85,10 +87,14 @@ struct DevicePage::ViewRow {
 
 // In the order of View.
 const DevicePage::ViewRow DevicePage::kViews[] = {
-    {QT_TR_NOOP("Device"), &DevicePage::makeDeviceView, &DevicePage::feedDeviceView, false, true},
-    {QT_TR_NOOP("Charts"), &DevicePage::makeCharts, &DevicePage::feedCharts, true, true},
-    {QT_TR_NOOP("Table"), &DevicePage::makeTable, &DevicePage::feedTable, false, true},
-    {QT_TR_NOOP("History"), &DevicePage::makeHistory, &DevicePage::feedHistory, false, false},
+    {QT_TR_NOOP("Device"), &DevicePage::makeDeviceView, &DevicePage::fitDeviceView,
+     &DevicePage::feedDeviceView, false, true},
+    {QT_TR_NOOP("Charts"), &DevicePage::makeCharts, &DevicePage::fitCharts, &DevicePage::feedCharts,
+     true, true},
+    {QT_TR_NOOP("Table"), &DevicePage::makeTable, &DevicePage::fitTable, &DevicePage::feedTable,
+     false, true},
+    {QT_TR_NOOP("History"), &DevicePage::makeHistory, &DevicePage::fitHistory,
+     &DevicePage::feedHistory, false, false},
 };
 
 DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
@@ -135,7 +141,11 @@ DevicePage::DevicePage(Device& device, CommandDesk& desk, QWidget* parent)
 
 QWidget* DevicePage::makeDeviceView()
 {
-    m_view = new ChildForm;
+    return m_view = new ChildForm;
+}
+
+void DevicePage::fitDeviceView()
+{
     m_view->findChild<Energyline*>()->setAttribute(Qt::WA_StyledBackground);
     m_view->setName(m_device.name());
     giveThemeGrounds(*m_view);
@@ -154,32 +164,42 @@ QWidget* DevicePage::makeDeviceView()
                 m_desk.post(&m_device, code, command);
             });
     m_view->setMinimumSize(kWholeDiagram);
-    return m_view;
 }
+
+// Those that take a parent are made in their place and spare the move.
 
 QWidget* DevicePage::makeCharts()
 {
-    auto* charts = new ChartForm(nullptr);
-    charts->setCurrentName(m_device.name());
-    giveThemeGrounds(*charts);
-    m_chartFeed = new ChartFeed(m_device, *charts, charts);
+    return m_charts = new ChartForm(m_buildings.at(ChartView).place->viewport());
+}
+
+void DevicePage::fitCharts()
+{
+    m_charts->setCurrentName(m_device.name());
+    giveThemeGrounds(*m_charts);
+    m_chartFeed = new ChartFeed(m_device, *m_charts, m_charts);
     m_chartFeed->setReader(m_reader);
-    return charts;
 }
 
 QWidget* DevicePage::makeTable()
 {
-    m_table = new RTDataForm;
+    return m_table = new RTDataForm(m_buildings.at(TableView).place->viewport());
+}
+
+void DevicePage::fitTable()
+{
     m_table->setCurrentName(m_device.name());
     m_table->InitRTDataFormInfo();
-    return m_table;
 }
 
 QWidget* DevicePage::makeHistory()
 {
-    m_history = new HistoryPage(m_device);
+    return m_history = new HistoryPage(m_device, m_buildings.at(HistoryView).place->viewport());
+}
+
+void DevicePage::fitHistory()
+{
     m_history->setReader(m_reader);
-    return m_history;
 }
 
 void DevicePage::setHistory(HistoryReader* reader)
@@ -209,22 +229,46 @@ void DevicePage::buildPiece()
     m_builder.stop();
 }
 
+// Each takes some ms of the GUI thread; most of that is for styling every part of a view, by the
+// style sheets above it.
+const DevicePage::Step DevicePage::kSteps[] = {&DevicePage::make, &DevicePage::fit,
+                                               &DevicePage::moveIn, &DevicePage::putOnShow,
+                                               &DevicePage::feed};
+
+bool DevicePage::isReady(int view) const
+{
+    return m_buildings.at(view).stepsDone == static_cast<int>(std::size(kSteps));
+}
+
 bool DevicePage::buildPieceOf(int view)
 {
-    Building& building = m_buildings[view];
-    if (building.isReady)
+    if (isReady(view))
         return false;
-    if (!building.widget) {
-        building.widget = (this->*kViews[view].make)();
-        return true;
-    }
-    if (!building.place->widget()) {
-        building.place->setWidget(building.widget);
-        return true;
-    }
-    building.isReady = true;
-    feed(view);
+    const Step step = kSteps[m_buildings[view].stepsDone++];
+    (this->*step)(view);
     return true;
+}
+
+void DevicePage::make(int view)
+{
+    m_buildings[view].widget = (this->*kViews[view].make)();
+}
+
+void DevicePage::fit(int view)
+{
+    (this->*kViews[view].fit)();
+}
+
+void DevicePage::moveIn(int view)
+{
+    Building& building = m_buildings[view];
+    if (building.widget->parent() != building.place->viewport())
+        building.widget->setParent(building.place->viewport());
+}
+
+void DevicePage::putOnShow(int view)
+{
+    m_buildings[view].place->setWidget(m_buildings[view].widget);
 }
 
 void DevicePage::finishViews()
@@ -342,7 +386,7 @@ void DevicePage::refresh()
 
 void DevicePage::feed(int view)
 {
-    if (m_buildings.at(view).isReady && (m_device.reading() || !kViews[view].showsThePresent))
+    if (isReady(view) && (m_device.reading() || !kViews[view].showsThePresent))
         (this->*kViews[view].feed)();
 }
 

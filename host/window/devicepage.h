@@ -13,6 +13,7 @@
 #include <QWidget>
 
 class ChartFeed;
+class ChartForm;
 class ChildForm;
 class ControlNotice;
 class DeviceHeading;
@@ -84,22 +85,33 @@ private:
     struct ViewRow;
     static const ViewRow kViews[];
 
-    // A view on its way: made, then put into its place, then fed.
+    // A view on its way: kSteps, one after the other.
     struct Building {
         QScrollArea* place = nullptr; // in the stack
         QWidget* widget = nullptr;    // null: not begun
-        bool isReady = false;
+        int stepsDone = 0;
     };
+    using Step = void (DevicePage::*)(int view);
+    static const Step kSteps[];
 
     QWidget* makeDeviceView();
     QWidget* makeCharts();
     QWidget* makeTable();
     QWidget* makeHistory();
+    void fitDeviceView();
+    void fitCharts();
+    void fitTable();
+    void fitHistory();
     void feedDeviceView();
     void feedCharts();
     void feedTable();
     void feedHistory();
 
+    bool isReady(int view) const;
+    void make(int view);
+    void fit(int view);
+    void moveIn(int view);
+    void putOnShow(int view);
     void buildPiece();
     // Takes the view one piece further; false: it is ready.
     bool buildPieceOf(int view);
@@ -117,6 +129,7 @@ private:
     ControlNotice* m_notice;
     LinkCover* m_cover;
     ChildForm* m_view = nullptr;
+    ChartForm* m_charts = nullptr;
     QTabWidget* m_viewPages = nullptr; // the device view's own tabs
     ChartFeed* m_chartFeed = nullptr;
     RTDataForm* m_table = nullptr;
