@@ -3,6 +3,7 @@
 
 #include "globalvar.h"
 #include "rtdataform.h"
+#include "support/quietplatform.h"
 
 #include <QTableWidget>
 #include <QtTest>
@@ -21,6 +22,17 @@ public:
     {
         const QTableWidgetItem* item = table()->item(row, column);
         return item ? item->text() : QStringLiteral("(no item)");
+    }
+    // Each text anew, one by one, as the table's own way is.
+    void writePlainly(const Probe& other)
+    {
+        for (int row = 1; row < table()->rowCount(); ++row)
+            for (int column : {1, 2})
+                table()->setItem(row, column, new QTableWidgetItem(other.text(row, column)));
+    }
+    QVector<int> widths() const
+    {
+        return {table()->columnWidth(0), table()->columnWidth(1), table()->columnWidth(2)};
     }
     // Of the rows 1 to 22.
     QString column(int column) const
@@ -53,11 +65,13 @@ class TestRTDataForm : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { dropRemarksOfThePlatform(); }
     void everyValue();
     void everyLabel();
     void blocksDecideAlone();
     void codesAndNumbers();
     void shortTableStaysShort();
+    void columnsFollowTheTexts();
 };
 
 void TestRTDataForm::everyValue()
@@ -161,6 +175,29 @@ void TestRTDataForm::shortTableStaysShort()
             hidden << row;
     }
     QCOMPARE(hidden, QVector<int>({2, 3, 6, 10, 12, 16, 17, 21, 22}));
+}
+
+void TestRTDataForm::columnsFollowTheTexts()
+{
+    Snapshot lengthy = distinctValues(3);
+    lengthy[realdata_OutputVoltage_A] = lengthy[realdata_OutputVoltage_B] = 2000000000;
+    for (int kind = 0; kind < 4; ++kind) { // shown or hidden, with all rows or the short table
+        Probe form, plain;
+        for (Probe* each : {&form, &plain}) {
+            if (kind & 1)
+                each->InitRTData();
+            each->setVisible(kind & 2);
+        }
+        QSet<int> valueWidths;
+        for (const Snapshot& snapshot : {distinctValues(3), lengthy, distinctValues(1)}) {
+            form.RefreshRTDataInfo(snapshot);
+            plain.writePlainly(form);
+            QCoreApplication::processEvents();
+            QCOMPARE(form.widths(), plain.widths());
+            valueWidths << form.widths().at(2);
+        }
+        QCOMPARE(valueWidths.size(), 3);
+    }
 }
 
 QTEST_MAIN(TestRTDataForm)

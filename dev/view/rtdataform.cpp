@@ -4,6 +4,7 @@
 #include "valuetext.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -154,6 +155,38 @@ QString textOfCode(const QVector<QString>& texts, int code, int otherwise)
     return texts.at(known ? code - 1 : otherwise);
 }
 
+// Tells the row's label, which has the unit, with the value. Put together when a reader asks.
+class ValueItem : public QTableWidgetItem
+{
+public:
+    using QTableWidgetItem::QTableWidgetItem;
+
+    QVariant data(int role) const override
+    {
+        if (role != Qt::AccessibleTextRole)
+            return QTableWidgetItem::data(role);
+        const QTableWidgetItem* label = tableWidget()->item(row(), LabelColumn);
+        return QString(label->text() + QLatin1String(": ") + text());
+    }
+};
+
+// Lets the columns follow their contents once, after all texts are written: else each text
+// measures all columns anew.
+class HeldColumns
+{
+public:
+    explicit HeldColumns(QTableWidget* table)
+        : m_header(table->horizontalHeader())
+    {
+        m_header->setSectionResizeMode(QHeaderView::Fixed);
+    }
+    ~HeldColumns() { m_header->setSectionResizeMode(QHeaderView::ResizeToContents); }
+    Q_DISABLE_COPY(HeldColumns)
+
+private:
+    QHeaderView* m_header;
+};
+
 void setupTable(QTableWidget* table)
 {
     table->setColumnCount(ColumnCount);
@@ -235,6 +268,7 @@ void RTDataForm::InitRTDataFormInfo()
 
 void RTDataForm::RefreshRTDataInfo(QMap<int, QVariant> data)
 {
+    const HeldColumns held(ui->tableWidget);
     Show_RTData_View(data);
 }
 
@@ -281,16 +315,22 @@ void RTDataForm::Show_RTData_View(QMap<int, QVariant> data)
 
 void RTDataForm::setText(int row, int column, const QString& text)
 {
-    ui->tableWidget->setItem(row, column, new QTableWidgetItem(text));
+    setItem(row, column, new QTableWidgetItem(text));
 }
 
-// The row's label, which has the unit, is told with the value.
 void RTDataForm::setValue(int row, const QString& text)
 {
-    setText(row, ValueColumn, text);
-    const QString label = ui->tableWidget->item(row, LabelColumn)->text();
-    ui->tableWidget->item(row, ValueColumn)
-        ->setData(Qt::AccessibleTextRole, QString(label + QLatin1String(": ") + text));
+    setItem(row, ValueColumn, new ValueItem(text));
+}
+
+// A cell whose text stays the same is not painted again.
+void RTDataForm::setItem(int row, int column, QTableWidgetItem* item)
+{
+    QTableWidget* table = ui->tableWidget;
+    const QTableWidgetItem* shown = table->item(row, column);
+    const bool same = shown && shown->text() == item->text();
+    const QSignalBlocker quiet(same ? table->model() : nullptr);
+    table->setItem(row, column, item);
 }
 
 // The columns of phases S and T. The table has none since it joins the phases in one cell; the

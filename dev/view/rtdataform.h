@@ -14,6 +14,7 @@
 #include <QVector>
 #include <QWidget>
 
+class QTableWidgetItem;
 class RealTimeBlock;
 class Ui_RTDataForm;
 
@@ -50,6 +51,7 @@ private:
     void Show_RTData_View(QMap<int, QVariant> data);
     void setText(int row, int column, const QString& text);
     void setValue(int row, const QString& text);
+    void setItem(int row, int column, QTableWidgetItem* item);
     void markPhaseColumns(bool shown);
 };
 
