@@ -4,9 +4,12 @@
 #include "globalvar.h"
 #include "support/recordingdevice.h"
 
+#include <QRandomGenerator>
+#include <QScreen>
 #include <QTimer>
 #include <QtTest>
 
+#include <functional>
 #include <limits>
 
 namespace {
@@ -25,6 +28,7 @@ public:
     using Energyline::advanceFlow, Energyline::m_offset, Energyline::timer;
     using Energyline::bat_Cap, Energyline::bat_State, Energyline::bat_Temp;
     using Energyline::drawBase, Energyline::drawBattery, Energyline::drawdate, Energyline::drawflow;
+    using Energyline::normalValue, Energyline::ups_Name;
     using Layer = void (Page::*)(QPainter*);
     using Flags = QVector<QPair<const char*, bool Energyline::*>>;
     static const Flags kFlows, kPanels; // in the order of their drawing
@@ -45,7 +49,7 @@ public:
         for (auto [name, flag] : flags)
             this->*flag = names.split(' ').contains(name);
     }
-    int paints = 0;
+    QRegion painted; // last
     QPointF middle() const { return QPoint(width() / 2, height() / 2); }
 
     // One layer of the page as primitives.
@@ -60,7 +64,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override
     {
-        ++paints;
+        painted = event->region();
         Energyline::paintEvent(event);
     }
 };
@@ -124,6 +128,9 @@ private slots:
     void flowsBySource();
     void clicks();
     void animation();
+    void stepsPaintWhatChanged();
+    void stepsShowWhatAPaintShows_data();
+    void stepsShowWhatAPaintShows();
     void diagram();
     void flowLines();
     void batterySymbol();
@@ -218,11 +225,11 @@ void TestEnergyline::animation()
     QCOMPARE(page.timer->interval(), 100);
     page.show();
     QTRY_VERIFY(page.m_offset < 0.0F); // without any new data
+    page.hide();
+    QTRY_VERIFY(!page.timer->isActive()); // for nobody
+    page.show();
+    QTRY_VERIFY(page.timer->isActive());
     page.timer->stop();
-    QCoreApplication::processEvents();
-    page.paints = 0;
-    page.advanceFlow();
-    QTRY_COMPARE(page.paints, 1); // each step shows
     page.m_offset = 0.0F;
     page.advanceFlow();
     QCOMPARE(page.m_offset, -0.4F);
@@ -231,6 +238,116 @@ void TestEnergyline::animation()
     QVERIFY(page.m_offset > -1000.0F && page.m_offset < -999.0F);
     page.advanceFlow();
     QCOMPARE(page.m_offset, 0.0F);
+}
+
+void TestEnergyline::stepsPaintWhatChanged()
+{
+    Page page;
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    page.timer->stop();
+    const auto step = [&page] {
+        page.painted = {};
+        page.advanceFlow();
+        QCoreApplication::processEvents();
+        return page.painted;
+    };
+    const auto click = [&page] {
+        QTest::mouseClick(&page, Qt::LeftButton, {}, page.middle().toPoint() + QPoint(0, 100));
+    };
+    const std::function<void()> changes[] = {
+        [&] { page.flushData(sampleSnapshot(3)); },
+        [&] { page.flushData(sampleSnapshot(1)); },
+        [&] { page.ups_Name = "written by a derived page"; },
+        [&] { page.normalValue = 99; },
+        [&] { page.set(Page::kFlows, "byp-load"); },
+        [&] { page.set(Page::kPanels, "ups"); },
+        [&] { click(); },
+        [&] { // and back, while another window uncovers the page
+            click();
+            page.repaint();
+            click();
+        },
+    };
+    step();
+    for (const auto& change : changes) {
+        change();
+        QCOMPARE(step(), QRegion(page.rect()));
+        const QVector<QRegion> steps{step(), step()};
+        QCOMPARE(steps[0], steps[1]);
+        QVERIFY(!steps[0].isEmpty());
+        for (const QRect& line : steps[0])
+            QVERIFY(std::min(line.width(), line.height()) <= 6); // a flow's width, in whole pixels
+    }
+    page.set(Page::kFlows, {});
+    step();
+    QVERIFY(step().isEmpty());
+}
+
+void TestEnergyline::stepsShowWhatAPaintShows_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed : {1, 2, 3})
+        QTest::addRow("%u", seed) << seed;
+}
+
+// Some of what can happen to a page between two steps.
+void changeAtRandom(QWidget& window, Page& page, QRandomGenerator& dice)
+{
+    const auto even = [&dice] { return dice.bounded(2) == 0; };
+    switch (dice.bounded(40)) {
+    case 0:
+        window.resize(even() ? QSize(931, 721) : QSize(400, 300));
+        return page.resize(window.size() - QSize(30, 20));
+    case 1:
+        return page.setStyleSheet(even() ? "" : "Energyline { background: rgba(255, 0, 0, 90) }");
+    case 2:
+        return window.setPalette(even() ? Qt::white : QColor(30, 40, 50));
+    case 3:
+        return window.setStyleSheet(even() ? "" : "* { background: #345; font: 30pt }");
+    case 4:
+        return page.set(Page::kFlows, even() ? kAllFlows : "byp-load rec-bat");
+    case 5:
+        return page.flushData({{realdata_OutputSource, 3 + dice.bounded(3)},
+                               {realdata_ChargeRemaining, even() ? 90 : 120 + dice.bounded(9)}});
+    case 6:
+        page.normalValue = even() ? 60 : 200; // the colours of a charge above 100
+        return;
+    case 7:
+        QTest::mouseClick(&page, Qt::LeftButton, {}, page.middle().toPoint() + QPoint(0, 100));
+        return;
+    case 8:
+        page.m_offset = even() ? -0.13F : 20.0F; // between the steps
+        return;
+    case 9:
+        return page.move(even() ? QPoint(13, 7) : QPoint(14, 8));
+    default: // one of few steps, so that they come again
+        page.m_offset = -0.4F * static_cast<float>(dice.bounded(35, 39));
+    }
+}
+
+void TestEnergyline::stepsShowWhatAPaintShows()
+{
+    QFETCH(quint32, seed);
+    QRandomGenerator dice(seed);
+    QWidget window;
+    Page page;
+    page.setParent(&window);
+    page.move(13, 7);
+    window.resize(930, 720);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    page.timer->stop();
+    page.set(Page::kFlows, kAllFlows);
+    for (int i = 0; i < 300; ++i) {
+        changeAtRandom(window, page, dice);
+        page.advanceFlow();
+        QCoreApplication::processEvents();
+        const QImage shown = window.screen()->grabWindow(window.winId()).toImage();
+        QImage plain(window.size(), shown.format());
+        window.render(&plain);
+        QVERIFY2(shown == plain, qPrintable(QString::number(i)));
+    }
 }
 
 void TestEnergyline::diagram()

@@ -1,13 +1,16 @@
 #include "energyline.h"
 
 #include "paintersaver.h"
+#include "paintmemory.h"
 #include "valuetext.h"
 
 #include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPixmap>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +22,7 @@ namespace {
 constexpr int kStepMilliseconds = 100;
 constexpr double kStepInPenWidths = 0.4;
 constexpr float kLowestOffset = -1000.0F; // in pen widths; the dashes jump once here
+constexpr int kPhases = 35;               // steps until the dashes repeat
 
 constexpr QColor kPaleGrey{245, 246, 250, 255};
 constexpr QColor kCaptionGrey{153, 153, 153, 255};
@@ -113,6 +117,7 @@ void drawWiring(QPainter* painter, QPointF centre)
 
 Energyline::Energyline(QWidget* parent)
     : QWidget(parent)
+    , m_flowPictures(new PaintMemory)
 {
     set_all_off_Flow();
 
@@ -125,6 +130,8 @@ Energyline::Energyline(QWidget* parent)
                    tr("Bypass supply"), tr("Battery supply"), tr("Booster supply"),
                    tr("Reducer supply")};
 }
+
+Energyline::~Energyline() = default;
 
 QSize Energyline::sizeHint() const
 {
@@ -259,12 +266,101 @@ void Energyline::set_all_off_Flow()
 
 // ---- Animation ----
 
+struct Energyline::Flow {
+    bool Energyline::*isOn;
+    int count;
+    QPointF points[4]; // in the direction of the power
+};
+
+namespace {
+
+constexpr qreal kFlowWidth = 5.0;
+
+// The offset of the dashes in one of their phases.
+constexpr float offsetOf(int phase)
+{
+    return static_cast<float>(-kStepInPenWidths * phase);
+}
+
+// The phase at an offset of the animation, whose steps add up what single precision rounds off.
+// Negative for an offset that no step comes near.
+int phaseOf(float offset)
+{
+    constexpr double kMostRounding = 0.05; // pen widths
+    if (!(offset <= 0.0F && offset >= kLowestOffset))
+        return -1;
+    const double steps = std::round(-offset / kStepInPenWidths);
+    const bool near = std::abs(offset + steps * kStepInPenWidths) < kMostRounding;
+    return near ? static_cast<int>(steps) % kPhases : -1;
+}
+
+} // namespace
+
+// No panel and no figure reaches these lines; of the battery only a charge above 100 does.
+const Energyline::Flow Energyline::kFlows[] = {
+    {&Energyline::input_rec_Flag, 2, {{-225.0, 0.0}, {-130.0, 0.0}}},
+    {&Energyline::rec_bat_Flag, 3, {{-55.0, 0.0}, {0.0, 0.0}, {0.0, 75.0}}},
+    {&Energyline::bat_inv_Flag, 3, {{0.0, 75.0}, {0.0, 0.0}, {55.0, 0.0}}},
+    {&Energyline::rec_inv_Flag, 2, {{-55.0, 0.0}, {55.0, 0.0}}},
+    {&Energyline::inv_load_Flag, 2, {{130.0, 0.0}, {225.0, 0.0}}},
+    {&Energyline::byp_load_Flag,
+     4,
+     {{-225.0, -150.0}, {175.0, -150.0}, {175.0, 0.0}, {225.0, 0.0}}},
+};
+
 void Energyline::advanceFlow()
 {
     m_offset = static_cast<float>(m_offset - kStepInPenWidths);
-    update();
+    Shown now = shown();
+    if (now == m_shown) {
+        update(flowRegion());
+    } else {
+        m_shown = std::move(now);
+        update();
+    }
     if (m_offset < kLowestOffset)
         m_offset = 0.0F;
+    if (!isSeen())
+        rest();
+}
+
+// Until the next paint, for which this asks: it comes as soon as there is somebody to see it.
+void Energyline::rest()
+{
+    update();
+    timer->stop();
+    m_resting = true;
+    m_flowPictures->clear();
+}
+
+void Energyline::wake()
+{
+    if (!m_resting)
+        return;
+    m_resting = false;
+    timer->start();
+}
+
+// A minimised window is visible, but not exposed.
+bool Energyline::isSeen() const
+{
+    const QWindow* const onScreen = window()->windowHandle();
+    return isVisible() && (!onScreen || onScreen->isExposed());
+}
+
+// Where the dashes of the flows that are on can be.
+QRegion Energyline::flowRegion() const
+{
+    constexpr qreal kReach = kFlowWidth / 2.0;
+    const QPointF c(width() / 2, height() / 2);
+    QRegion region;
+    for (const Flow& flow : kFlows) {
+        for (int i = 1; this->*flow.isOn && i < flow.count; ++i) {
+            const QRectF segment = QRectF(c + flow.points[i - 1], c + flow.points[i]).normalized();
+            region += segment.adjusted(-kReach, -kReach, kReach, kReach).toAlignedRect();
+        }
+    }
+    return region;
 }
 
 // ---- Clicks ----
@@ -302,15 +398,35 @@ void Energyline::mousePressEvent(QMouseEvent* e)
 
 // ---- Painting ----
 
-void Energyline::paintEvent(QPaintEvent*)
+void Energyline::paintEvent(QPaintEvent* event)
 {
+    wake();
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
-    drawBase(&painter);
-    drawBattery(&painter);
-    drawflow(&painter);
-    drawdate(&painter);
+    if (m_shown != shown())
+        m_shown = {}; // a step that finds what the last one showed must not take it as painted
+    const int phase = phaseOf(m_offset);
+    const bool onlyFlows = (event->region() - flowRegion()).isEmpty();
+    if (onlyFlows && phase >= 0)
+        m_flowPictures->paint(&painter, flowKey(), phase, [&] { drawLayers(&painter); });
+    else
+        drawLayers(&painter);
+}
+
+void Energyline::drawLayers(QPainter* painter)
+{
+    drawBase(painter);
+    drawBattery(painter);
+    drawflow(painter);
+    drawdate(painter);
+}
+
+void Energyline::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        update();
 }
 
 QPointF Energyline::centre()
@@ -458,28 +574,12 @@ void Energyline::drawBatteryFill(QPainter* painter)
 
 void Energyline::drawflow(QPainter* painter)
 {
-    constexpr qreal kFlowWidth = 5.0;
-    struct Flow {
-        bool Energyline::*isOn;
-        int count;
-        QPointF points[4]; // in the direction of the power
-    };
-    static constexpr Flow kFlows[] = {
-        {&Energyline::input_rec_Flag, 2, {{-225.0, 0.0}, {-130.0, 0.0}}},
-        {&Energyline::rec_bat_Flag, 3, {{-55.0, 0.0}, {0.0, 0.0}, {0.0, 75.0}}},
-        {&Energyline::bat_inv_Flag, 3, {{0.0, 75.0}, {0.0, 0.0}, {55.0, 0.0}}},
-        {&Energyline::rec_inv_Flag, 2, {{-55.0, 0.0}, {55.0, 0.0}}},
-        {&Energyline::inv_load_Flag, 2, {{130.0, 0.0}, {225.0, 0.0}}},
-        {&Energyline::byp_load_Flag,
-         4,
-         {{-225.0, -150.0}, {175.0, -150.0}, {175.0, 0.0}, {225.0, 0.0}}},
-    };
-
     const PainterSaver saver(painter);
     const QPointF c = centre();
     QPen pen(kFlowBlue, kFlowWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     pen.setDashPattern({2.0, 1.5, 2.0, 1.5}); // in pen widths
-    pen.setDashOffset(m_offset);
+    const int phase = phaseOf(m_offset);
+    pen.setDashOffset(phase < 0 ? m_offset : offsetOf(phase));
     painter->setPen(pen);
     for (const Flow& flow : kFlows) {
         if (!(this->*flow.isOn))
@@ -489,6 +589,17 @@ void Energyline::drawflow(QPainter* painter)
             line << c + flow.points[i];
         painter->drawPolyline(line);
     }
+}
+
+// What the pixels of flowRegion() depend on, but for their ground and the place of the dashes.
+QVector<int> Energyline::flowKey() const
+{
+    constexpr int kFull = 100; // the fill leaves the body above
+    QVector<int> key{width() / 2, height() / 2, std::max(bat_Cap.toInt(), kFull), alarmValue,
+                     normalValue};
+    for (const Flow& flow : kFlows)
+        key << this->*flow.isOn;
+    return key;
 }
 
 struct Energyline::PanelLine {
@@ -559,6 +670,19 @@ void Energyline::drawFigures(QPainter* painter)
 QString Energyline::valueOf(const PanelLine& line) const
 {
     return this->*line.value + QString::fromUtf8(line.unit);
+}
+
+Energyline::Shown Energyline::shown() const
+{
+    Shown shown{{bat_Cap, ld_Percent}, {alarmValue, normalValue}};
+    for (const Flow& flow : kFlows)
+        shown.second << this->*flow.isOn;
+    for (const Panel& panel : kPanels) {
+        shown.second << this->*panel.isOpen;
+        for (int i = 0; i < panel.count; ++i)
+            shown.first << this->*panel.lines[i].value;
+    }
+    return shown;
 }
 
 // Open or closed, to whoever cannot see the diagram.

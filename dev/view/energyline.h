@@ -8,12 +8,17 @@
 #include "devview_export.h"
 
 #include <QMap>
+#include <QPair>
 #include <QRectF>
+#include <QRegion>
+#include <QScopedPointer>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QVector>
 #include <QWidget>
 
+class PaintMemory;
 class QLinearGradient;
 class QPainter;
 class QTimer;
@@ -28,8 +33,10 @@ class DEVVIEW_EXPORT Energyline : public QWidget
     Q_OBJECT
 
 public:
-    // Opens all panels, turns all flows off and starts the animation, ten steps a second.
+    // Opens all panels, turns all flows off and starts the animation, ten steps a second. The
+    // animation rests while the page is hidden or its window minimised.
     explicit Energyline(QWidget* parent = nullptr);
+    ~Energyline() override;
 
     // Takes over a snapshot: keys 0 to 72 as int (missing: 0), 4000 to 4002 as text (missing:
     // empty). Sets every display string and the six flow flags. Does not repaint; the next
@@ -46,6 +53,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     // Opens or closes a panel: the input, bypass and load boxes each their own, the battery both
     // the battery's and the device's. Edges belong to their area. Does not repaint.
     void mousePressEvent(QMouseEvent* e) override;
@@ -56,7 +64,8 @@ protected:
     void drawflow(QPainter* painter);    // the flows that are on
     void drawdate(QPainter* painter);    // charge, load and the open panels
 
-    // Moves the flows by one step and asks for a repaint.
+    // Moves the flows by one step and asks for a repaint: of the lines of the flows that are on,
+    // or of the whole page where anything else that it shows has changed since the last step.
     void advanceFlow();
 
     // Finished texts of the last snapshot, empty before the first. Voltages, loads, minutes and
@@ -117,7 +126,7 @@ protected:
     double hei = 0.0;
 
     QTimer* timer = nullptr;
-    float m_offset = 0.0F; // dash offset of the flows, in pen widths
+    float m_offset = 0.0F; // dash offset of the flows, in pen widths; painted to the next 35th
     int alarmValue = 20;   // per cent; up to here the battery shows its alarm colours
     int normalValue = 60;  // per cent; above here its normal colours
 
@@ -128,9 +137,13 @@ protected:
     QRectF batteryRect;
 
 private:
+    struct Flow;
     struct PanelLine;
     struct Panel;
+    static const Flow kFlows[];
     static const Panel kPanels[];
+    // All that a paint shows, but for the place of the dashes.
+    using Shown = QPair<QStringList, QVector<int>>;
 
     QPointF centre();
     void takeElectricalValues(const RealTimeBlock& values);
@@ -141,6 +154,17 @@ private:
     void drawPanel(QPainter* painter, const Panel& panel);
     QString valueOf(const PanelLine& line) const;
     void tellValues();
+    void drawLayers(QPainter* painter);
+    void rest();
+    void wake();
+    Shown shown() const;
+    bool isSeen() const;
+    QRegion flowRegion() const;
+    QVector<int> flowKey() const;
+
+    Shown m_shown; // at the last step
+    bool m_resting = false;
+    QScopedPointer<PaintMemory> m_flowPictures;
 };
 
 #endif // ENERGYLINE_H

@@ -1,0 +1,98 @@
+#include "paintmemory.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+
+#include <cstring>
+
+namespace {
+
+// The image that a painter in its first state paints on, else null.
+QImage* target(QPainter* painter)
+{
+    const QPaintEngine* engine = painter->paintEngine();
+    if (engine->type() != QPaintEngine::Raster || painter->hasClipping() ||
+        painter->opacity() != 1.0 ||
+        painter->compositionMode() != QPainter::CompositionMode_SourceOver)
+        return nullptr;
+    auto* image = dynamic_cast<QImage*>(engine->paintDevice());
+    const bool inWholeBytes = image && image->depth() >= 8 && image->isDetached();
+    return inWholeBytes ? image : nullptr;
+}
+
+// Calls `visit` with each row of each rectangle of the clip until it says false.
+template <typename Visit>
+void visitRows(QImage& image, const QRegion& clip, Visit visit)
+{
+    const int pixel = image.depth() / 8;
+    for (const QRect& rect : clip) {
+        for (int y = rect.top(); y <= rect.bottom(); ++y) {
+            if (!visit(image.scanLine(y) + rect.left() * pixel, rect.width() * pixel))
+                return;
+        }
+    }
+}
+
+QByteArray pixelsOf(QImage& image, const QRegion& clip)
+{
+    QByteArray pixels;
+    visitRows(image, clip, [&](const uchar* row, int bytes) {
+        pixels.append(reinterpret_cast<const char*>(row), bytes);
+        return true;
+    });
+    return pixels;
+}
+
+bool shows(QImage& image, const QRegion& clip, const QByteArray& pixels)
+{
+    int done = 0;
+    visitRows(image, clip, [&](const uchar* row, int bytes) {
+        const bool same = done + bytes <= pixels.size() &&
+                          std::memcmp(row, pixels.constData() + done, std::size_t(bytes)) == 0;
+        done = same ? done + bytes : -1;
+        return same;
+    });
+    return done == pixels.size();
+}
+
+void put(QImage& image, const QRegion& clip, const QByteArray& pixels)
+{
+    const char* from = pixels.constData();
+    visitRows(image, clip, [&](uchar* row, int bytes) {
+        std::memcpy(row, from, std::size_t(bytes));
+        from += bytes;
+        return true;
+    });
+}
+
+} // namespace
+
+void PaintMemory::paint(QPainter* painter, const Key& key, int number,
+                        const std::function<void()>& paint)
+{
+    QImage* image = target(painter);
+    const QRegion clip = image ? painter->paintEngine()->systemClip() & image->rect() : QRegion();
+    if (clip.isEmpty())
+        return paint();
+
+    const QTransform& place = painter->deviceTransform();
+    if (m_key != key || m_place != place || m_format != image->format() || m_clip != clip ||
+        !shows(*image, clip, m_ground)) {
+        m_key = key;
+        m_place = place;
+        m_format = image->format();
+        m_clip = clip;
+        m_ground = pixelsOf(*image, clip);
+        m_pictures.clear();
+    }
+    const auto picture = m_pictures.constFind(number);
+    if (picture != m_pictures.constEnd())
+        return put(*image, clip, *picture);
+    paint();
+    m_pictures.insert(number, pixelsOf(*image, clip));
+}
+
+void PaintMemory::clear()
+{
+    *this = PaintMemory();
+}
