@@ -162,6 +162,8 @@ void TestDeviceDialog::errors()
         const char* message; // part of it
     } rows[] = {
         {{}, "Enter the name or the IP address"},
+        {{"KindBox=SNMP", "HostEdit=13571"}, "neither a host name nor an IP address"},
+        {{"AddressEdit=nut://13571/a"}, "No valid host"},
         {nut + QStringList{"PasswordEdit=x"}, "Enter the user"},
         {v3 + QStringList{"PrivSecretEdit=1234567"}, "at least 8"},
         {{"AddressEdit=snmp://a:b@h?version=3"}, "SNMP secrets belong"},

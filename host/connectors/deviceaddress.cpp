@@ -1,6 +1,7 @@
 #include "connectors/deviceaddress.h"
 
 #include <QCoreApplication>
+#include <QHostAddress>
 #include <QRegularExpression>
 #include <QUrl>
 #include <QUrlQuery>
@@ -163,6 +164,11 @@ QString deviceAddressText(const DeviceAddress& address)
     return url.toString(QUrl::FullyEncoded) + snmpQuery(address);
 }
 
+bool isMadeUpHost(const QString& host, const QString& text)
+{
+    return QHostAddress(host).protocol() == QAbstractSocket::IPv4Protocol && !text.contains(host);
+}
+
 ParsedAddress parseDeviceAddress(const QString& text)
 {
     DeviceAddress address;
@@ -177,7 +183,7 @@ ParsedAddress parseDeviceAddress(const QString& text)
     const bool snmp = url.scheme() == QLatin1String("snmp");
     if (!nut && !snmp)
         return failure(Tr::tr("an address starts with sim:, nut:// or snmp://"));
-    if (!url.isValid() || url.host().isEmpty())
+    if (!url.isValid() || url.host().isEmpty() || isMadeUpHost(url.host(), address.text))
         return failure(Tr::tr("no valid host or port in the address")); // it may hold a community
     if (url.port(1) < 1)
         return failure(Tr::tr("a port lies between 1 and 65535"));

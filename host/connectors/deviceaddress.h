@@ -43,6 +43,10 @@ struct ParsedAddress {
     QString error; // what is wrong and how it should look
 };
 
+// Whether `host`, as QUrl read it from `text`, stands nowhere in it: a number alone, such as a port
+// without its host, counts as an IPv4 address for QUrl.
+bool isMadeUpHost(const QString& host, const QString& text);
+
 //  sim:[NAME]   nut://HOST[:PORT]/[UPS]   snmp://COMMUNITY@HOST[:PORT][?version=1]
 //  snmp://USER@HOST[:PORT]?version=3&level=authPriv&auth=SHA&priv=AES[&context=NAME]
 // A secret in the address is an error: secrets come from the configuration.

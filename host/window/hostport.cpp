@@ -75,6 +75,7 @@ QString HostPort::error() const
         return tr("Enter the name or the IP address of the host.");
     QUrl url;
     url.setHost(host());
-    return url.host().isEmpty() ? tr("\"%1\" is neither a host name nor an IP address.").arg(host())
-                                : QString();
+    if (url.host().isEmpty() || isMadeUpHost(url.host(), host()))
+        return tr("\"%1\" is neither a host name nor an IP address.").arg(host());
+    return QString();
 }
