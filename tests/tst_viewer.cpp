@@ -114,6 +114,11 @@ private slots:
         m_near = &m_north->add("Rack 1");
         m_north->add("Rack 2");
         m_far = &m_south->add("Rack 1");
+        QDateTime firstSince;
+        const auto heard = connect(m_fleet.get(), &Fleet::devicePolled, this, [&](Device* device) {
+            if (!firstSince.isValid() && storedName(*device) == "north/Rack 1" && device->reading())
+                firstSince = device->conditionSince();
+        });
         m_near->answer(LinkState::Live, onBattery(71));
         m_far->answer(LinkState::Live, onBattery(72));
         QTRY_COMPARE_WITH_TIMEOUT(m_fleet->count(), 3, kLimitMs);
@@ -134,6 +139,8 @@ private slots:
         // Age and onset are those of the collector.
         QVERIFY(qAbs(device->ageMs() - told.ageMs()) < 1000);
         QVERIFY(qAbs(device->conditionSince().msecsTo(told.conditionSince())) < 1000);
+        QCOMPARE(firstSince, device->conditionSince());
+        disconnect(heard);
     }
 
     void followsWhatChanges()

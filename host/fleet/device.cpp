@@ -232,10 +232,19 @@ void Device::noteCondition()
     const bool goesOn = isLive && !wasLive && isSameCondition(now, m_beforeGap.condition) &&
                         m_readingBootMs - m_beforeGap.heardMs <= shortGapMs();
     m_noticed = {now, goesOn ? m_beforeGap.since : m_clock.now(), m_readingBootMs};
+    if (m_expected.kind == now.kind)
+        setConditionSince(m_expected.since);
 }
 
 void Device::setConditionSince(const QDateTime& since)
 {
     if (since < m_noticed.since)
         m_noticed.since = since;
+}
+
+void Device::expectCondition(ConditionKind kind, const QDateTime& since)
+{
+    m_expected = {kind, since};
+    if (m_noticed.condition.kind == kind)
+        setConditionSince(since);
 }

@@ -53,6 +53,9 @@ public:
     QDateTime conditionSince() const { return m_noticed.since; }
     // An earlier run of the desk has seen it begin; a later time than is known changes nothing.
     void setConditionSince(const QDateTime& since);
+    // The same for the results that follow, where they show that kind of condition: whoever hears
+    // of a result shall hear the onset with it.
+    void expectCondition(ConditionKind kind, const QDateTime& since);
 
     // Empty before the first good reading: a view must not be fed with an empty snapshot.
     QMap<int, QVariant> snapshot(SnapshotPage page) const;
@@ -88,6 +91,10 @@ signals:
     void commandFinished(const CommandResult& result);
 
 private:
+    struct Expected {
+        std::optional<ConditionKind> kind;
+        QDateTime since;
+    };
     struct Noticed {
         Condition condition;
         QDateTime since;
@@ -117,6 +124,7 @@ private:
     ConditionPast m_past;
     qint64 m_testSinceMs = -1; // boot ms of the first reading that told of the test; -1: no test
     Noticed m_noticed;
+    Expected m_expected;
     std::optional<LinkState> m_judgedLink; // m_noticed was judged by; empty: judge anew
     Noticed m_beforeGap;                   // the last of the device while it was live
     qint64 m_pollStarted = -1;             // boot ms; -1: no poll is under way

@@ -179,6 +179,8 @@ void Viewer::apply(const LiveDevice& live)
     Known& known = m_known[nameAtSite(live.site, live.name)];
     if (!settle(live, known))
         return;
+    known.device->expectCondition(static_cast<ConditionKind>(live.condition),
+                                  onWallClock(live.sinceBootMs));
     PollResult result;
     Sample sample;
     if (!live.reading.isNull() && !isSamePoll(live.askedBootMs, known.askedBootMs) &&
@@ -198,6 +200,4 @@ void Viewer::apply(const LiveDevice& live)
         result.askedBootMs = bootClockMs();
         known.device->takeResult(result);
     }
-    if (static_cast<int>(known.device->condition().kind) == live.condition)
-        known.device->setConditionSince(onWallClock(live.sinceBootMs));
 }

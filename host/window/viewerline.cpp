@@ -56,9 +56,13 @@ Line lineOf(const Viewer& viewer)
     }
     if (!silent.isEmpty())
         return {silentText(silent, words.size()), true};
+    const QString age = ageText(std::max<qint64>(oldest, 1000));
+    if (words.size() == 1)
+        return {ViewerLine::tr("Viewer of one collector; its word is at most %1 old").arg(age),
+                false};
     return {ViewerLine::tr("Viewer of %1 collectors; their word is at most %2 old")
                 .arg(words.size())
-                .arg(ageText(std::max<qint64>(oldest, 1000))),
+                .arg(age),
             false};
 }
 
