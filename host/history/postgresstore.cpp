@@ -6,11 +6,13 @@
 #include <QHostInfo>
 #include <QSqlDriver>
 #include <QSqlError>
-#include <QTimer>
+#include <QThread>
 #include <QVariant>
 
 #include <libpq-fe.h>
 #include <poll.h>
+
+#include <memory>
 
 namespace {
 
@@ -106,24 +108,26 @@ std::optional<QHostAddress> PostgresStore::addressThatAnswers()
     return refusing;
 }
 
+// In a thread of its own: an event loop in this one would begin the next question in the middle of
+// the connecting for this one.
 QList<QHostAddress> PostgresStore::addresses()
 {
     const int before = aborts();
     QList<QHostAddress> found;
-    QEventLoop loop;
-    QTimer look;
-    const QDeadlineTimer limit(kConnectMs);
-    const int lookup = QHostInfo::lookupHost(m_address.host, &loop, [&](const QHostInfo& info) {
-        found = info.addresses();
-        loop.quit();
-    });
-    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
-        if (aborts() != before || limit.hasExpired())
+    const std::unique_ptr<QThread> thread(QThread::create([this, &found] {
+        QEventLoop loop;
+        const int lookup = QHostInfo::lookupHost(m_address.host, &loop, [&](const QHostInfo& info) {
+            found = info.addresses();
             loop.quit();
-    });
-    look.start(kLookMs);
-    loop.exec();
-    QHostInfo::abortHostLookup(lookup);
+        });
+        loop.exec();
+        QHostInfo::abortHostLookup(lookup);
+    }));
+    const QDeadlineTimer limit(kConnectMs);
+    thread->start();
+    while (!thread->wait(kLookMs))
+        if (aborts() != before || limit.hasExpired())
+            thread->quit();
     return found;
 }
 
