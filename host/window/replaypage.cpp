@@ -7,8 +7,6 @@
 #include <QDateTime>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 ReplayPage::ReplayPage(const DeviceSettings& settings, const Thresholds& thresholds,
                        const QString& device, HistoryReader* reader, QWidget* parent)
     : QWidget(parent)
@@ -47,7 +45,8 @@ ReplayPage::~ReplayPage()
 
 void ReplayPage::showPage(int page)
 {
-    m_page->showPage(std::min(page, DevicePage::controlPage() + 2)); // the history has no past
+    const bool isOfPast = DevicePage::pages().at(page).view != DevicePage::HistoryView;
+    m_page->showPage(isOfPast ? page : 0); // the history has no past of its own
 }
 
 void ReplayPage::jump(const QVector<StoredReading>& before, qint64 conditionSinceMs)
