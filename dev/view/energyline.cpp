@@ -296,7 +296,8 @@ int phaseOf(float offset)
 
 } // namespace
 
-// No panel and no figure reaches these lines; of the battery only a charge above 100 does.
+// Wiring, boxes and battery lie below the whole of these lines, so that no ground shows through. No
+// panel and no figure reaches them; a charge does above 100 per cent.
 const Energyline::Flow Energyline::kFlows[] = {
     {&Energyline::input_rec_Flag, 2, {{-225.0, 0.0}, {-130.0, 0.0}}},
     {&Energyline::rec_bat_Flag, 3, {{-55.0, 0.0}, {0.0, 0.0}, {0.0, 75.0}}},
@@ -420,13 +421,6 @@ void Energyline::drawLayers(QPainter* painter)
     drawBattery(painter);
     drawflow(painter);
     drawdate(painter);
-}
-
-void Energyline::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        update();
 }
 
 QPointF Energyline::centre()
@@ -591,7 +585,7 @@ void Energyline::drawflow(QPainter* painter)
     }
 }
 
-// What the pixels of flowRegion() depend on, but for their ground and the place of the dashes.
+// What the pixels of flowRegion() depend on, but for the place of the dashes.
 QVector<int> Energyline::flowKey() const
 {
     constexpr int kFull = 100; // the fill leaves the body above

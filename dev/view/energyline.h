@@ -53,7 +53,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
     // Opens or closes a panel: the input, bypass and load boxes each their own, the battery both
     // the battery's and the device's. Edges belong to their area. Does not repaint.
     void mousePressEvent(QMouseEvent* e) override;

@@ -20,16 +20,14 @@ QImage* target(QPainter* painter)
     return inWholeBytes ? image : nullptr;
 }
 
-// Calls `visit` with each row of each rectangle of the clip until it says false.
+// Calls `visit` with each row of each rectangle of the clip.
 template <typename Visit>
 void visitRows(QImage& image, const QRegion& clip, Visit visit)
 {
     const int pixel = image.depth() / 8;
     for (const QRect& rect : clip) {
-        for (int y = rect.top(); y <= rect.bottom(); ++y) {
-            if (!visit(image.scanLine(y) + rect.left() * pixel, rect.width() * pixel))
-                return;
-        }
+        for (int y = rect.top(); y <= rect.bottom(); ++y)
+            visit(image.scanLine(y) + rect.left() * pixel, rect.width() * pixel);
     }
 }
 
@@ -38,21 +36,8 @@ QByteArray pixelsOf(QImage& image, const QRegion& clip)
     QByteArray pixels;
     visitRows(image, clip, [&](const uchar* row, int bytes) {
         pixels.append(reinterpret_cast<const char*>(row), bytes);
-        return true;
     });
     return pixels;
-}
-
-bool shows(QImage& image, const QRegion& clip, const QByteArray& pixels)
-{
-    int done = 0;
-    visitRows(image, clip, [&](const uchar* row, int bytes) {
-        const bool same = done + bytes <= pixels.size() &&
-                          std::memcmp(row, pixels.constData() + done, std::size_t(bytes)) == 0;
-        done = same ? done + bytes : -1;
-        return same;
-    });
-    return done == pixels.size();
 }
 
 void put(QImage& image, const QRegion& clip, const QByteArray& pixels)
@@ -61,7 +46,6 @@ void put(QImage& image, const QRegion& clip, const QByteArray& pixels)
     visitRows(image, clip, [&](uchar* row, int bytes) {
         std::memcpy(row, from, std::size_t(bytes));
         from += bytes;
-        return true;
     });
 }
 
@@ -76,13 +60,11 @@ void PaintMemory::paint(QPainter* painter, const Key& key, int number,
         return paint();
 
     const QTransform& place = painter->deviceTransform();
-    if (m_key != key || m_place != place || m_format != image->format() || m_clip != clip ||
-        !shows(*image, clip, m_ground)) {
+    if (m_key != key || m_place != place || m_format != image->format() || m_clip != clip) {
         m_key = key;
         m_place = place;
         m_format = image->format();
         m_clip = clip;
-        m_ground = pixelsOf(*image, clip);
         m_pictures.clear();
     }
     const auto picture = m_pictures.constFind(number);

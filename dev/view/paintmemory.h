@@ -1,9 +1,8 @@
 #ifndef DEVVIEW_PAINTMEMORY_H
 #define DEVVIEW_PAINTMEMORY_H
 
-// Remembers what paints made of the pixels that they found, and puts it there again: for a part of
-// a widget that repeats a few pictures. What it finds counts, not what that came from: a palette, a
-// style sheet or a parent that changes the ground needs no word here.
+// Remembers the pixels that paints have made and puts them there again: for an opaque part of a
+// widget that repeats a few pictures.
 // May touch: Qt Gui.
 
 #include <QByteArray>
@@ -20,12 +19,12 @@ class QPainter;
 class PaintMemory
 {
 public:
-    // Everything but the ground that the pictures depend on.
+    // All that the pictures depend on, but the painter.
     using Key = QVector<int>;
 
     // Makes picture `number` of `key` within the painter's system clip: puts it back where it is
-    // remembered, else calls `paint`, which must paint nothing else. Remembers the pictures of one
-    // key on one ground; the caller bounds how many. On other devices than images it only paints.
+    // remembered, else calls `paint`, which must cover that clip. Remembers the pictures of one
+    // key in one place; the caller bounds how many. On other devices than images it only paints.
     void paint(QPainter* painter, const Key& key, int number, const std::function<void()>& paint);
     void clear();
 
@@ -33,8 +32,7 @@ private:
     Key m_key;
     QTransform m_place;
     QImage::Format m_format = QImage::Format_Invalid;
-    QRegion m_clip; // pixels of the device, as all below
-    QByteArray m_ground;
+    QRegion m_clip; // pixels of the device, as the pictures
     QHash<int, QByteArray> m_pictures;
 };
 
