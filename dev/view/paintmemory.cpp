@@ -7,6 +7,12 @@
 
 namespace {
 
+// At its own size or larger: what covers the clip there may leave edges when it shrinks or turns.
+bool isUpright(const QTransform& place)
+{
+    return place.type() <= QTransform::TxScale && place.m11() >= 1.0 && place.m22() >= 1.0;
+}
+
 // The image that a painter in its first state paints on, else null.
 QImage* target(QPainter* painter)
 {
@@ -17,7 +23,7 @@ QImage* target(QPainter* painter)
         return nullptr;
     auto* image = dynamic_cast<QImage*>(engine->paintDevice());
     const bool inWholeBytes = image && image->depth() >= 8 && image->isDetached();
-    return inWholeBytes ? image : nullptr;
+    return inWholeBytes && isUpright(painter->deviceTransform()) ? image : nullptr;
 }
 
 // Calls `visit` with each row of each rectangle of the clip.

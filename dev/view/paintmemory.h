@@ -24,7 +24,8 @@ public:
 
     // Makes picture `number` of `key` within the painter's system clip: puts it back where it is
     // remembered, else calls `paint`, which must cover that clip. Remembers the pictures of one
-    // key in one place; the caller bounds how many. On other devices than images it only paints.
+    // key in one place; the caller bounds how many. On other devices than images, and by painters
+    // that shrink or turn, it only paints.
     void paint(QPainter* painter, const Key& key, int number, const std::function<void()>& paint);
     void clear();
 
