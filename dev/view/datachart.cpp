@@ -1,6 +1,7 @@
 #include "datachart.h"
 
 #include "paintersaver.h"
+#include "paintmemory.h"
 #include "valuetext.h"
 
 #include <QRadialGradient>
@@ -35,6 +36,8 @@ QFont gaugeFont(int points, int weight)
 DataChart::DataChart(QWidget* parent)
     : QWidget(parent)
     , m_unitText(QStringLiteral("V"))
+    , m_dialMemory(new PaintMemory)
+    , m_arcMemory(new PaintMemory)
 {
     constexpr int kTickMs = 10;
     updateTimer = new QTimer(this);
@@ -43,6 +46,8 @@ DataChart::DataChart(QWidget* parent)
     updateTimer->start();
     tellValue();
 }
+
+DataChart::~DataChart() = default;
 
 void DataChart::setValue(qreal v)
 {
@@ -113,17 +118,37 @@ void DataChart::UpdateGraph()
     update();
 }
 
+void DataChart::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    m_dialMemory->clear();
+    m_arcMemory->clear();
+}
+
+// Most polls bring the value that is shown already.
 void DataChart::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     resetVariables();
-    drawColorPies(&painter);
-    drawGraph(&painter);
-    drawCoverLines(&painter);
-    drawCoverCircle(&painter);
-    drawMarkAndText(&painter);
-    drawTextRect(&painter);
+    const QVariantList look{size(),        font(),     logicalDpiX(), logicalDpiY(), bandColour(),
+                            coveredSpan(), m_minValue, m_maxValue,    valueText()};
+    m_dialMemory->paintOver(
+        &painter, look, [this] { return rect(); }, [&] { drawDial(&painter); });
+}
+
+void DataChart::drawDial(QPainter* painter)
+{
+    const auto arc = [this] {
+        const double below = m_pieRect.height() / 2; // which no arc reaches
+        return m_pieRect.adjusted(-1, -1, 1, 1 - below).toAlignedRect() & rect();
+    };
+    m_arcMemory->paintOver(painter, {size(), bandColour()}, arc, [&] { drawColorPies(painter); });
+    drawGraph(painter);
+    drawCoverLines(painter);
+    drawCoverCircle(painter);
+    drawMarkAndText(painter);
+    drawTextRect(painter);
 }
 
 int DataChart::heightForWidth(int width) const

@@ -14,6 +14,9 @@
 #include <QString>
 #include <QWidget>
 
+#include <memory>
+
+class PaintMemory;
 class QRadialGradient;
 class QTimer;
 
@@ -24,6 +27,7 @@ class DEVVIEW_EXPORT DataChart : public QWidget
 public:
     // Scale 60 to 300, unit "V", value 0, bands green, yellow, red.
     explicit DataChart(QWidget* parent = nullptr);
+    ~DataChart() override;
 
     // Shows v in the unit of the scale. Outside minimum..maximum (both included), not finite, or
     // on a scale without width: "--", and 0 as the value. Repaints when the value changes; where
@@ -47,6 +51,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     int bandColour() const;  // colour index of m_value
     int coveredSpan() const; // unfilled part of the arc, 1/16 degree, from its right end
     QString valueText() const;
@@ -85,6 +90,7 @@ private:
     void tellValue();
 
     void resetVariables();
+    void drawDial(QPainter* painter);
     void drawColorPies(QPainter* painter);
     void drawGraph(QPainter* painter);
     void drawCoverLines(QPainter* painter);
@@ -94,6 +100,9 @@ private:
     void drawTextRect(QPainter* painter);
     void setColor(QRadialGradient& gradient, int index);
     QPointF arcCentre() const;
+
+    std::unique_ptr<PaintMemory> m_dialMemory;
+    std::unique_ptr<PaintMemory> m_arcMemory;
 };
 
 #endif // DATACHART_H

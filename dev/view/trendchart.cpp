@@ -1,5 +1,6 @@
 #include "trendchart.h"
 
+#include "paintmemory.h"
 #include "valuetext.h"
 
 #include <QPainter>
@@ -20,6 +21,8 @@ constexpr double kLabelGap = 5.0;     // px between box and label
 TrendChart::TrendChart(const Look& look, QWidget* parent)
     : QWidget(parent)
     , m_look(look)
+    , m_boxMemory(new PaintMemory)
+    , m_timeMemory(new PaintMemory)
 {
     Q_ASSERT(look.curves.size() <= kMaxSeries);
     initVariables();
@@ -28,6 +31,8 @@ TrendChart::TrendChart(const Look& look, QWidget* parent)
     for (const Curve& curve : m_look.curves)
         color_pen.append(QPen(curve.colour));
 }
+
+TrendChart::~TrendChart() = default;
 
 void TrendChart::initVariables()
 {
@@ -131,30 +136,52 @@ void TrendChart::resizeEvent(QResizeEvent* event)
         updateVector(id);
 }
 
+void TrendChart::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    m_boxMemory->clear();
+    m_timeMemory->clear();
+}
+
 void TrendChart::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     if (m_bUseAntialiasing)
         painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    resetVariables(&painter);
-    drawBox(&painter);
-    drawText(&painter);
+    resetVariables();
+    const QTime now = wallClock();
+    m_boxMemory->paintOver(
+        &painter, look(), [this] { return boxAndScales(); },
+        [&] {
+            drawBox(&painter);
+            drawScales(&painter);
+        });
+    m_timeMemory->paintOver(
+        &painter, look() << now.hour() << now.minute() << now.second(),
+        [this] { return timeAxis(); }, [&] { drawTimeAxis(&painter, now); });
     drawGraph(&painter);
 }
 
-void TrendChart::resetVariables(QPainter*)
+void TrendChart::resetVariables()
 {
     const int split = (height() / 3) * 2;
     m_topRect = QRectF(QPointF(0, 0), QPointF(width(), split));
     m_bottomRect = QRectF(QPointF(0, split), QPointF(width(), height()));
     m_leftSpace = width() / kMarginShare;
     m_topSpace = height() / kMarginShare;
+    m_boxRect = QRectF(QPointF(m_leftSpace, m_topSpace),
+                       QPointF(width() - m_leftSpace, height() - m_topSpace));
+}
+
+// All that box and scales depend on.
+QVariantList TrendChart::look() const
+{
+    return {size(),       font(),     logicalDpiX(), logicalDpiY(), m_bUseAntialiasing,
+            m_bShowHLine, max_Y_Left, max_Y_Right};
 }
 
 void TrendChart::drawBox(QPainter* painter)
 {
-    m_boxRect = QRectF(QPointF(m_leftSpace, m_topSpace),
-                       QPointF(width() - m_leftSpace, height() - m_topSpace));
     painter->setPen(Qt::black);
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(m_boxRect);
@@ -169,11 +196,26 @@ void TrendChart::drawBox(QPainter* painter)
     }
 }
 
-void TrendChart::drawText(QPainter* painter)
+QRegion TrendChart::boxAndScales() const
 {
-    painter->setPen(Qt::black);
-    drawScales(painter);
-    drawTimeAxis(painter);
+    constexpr int kInk = 2; // px that letters may reach out of their place
+    QRegion region;
+    const auto addLine = [&](const QPointF& from, const QPointF& to) {
+        region += QRectF(from, to).adjusted(-1, -1, 1, 1).toAlignedRect();
+    };
+    addLine(m_boxRect.topLeft(), m_boxRect.bottomLeft());
+    addLine(m_boxRect.topRight(), m_boxRect.bottomRight());
+    for (int k = 0; k <= kIntervals; ++k) {
+        const QPointF down(0, k * (m_boxRect.height() / kIntervals));
+        addLine(m_boxRect.topLeft() + down, m_boxRect.topRight() + down);
+    }
+    // The margins, as high as the box and half a letter's height around its corners.
+    const double above = fontMetrics().height() + kInk;
+    const QRectF high = m_boxRect.adjusted(0, -above, 0, above);
+    region += QRectF(QPointF(0, high.top()), high.bottomLeft()).toAlignedRect();
+    if (m_look.hasRightScale)
+        region += QRectF(high.topRight(), QPointF(width(), high.bottom())).toAlignedRect();
+    return region & rect();
 }
 
 void TrendChart::drawScales(QPainter* painter)
@@ -181,6 +223,7 @@ void TrendChart::drawScales(QPainter* painter)
     constexpr int kLeftStep = 40; // per label, whatever the top label is
     constexpr int kRightStep = 10;
 
+    painter->setPen(Qt::black);
     const QFontMetrics metrics = fontMetrics();
     for (int k = 0; k <= kIntervals; ++k) {
         const double baseline =
@@ -201,14 +244,14 @@ void TrendChart::drawScales(QPainter* painter)
 }
 
 // A ruler laid over the present, from 40 s ago to 60 s ahead; it is not tied to the samples.
-void TrendChart::drawTimeAxis(QPainter* painter)
+void TrendChart::drawTimeAxis(QPainter* painter, QTime now)
 {
     constexpr int kSecondsPerLabel = 10;
     constexpr int kFirstSecond = -40;
     constexpr int kTickLength = 5; // px
     constexpr QSize kLabelSize{100, 15};
 
-    const QTime now = wallClock();
+    painter->setPen(Qt::black);
     const int bottom = static_cast<int>(m_boxRect.bottom());
     for (int k = 0; k <= kIntervals; ++k) {
         // One pixel inside the box's edge, except at its right end.
@@ -222,6 +265,11 @@ void TrendChart::drawTimeAxis(QPainter* painter)
             place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip,
             now.addSecs(kFirstSecond + k * kSecondsPerLabel).toString(QStringLiteral("hh:mm:ss")));
     }
+}
+
+QRegion TrendChart::timeAxis() const
+{
+    return QRect(0, static_cast<int>(m_boxRect.bottom()) - 1, width(), height()) & rect();
 }
 
 void TrendChart::drawGraph(QPainter* painter)

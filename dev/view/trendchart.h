@@ -11,10 +11,16 @@
 #include <QList>
 #include <QMap>
 #include <QPen>
+#include <QRegion>
 #include <QStringList>
 #include <QTime>
+#include <QVariantList>
 #include <QVector>
 #include <QWidget>
+
+#include <memory>
+
+class PaintMemory;
 
 class DEVVIEW_EXPORT TrendChart : public QWidget
 {
@@ -56,9 +62,11 @@ protected:
     static constexpr int kMaxSeries = 6;
 
     TrendChart(const Look& look, QWidget* parent);
+    ~TrendChart() override;
 
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     // The "now" of the time axis.
     virtual QTime wallClock() const { return QTime::currentTime(); }
 
@@ -91,17 +99,22 @@ private:
     void setCurveData(int id, const QVector<double>& samples);
     void tellLatest();
 
-    void resetVariables(QPainter* painter);
+    void resetVariables();
+    QVariantList look() const;
     void drawBox(QPainter* painter);
-    void drawText(QPainter* painter);
     void drawScales(QPainter* painter);
-    void drawTimeAxis(QPainter* painter);
+    void drawTimeAxis(QPainter* painter, QTime now);
     void drawGraph(QPainter* painter);
+    // What these draw at most; pixels of the widget.
+    QRegion boxAndScales() const;
+    QRegion timeAxis() const;
 
     const Look m_look;
     QString m_caption;
     QStringList m_seriesNames;
     QMap<int, double> m_latest; // last value given per series, trimmed or not
+    std::unique_ptr<PaintMemory> m_boxMemory;
+    std::unique_ptr<PaintMemory> m_timeMemory;
 };
 
 #endif // TRENDCHART_H
