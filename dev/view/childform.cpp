@@ -7,6 +7,7 @@
 #include "ui_childform.h"
 
 #include <QScrollArea>
+#include <QStackedWidget>
 
 // Kept for hosts that count their data log here.
 DEVVIEW_EXPORT int count_datalog = 0;
@@ -26,14 +27,15 @@ ChildForm::ChildForm(CollectView* parent)
     , pre_lostflag(kLostFlagUnknown)
     , Tab_No(EnergyTab)
 {
-    // A widget that changes its parent is styled anew with all that is in it: each page is handed
-    // over once, and the largest last.
+    // A widget that changes its parent is styled anew with all that is in it: each page is made
+    // where the tabs keep it.
     ui->setupUi(this);
     setAutoFillBackground(true);
-    rtData = new Energyline(nullptr);
-    rtEvent = new RTEventForm(nullptr);
-    setInfo = new SetInfoForm(nullptr);
-    auto* rateInfoArea = new QScrollArea;
+    QWidget* place = ui->tabWidget->findChild<QStackedWidget*>();
+    rtData = new Energyline(place);
+    rtEvent = new RTEventForm(place);
+    setInfo = new SetInfoForm(place);
+    auto* rateInfoArea = new QScrollArea(place);
     rateInfoArea->setAutoFillBackground(true);
     rateInfoArea->setWidgetResizable(true);
     rateInfoArea->setAccessibleName(tr("Detail")); // it takes the focus, to be scrolled by keys

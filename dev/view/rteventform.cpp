@@ -211,7 +211,7 @@ void RTEventForm::initTable()
     auto* layout = new QVBoxLayout(ui->widget);
     layout->setAlignment(Qt::AlignTop);
 
-    table_alarm_record = makeTable(this);
+    table_alarm_record = makeTable(ui->widget); // where it stays
     layout->addWidget(table_alarm_record);
     layout->addStretch(0);
 }

@@ -18,9 +18,11 @@ constexpr int kLeft = Qt::AlignLeft | Qt::AlignVCenter;
 int drawElided(QPainter* painter, const QRect& rect, int flags, const QString& text)
 {
     const QFontMetrics metrics = painter->fontMetrics();
-    const QString shown = metrics.elidedText(text, Qt::ElideRight, rect.width());
+    const int advance = metrics.horizontalAdvance(text);
+    const bool isWhole = advance <= rect.width(); // most are, and looking is cheaper than cutting
+    const QString shown = isWhole ? text : metrics.elidedText(text, Qt::ElideRight, rect.width());
     painter->drawText(rect, flags | Qt::TextSingleLine, shown);
-    return metrics.horizontalAdvance(shown);
+    return isWhole ? advance : metrics.horizontalAdvance(shown);
 }
 
 bool fits(const QFontMetrics& metrics, const QRect& room, const QString& text)
