@@ -346,7 +346,9 @@ void Energyline::wake()
 bool Energyline::isSeen() const
 {
     const QWindow* const onScreen = window()->windowHandle();
-    return isVisible() && (!onScreen || onScreen->isExposed());
+    if (!onScreen) // before the window is on a screen the animation runs for whoever looks at it
+        return true;
+    return isVisible() && onScreen->isExposed();
 }
 
 // Where the dashes of the flows that are on can be.
