@@ -22,6 +22,7 @@ TrendChart::TrendChart(const Look& look, QWidget* parent)
     : QWidget(parent)
     , m_look(look)
     , m_boxMemory(new PaintMemory)
+    , m_scaleMemory(new PaintMemory)
     , m_timeMemory(new PaintMemory)
 {
     Q_ASSERT(look.curves.size() <= kMaxSeries);
@@ -139,8 +140,8 @@ void TrendChart::resizeEvent(QResizeEvent* event)
 void TrendChart::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    m_boxMemory->clear();
-    m_timeMemory->clear();
+    for (PaintMemory* memory : {m_boxMemory.get(), m_scaleMemory.get(), m_timeMemory.get()})
+        memory->clear();
 }
 
 void TrendChart::paintEvent(QPaintEvent*)
@@ -148,29 +149,19 @@ void TrendChart::paintEvent(QPaintEvent*)
     QPainter painter(this);
     if (m_bUseAntialiasing)
         painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    resetVariables();
-    const QTime now = wallClock();
-    m_boxMemory->paintOver(
-        &painter, look(), [this] { return boxAndScales(); },
-        [&] {
-            drawBox(&painter);
-            drawScales(&painter);
-        });
-    m_timeMemory->paintOver(
-        &painter, look() << now.hour() << now.minute() << now.second(),
-        [this] { return timeAxis(); }, [&] { drawTimeAxis(&painter, now); });
+    resetVariables(&painter);
+    drawBox(&painter);
+    drawText(&painter);
     drawGraph(&painter);
 }
 
-void TrendChart::resetVariables()
+void TrendChart::resetVariables(QPainter*)
 {
     const int split = (height() / 3) * 2;
     m_topRect = QRectF(QPointF(0, 0), QPointF(width(), split));
     m_bottomRect = QRectF(QPointF(0, split), QPointF(width(), height()));
     m_leftSpace = width() / kMarginShare;
     m_topSpace = height() / kMarginShare;
-    m_boxRect = QRectF(QPointF(m_leftSpace, m_topSpace),
-                       QPointF(width() - m_leftSpace, height() - m_topSpace));
 }
 
 // All that box and scales depend on.
@@ -181,6 +172,24 @@ QVariantList TrendChart::look() const
 }
 
 void TrendChart::drawBox(QPainter* painter)
+{
+    m_boxRect = QRectF(QPointF(m_leftSpace, m_topSpace),
+                       QPointF(width() - m_leftSpace, height() - m_topSpace));
+    m_boxMemory->paintOver(
+        painter, look(), [this] { return boxParts(); }, [&] { paintBox(painter); });
+}
+
+void TrendChart::drawText(QPainter* painter)
+{
+    const QTime now = wallClock();
+    m_scaleMemory->paintOver(
+        painter, look(), [this] { return scaleParts(); }, [&] { paintScales(painter); });
+    m_timeMemory->paintOver(
+        painter, look() << now.hour() << now.minute() << now.second(),
+        [this] { return timeParts(); }, [&] { paintTimeAxis(painter, now); });
+}
+
+void TrendChart::paintBox(QPainter* painter)
 {
     painter->setPen(Qt::black);
     painter->setBrush(Qt::NoBrush);
@@ -196,9 +205,8 @@ void TrendChart::drawBox(QPainter* painter)
     }
 }
 
-QRegion TrendChart::boxAndScales() const
+QRegion TrendChart::boxParts() const
 {
-    constexpr int kInk = 2; // px that letters may reach out of their place
     QRegion region;
     const auto addLine = [&](const QPointF& from, const QPointF& to) {
         region += QRectF(from, to).adjusted(-1, -1, 1, 1).toAlignedRect();
@@ -209,16 +217,10 @@ QRegion TrendChart::boxAndScales() const
         const QPointF down(0, k * (m_boxRect.height() / kIntervals));
         addLine(m_boxRect.topLeft() + down, m_boxRect.topRight() + down);
     }
-    // The margins, as high as the box and half a letter's height around its corners.
-    const double above = fontMetrics().height() + kInk;
-    const QRectF high = m_boxRect.adjusted(0, -above, 0, above);
-    region += QRectF(QPointF(0, high.top()), high.bottomLeft()).toAlignedRect();
-    if (m_look.hasRightScale)
-        region += QRectF(high.topRight(), QPointF(width(), high.bottom())).toAlignedRect();
     return region & rect();
 }
 
-void TrendChart::drawScales(QPainter* painter)
+void TrendChart::paintScales(QPainter* painter)
 {
     constexpr int kLeftStep = 40; // per label, whatever the top label is
     constexpr int kRightStep = 10;
@@ -243,8 +245,20 @@ void TrendChart::drawScales(QPainter* painter)
     }
 }
 
+// The margins, as high as the box and a letter's height around its corners.
+QRegion TrendChart::scaleParts() const
+{
+    constexpr int kInk = 2; // px that letters may reach out of their place
+    const double above = fontMetrics().height() + kInk;
+    const QRectF high = m_boxRect.adjusted(0, -above, 0, above);
+    QRegion region = QRectF(QPointF(0, high.top()), high.bottomLeft()).toAlignedRect();
+    if (m_look.hasRightScale)
+        region += QRectF(high.topRight(), QPointF(width(), high.bottom())).toAlignedRect();
+    return region & rect();
+}
+
 // A ruler laid over the present, from 40 s ago to 60 s ahead; it is not tied to the samples.
-void TrendChart::drawTimeAxis(QPainter* painter, QTime now)
+void TrendChart::paintTimeAxis(QPainter* painter, QTime now)
 {
     constexpr int kSecondsPerLabel = 10;
     constexpr int kFirstSecond = -40;
@@ -267,7 +281,7 @@ void TrendChart::drawTimeAxis(QPainter* painter, QTime now)
     }
 }
 
-QRegion TrendChart::timeAxis() const
+QRegion TrendChart::timeParts() const
 {
     return QRect(0, static_cast<int>(m_boxRect.bottom()) - 1, width(), height()) & rect();
 }

@@ -99,21 +99,27 @@ private:
     void setCurveData(int id, const QVector<double>& samples);
     void tellLatest();
 
-    void resetVariables();
-    QVariantList look() const;
+    // The steps of a paint. Those of them that draw the same as the last time put its pixels back.
+    void resetVariables(QPainter* painter);
     void drawBox(QPainter* painter);
-    void drawScales(QPainter* painter);
-    void drawTimeAxis(QPainter* painter, QTime now);
+    void drawText(QPainter* painter);
     void drawGraph(QPainter* painter);
+
+    void paintBox(QPainter* painter);
+    void paintScales(QPainter* painter);
+    void paintTimeAxis(QPainter* painter, QTime now);
     // What these draw at most; pixels of the widget.
-    QRegion boxAndScales() const;
-    QRegion timeAxis() const;
+    QRegion boxParts() const;
+    QRegion scaleParts() const;
+    QRegion timeParts() const;
+    QVariantList look() const;
 
     const Look m_look;
     QString m_caption;
     QStringList m_seriesNames;
     QMap<int, double> m_latest; // last value given per series, trimmed or not
     std::unique_ptr<PaintMemory> m_boxMemory;
+    std::unique_ptr<PaintMemory> m_scaleMemory;
     std::unique_ptr<PaintMemory> m_timeMemory;
 };
 
