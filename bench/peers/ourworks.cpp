@@ -31,7 +31,7 @@ public:
     {
         ++m_step;
         for (int id = 0; id < m_feed.series; ++id)
-            this->addData(id, TrendFeed::value(id, m_step));
+            this->addData(id, TrendFeed::value(id, m_step) * shareOfScale(id));
         finishPainting();
     }
 
@@ -39,6 +39,13 @@ protected:
     QTime wallClock() const override { return m_feed.now(m_step); }
 
 private:
+    // The right scale of ours ends at 100, and shows all at the peers' height.
+    double shareOfScale(int id) const
+    {
+        constexpr double kRightScale = 100;
+        return m_feed.hasRightScale() && id >= 3 ? kRightScale / TrendFeed::kFullScale : 1;
+    }
+
     TrendFeed m_feed;
     int m_step = 0;
 };
