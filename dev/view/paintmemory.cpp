@@ -1,30 +1,13 @@
 #include "paintmemory.h"
 
+#include "paintpixels.h"
+
 #include <QPaintEngine>
 #include <QPainter>
 
 #include <cstring>
 
 namespace {
-
-// At its own size or larger: what covers the clip there may leave edges when it shrinks or turns.
-bool isUpright(const QTransform& place)
-{
-    return place.type() <= QTransform::TxScale && place.m11() >= 1.0 && place.m22() >= 1.0;
-}
-
-// The image that a painter in its first state paints on, else null.
-QImage* target(QPainter* painter)
-{
-    const QPaintEngine* engine = painter->paintEngine();
-    if (engine->type() != QPaintEngine::Raster || painter->hasClipping() ||
-        painter->opacity() != 1.0 ||
-        painter->compositionMode() != QPainter::CompositionMode_SourceOver)
-        return nullptr;
-    auto* image = dynamic_cast<QImage*>(engine->paintDevice());
-    const bool inWholeBytes = image && image->depth() >= 8 && image->isDetached();
-    return inWholeBytes && isUpright(painter->deviceTransform()) ? image : nullptr;
-}
 
 // Calls `visit` with each row of each rectangle of the clip.
 template <typename Visit>
@@ -66,25 +49,12 @@ void put(QImage& image, const QRegion& clip, const QByteArray& pixels)
     });
 }
 
-QRegion onDevice(const QTransform& place, const QRegion& parts)
-{
-    QRegion pixels;
-    for (const QRect& part : parts)
-        pixels += place.mapRect(QRectF(part)).toAlignedRect();
-    return pixels;
-}
-
-bool reaches(const QRegion& clip, const QRegion& parts)
-{
-    return clip.isEmpty() || (parts - clip).isEmpty();
-}
-
 } // namespace
 
 void PaintMemory::paint(QPainter* painter, const Key& key, int number,
                         const std::function<void()>& paint)
 {
-    QImage* image = target(painter);
+    QImage* image = paintpixels::target(painter);
     const QRegion clip = image ? painter->paintEngine()->systemClip() & image->rect() : QRegion();
     if (clip.isEmpty())
         return paint();
@@ -108,7 +78,7 @@ void PaintMemory::paintOver(QPainter* painter, const QVariantList& key,
                             const std::function<QRegion()>& parts,
                             const std::function<void()>& paint)
 {
-    QImage* image = target(painter);
+    QImage* image = paintpixels::target(painter);
     const QTransform& place = painter->deviceTransform();
     if (!image || place.type() > QTransform::TxScale)
         return paint();
@@ -120,9 +90,8 @@ void PaintMemory::paintOver(QPainter* painter, const QVariantList& key,
         return paint();
     }
     if (m_clip.isEmpty())
-        m_clip = onDevice(place, parts());
-    if (!image->rect().contains(m_clip.boundingRect()) ||
-        !reaches(painter->paintEngine()->systemClip(), m_clip))
+        m_clip = paintpixels::onDevice(place, parts());
+    if (!paintpixels::canPaint(painter, *image, m_clip))
         return paint();
     if (has(*image, m_clip, m_below))
         return put(*image, m_clip, m_pictures.value(0));

@@ -1,12 +1,17 @@
 #include "trendchart.h"
 
-#include "paintmemory.h"
+#include "scrollmemory.h"
 #include "valuetext.h"
 
 #include <QPainter>
+#include <QPaintEvent>
+#include <QtMath>
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <limits>
 
 namespace {
 
@@ -15,15 +20,26 @@ constexpr int kTrimmedOnResize = 3;   // series 0 to 2; the others wait for thei
 constexpr double kMarginShare = 13.0; // margins: this part of the widget's size
 constexpr int kIntervals = 10;        // of the grid and of all three scales
 constexpr double kLabelGap = 5.0;     // px between box and label
+constexpr int kInk = 2;               // px that lines and letters may reach out of their place
+constexpr double kFarAway = 30000;    // px; the paint engine counts no further
+
+QRect inked(const QRectF& place)
+{
+    return place.adjusted(-kInk, -kInk, kInk, kInk).toAlignedRect();
+}
+
+int secondOf(QTime time)
+{
+    return time.msecsSinceStartOfDay() / 1000;
+}
 
 } // namespace
 
 TrendChart::TrendChart(const Look& look, QWidget* parent)
     : QWidget(parent)
     , m_look(look)
-    , m_boxMemory(new PaintMemory)
-    , m_scaleMemory(new PaintMemory)
-    , m_timeMemory(new PaintMemory)
+    , m_timeTexts(kMostTimeTexts)
+    , m_curveMemory(new ScrollMemory)
 {
     Q_ASSERT(look.curves.size() <= kMaxSeries);
     initVariables();
@@ -65,7 +81,7 @@ void TrendChart::addData(int id, qreal value)
         samples.prepend(value);
         if (samples.size() == 1) // a series starts with two samples, so that it is a line at once
             samples.prepend(value);
-        m_latest[id] = value;
+        m_latest[id] = std::isfinite(value) ? QString::number(value) : valuetext::outOfRange();
         tellLatest();
     }
     updateVector(id);
@@ -77,15 +93,34 @@ void TrendChart::updateVector(int id)
     const int capacity = static_cast<int>(m_boxRect.width() / kSampleStep);
     if (hasSeries(id) && series(id).size() > capacity)
         series(id).removeAt(capacity);
-    for (int i = 0; hasSeries(i); ++i)
+    const QRegion before = m_curveRows;
+    bool isSame = true;
+    for (int i = 0; hasSeries(i); ++i) {
+        isSame = isSame && curveMap.contains(i) && curveMap.value(i) == series(i);
         setCurveData(i, series(i));
-    update();
+    }
+    if (!isSame)
+        updatePart(before | m_curveRows);
+    if (isSame || secondOf(wallClock()) != secondOf(m_now))
+        updatePart(timesPlace());
 }
 
 void TrendChart::setCurveData(int id, const QVector<double>& samples)
 {
+    if (curveMap.contains(id) && curveMap.value(id) == samples)
+        return;
     curveMap[id] = samples;
-    update();
+    m_places[id] = curvePlace(id);
+    m_curveRows = curveRows();
+}
+
+// The edges of a part show where they lie between pixels of the screen, and where they cut a line
+// that leaves the picture.
+void TrendChart::updatePart(const QRegion& part)
+{
+    const double ratio = devicePixelRatioF();
+    const bool isClean = ratio == std::floor(ratio) && rect().contains(m_curveRows.boundingRect());
+    update(isClean && !m_boxRect.isEmpty() ? part : rect());
 }
 
 void TrendChart::setUseAntialiasing(bool on)
@@ -119,9 +154,7 @@ void TrendChart::tellLatest()
         const QString name = latest.key() < m_seriesNames.size()
                                  ? m_seriesNames.at(latest.key())
                                  : tr("Curve %1").arg(latest.key() + 1);
-        const QString number = std::isfinite(latest.value()) ? QString::number(latest.value())
-                                                             : valuetext::outOfRange();
-        values.append(name + QLatin1Char(' ') + number);
+        values.append(name + QLatin1Char(' ') + *latest);
     }
     const QString told = values.join(QLatin1String(", "));
     setAccessibleName(m_caption.isEmpty() || told.isEmpty()
@@ -140,15 +173,16 @@ void TrendChart::resizeEvent(QResizeEvent* event)
 void TrendChart::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    for (PaintMemory* memory : {m_boxMemory.get(), m_scaleMemory.get(), m_timeMemory.get()})
-        memory->clear();
+    m_curveMemory->clear();
 }
 
-void TrendChart::paintEvent(QPaintEvent*)
+// Repaints what the event asks for, most often the curves and the times only.
+void TrendChart::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     if (m_bUseAntialiasing)
         painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    m_exposed = event->region();
     resetVariables(&painter);
     drawBox(&painter);
     drawText(&painter);
@@ -164,36 +198,35 @@ void TrendChart::resetVariables(QPainter*)
     m_topSpace = height() / kMarginShare;
 }
 
-// All that box and scales depend on.
-QVariantList TrendChart::look() const
+// Calls `draw`, which draws at `place`, for each exposed rectangle that it reaches: the paint
+// engine is several times slower within a clip of many.
+template <typename Draw>
+void TrendChart::drawAt(const QRectF& place, QPainter* painter, Draw draw)
 {
-    return {size(),       font(),     logicalDpiX(), logicalDpiY(), m_bUseAntialiasing,
-            m_bShowHLine, max_Y_Left, max_Y_Right};
+    const QRect reach = inked(place);
+    for (const QRect& exposed : m_exposed) {
+        if (!exposed.intersects(reach))
+            continue;
+        if (!exposed.contains(reach))
+            painter->setClipRect(exposed);
+        draw();
+        painter->setClipping(false);
+    }
 }
 
 void TrendChart::drawBox(QPainter* painter)
 {
-    m_boxRect = QRectF(QPointF(m_leftSpace, m_topSpace),
-                       QPointF(width() - m_leftSpace, height() - m_topSpace));
-    m_boxMemory->paintOver(
-        painter, look(), [this] { return boxParts(); }, [&] { paintBox(painter); });
-}
-
-void TrendChart::drawText(QPainter* painter)
-{
-    const QTime now = wallClock();
-    m_scaleMemory->paintOver(
-        painter, look(), [this] { return scaleParts(); }, [&] { paintScales(painter); });
-    m_timeMemory->paintOver(
-        painter, look() << now.hour() << now.minute() << now.second(),
-        [this] { return timeParts(); }, [&] { paintTimeAxis(painter, now); });
-}
-
-void TrendChart::paintBox(QPainter* painter)
-{
+    const QRectF box(QPointF(m_leftSpace, m_topSpace),
+                     QPointF(width() - m_leftSpace, height() - m_topSpace));
+    if (box != m_boxRect) {
+        m_boxRect = box;
+        for (auto curve = curveMap.cbegin(); curve != curveMap.cend(); ++curve)
+            m_places[curve.key()] = curvePlace(curve.key());
+        m_curveRows = curveRows();
+    }
     painter->setPen(Qt::black);
     painter->setBrush(Qt::NoBrush);
-    painter->drawRect(m_boxRect);
+    drawFrame(painter);
 
     if (m_look.gridCanBeHidden && !m_bShowHLine)
         return;
@@ -201,110 +234,261 @@ void TrendChart::paintBox(QPainter* painter)
     const double step = m_boxRect.height() / kIntervals;
     for (int k = 1; k < kIntervals; ++k) {
         const double y = m_boxRect.top() + k * step;
-        painter->drawLine(QPointF(m_boxRect.left(), y), QPointF(m_boxRect.right(), y));
+        const QLineF line(m_boxRect.left(), y, m_boxRect.right(), y);
+        drawAt(QRectF(line.p1(), line.p2()), painter, [&] { painter->drawLine(line); });
     }
 }
 
-QRegion TrendChart::boxParts() const
+// Where only the right side is to be painted, a line does in a fraction of the time of a rectangle;
+// a thin one has the same pixels.
+void TrendChart::drawFrame(QPainter* painter)
 {
-    QRegion region;
-    const auto addLine = [&](const QPointF& from, const QPointF& to) {
-        region += QRectF(from, to).adjusted(-1, -1, 1, 1).toAlignedRect();
-    };
-    addLine(m_boxRect.topLeft(), m_boxRect.bottomLeft());
-    addLine(m_boxRect.topRight(), m_boxRect.bottomRight());
-    for (int k = 0; k <= kIntervals; ++k) {
-        const QPointF down(0, k * (m_boxRect.height() / kIntervals));
-        addLine(m_boxRect.topLeft() + down, m_boxRect.topRight() + down);
+    const bool isThin = painter->deviceTransform().m11() == 1.0;
+    const QRectF inner = m_boxRect.adjusted(kInk, kInk, -kInk, -kInk);
+    const QRectF beside(inner.topLeft(), QPointF(width(), inner.bottom()));
+    for (const QRect& exposed : m_exposed& inked(m_boxRect)) {
+        if (inner.contains(exposed))
+            continue;
+        painter->setClipRect(exposed);
+        if (isThin && beside.contains(exposed))
+            painter->drawLine(m_boxRect.topRight(), m_boxRect.bottomRight());
+        else
+            painter->drawRect(m_boxRect);
+        painter->setClipping(false);
     }
-    return region & rect();
 }
 
-void TrendChart::paintScales(QPainter* painter)
+void TrendChart::drawText(QPainter* painter)
+{
+    painter->setPen(Qt::black);
+    drawScales(painter);
+    keepTime();
+    drawAt(QRectF(QPointF(0, m_boxRect.bottom()), QPointF(width(), height())), painter,
+           [&] { drawTimeAxis(painter); });
+}
+
+void TrendChart::drawScales(QPainter* painter)
 {
     constexpr int kLeftStep = 40; // per label, whatever the top label is
     constexpr int kRightStep = 10;
 
-    painter->setPen(Qt::black);
     const QFontMetrics metrics = fontMetrics();
+    const double step = m_boxRect.height() / kIntervals;
+    const QPointF left = m_boxRect.topLeft() + QPointF(-kLabelGap, metrics.height() / 2.0);
+    const QPointF right = m_boxRect.topRight() + QPointF(kLabelGap, metrics.height() / 2.0);
     for (int k = 0; k <= kIntervals; ++k) {
-        const double baseline =
-            m_boxRect.top() + k * (m_boxRect.height() / kIntervals) + metrics.height() / 2.0;
-        const QString left = QString::number(max_Y_Left - k * kLeftStep);
-        painter->drawText(
-            QPointF(m_boxRect.left() - kLabelGap - metrics.horizontalAdvance(left), baseline),
-            left);
+        const QPointF down(0, k * step);
+        const double top = left.y() + down.y() - metrics.ascent();
+        drawAt(QRectF(0, top, left.x(), metrics.height()), painter, [&] {
+            const QString text = QString::number(max_Y_Left - k * kLeftStep);
+            painter->drawText(left + down - QPointF(metrics.horizontalAdvance(text), 0), text);
+        });
         if (!m_look.hasRightScale)
             continue;
-        // Half the label's own width further out than the gap asks for; meant so.
-        const QString right = QString::number(max_Y_Right - k * kRightStep);
-        painter->drawText(
-            QPointF(m_boxRect.right() + kLabelGap + metrics.horizontalAdvance(right) / 2.0,
-                    baseline),
-            right);
+        drawAt(QRectF(right.x(), top, width() - right.x(), metrics.height()), painter, [&] {
+            // Half the label's own width further out than the gap asks for; meant so.
+            const QString text = QString::number(max_Y_Right - k * kRightStep);
+            const double out = metrics.horizontalAdvance(text) / 2.0;
+            painter->drawText(right + down + QPointF(out, 0), text);
+        });
     }
 }
 
-// The margins, as high as the box and a letter's height around its corners.
-QRegion TrendChart::scaleParts() const
-{
-    constexpr int kInk = 2; // px that letters may reach out of their place
-    const double above = fontMetrics().height() + kInk;
-    const QRectF high = m_boxRect.adjusted(0, -above, 0, above);
-    QRegion region = QRectF(QPointF(0, high.top()), high.bottomLeft()).toAlignedRect();
-    if (m_look.hasRightScale)
-        region += QRectF(high.topRight(), QPointF(width(), high.bottom())).toAlignedRect();
-    return region & rect();
-}
-
 // A ruler laid over the present, from 40 s ago to 60 s ahead; it is not tied to the samples.
-void TrendChart::paintTimeAxis(QPainter* painter, QTime now)
+void TrendChart::drawTimeAxis(QPainter* painter)
 {
     constexpr int kSecondsPerLabel = 10;
     constexpr int kFirstSecond = -40;
     constexpr int kTickLength = 5; // px
-    constexpr QSize kLabelSize{100, 15};
+    constexpr int kLabelWidth = 100;
 
-    painter->setPen(Qt::black);
     const int bottom = static_cast<int>(m_boxRect.bottom());
     for (int k = 0; k <= kIntervals; ++k) {
         // One pixel inside the box's edge, except at its right end.
         const int x = static_cast<int>(m_boxRect.left() + m_boxRect.width() * k / kIntervals) +
                       (k == kIntervals ? 0 : 1);
         painter->drawLine(x, bottom, x, bottom + kTickLength);
-        const QRect place(
-            QPoint(x - kLabelSize.width() / 2, static_cast<int>(m_boxRect.bottom() + kLabelGap)),
-            kLabelSize);
-        painter->drawText(
-            place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip,
-            now.addSecs(kFirstSecond + k * kSecondsPerLabel).toString(QStringLiteral("hh:mm:ss")));
+        const QStaticText& text = timeText(m_now.addSecs(kFirstSecond + k * kSecondsPerLabel));
+        painter->drawStaticText(
+            QPointF(x - kLabelWidth / 2 + (kLabelWidth - text.size().width()) / 2,
+                    static_cast<int>(m_boxRect.bottom() + kLabelGap)),
+            text);
     }
 }
 
-QRegion TrendChart::timeParts() const
+// The time of a paint that leaves parts of the axis as they are is that of those parts.
+void TrendChart::keepTime()
 {
-    return QRect(0, static_cast<int>(m_boxRect.bottom()) - 1, width(), height()) & rect();
+    const QTime now = wallClock();
+    if (m_now.isValid() && secondOf(now) == secondOf(m_now))
+        return;
+    const QRegion times = timesPlace();
+    if (!m_now.isValid() || ((times & visibleRegion()) - m_exposed).isEmpty())
+        m_now = now;
+    else
+        updatePart(times);
+}
+
+// Below the ends of the ticks.
+QRect TrendChart::timesPlace() const
+{
+    return QRect(0, static_cast<int>(m_boxRect.bottom() + kLabelGap) - kInk, width(), height()) &
+           rect();
+}
+
+// Most texts come again ten seconds later, a label further left, and are laid out once.
+const QStaticText& TrendChart::timeText(QTime time)
+{
+    const int second = secondOf(time);
+    if (m_timeFont != font()) {
+        m_timeFont = font();
+        m_timeTexts.clear();
+    }
+    if (!m_timeTexts.contains(second)) {
+        auto* text = new QStaticText(time.toString(QStringLiteral("hh:mm:ss")));
+        text->setTextFormat(Qt::PlainText);
+        text->setPerformanceHint(QStaticText::AggressiveCaching);
+        text->prepare(QTransform(), m_timeFont);
+        m_timeTexts.insert(second, text);
+    }
+    return *m_timeTexts.object(second);
+}
+
+double TrendChart::xOf(int sample) const
+{
+    return m_boxRect.right() - kSampleStep * (sample - 1);
+}
+
+double TrendChart::yOf(double pixels) const
+{
+    return m_boxRect.bottom() - qBound(-kFarAway, pixels, kFarAway);
+}
+
+// In px per unit.
+double TrendChart::scaleOf(int id) const
+{
+    return m_boxRect.height() / m_look.curves.at(id).fullScale;
+}
+
+// What a curve covers at most.
+QRect TrendChart::curvePlace(int id) const
+{
+    const QVector<double> samples = curveMap.value(id);
+    double least = std::numeric_limits<double>::infinity();
+    double most = -least;
+    for (double value : samples) { // neither is met by what is not a number
+        if (value < least)
+            least = value;
+        if (value > most)
+            most = value;
+    }
+    if (!(least <= most))
+        return {};
+    const QPointF right(m_boxRect.right(), yOf(least * scaleOf(id)));
+    const QPointF left(leftEnd(samples), yOf(most * scaleOf(id)));
+    return inked(QRectF(left, right));
+}
+
+// All curves, each whole in one of the rectangles: the paint engine cuts lines at the edge of a
+// clip, and thick ones look it.
+QRegion TrendChart::curveRows() const
+{
+    QRect bounds;
+    for (const QRect& place : m_places)
+        bounds |= place;
+    QRegion rows;
+    for (const QRect& place : m_places)
+        rows += QRect(bounds.left(), place.top(), bounds.width(), place.height());
+    return rows;
 }
 
 void TrendChart::drawGraph(QPainter* painter)
 {
+    if (!m_exposed.intersects(m_curveRows))
+        return;
+    ScrollMemory::Move move;
+    const int samples = rect().contains(m_curveRows.boundingRect()) ? samplesSinceDrawn() : -1;
+    if (samples >= 0) {
+        move.distance = static_cast<int>(samples * kSampleStep);
+        move.still = stillPlace(move.distance);
+        move.reach = qCeil(kSampleStep) + kInk;
+    }
+    m_curveMemory->paint(painter, m_curveRows, move,
+                         [this](QPainter* on, const QRect& place) { drawCurves(on, place); });
+    m_drawn = {curveMap, color_pen, m_boxRect, m_bUseAntialiasing};
+}
+
+// By how many samples the curves have moved on since the last paint; -1: something else is painted.
+int TrendChart::samplesSinceDrawn() const
+{
+    constexpr int kMost = 4;
+    if (m_drawn.box != m_boxRect || m_drawn.pens != color_pen ||
+        m_drawn.isAntialiased != m_bUseAntialiasing)
+        return -1;
+    int samples = 0;
+    while (samples <= kMost && !isDrawnUpTo(samples))
+        ++samples;
+    return samples <= kMost ? samples : -1;
+}
+
+// Between the ends of the curves, new and old, where they have only moved.
+QRect TrendChart::stillPlace(double distance) const
+{
+    double left = m_boxRect.left();
+    for (const QVector<double>& now : curveMap)
+        left = qMax(left, leftEnd(now));
+    for (const QVector<double>& then : m_drawn.curves)
+        left = qMax(left, leftEnd(then) - distance);
+    const int first = qCeil(left) + kInk;
+    const int last = qFloor(m_boxRect.right() - distance) - kInk;
+    return {first, 0, qMax(last - first, 0), height()};
+}
+
+// All curves are those of the last paint with `samples` more.
+bool TrendChart::isDrawnUpTo(int samples) const
+{
+    constexpr int kLeast = 2; // of a curve that draws something
+    return m_drawn.curves.size() == curveMap.size() &&
+           std::equal(curveMap.cbegin(), curveMap.cend(), m_drawn.curves.cbegin(),
+                      [=](const QVector<double>& now, const QVector<double>& then) {
+                          const int common = qMin(now.size() - samples, then.size());
+                          if (common < kLeast)
+                              return now.size() < kLeast && then.size() < kLeast;
+                          return std::memcmp(now.constData() + samples, then.constData(),
+                                             common * sizeof(double)) == 0;
+                      });
+}
+
+double TrendChart::leftEnd(const QVector<double>& samples) const
+{
+    return xOf(qMax(samples.size() - 1, 1));
+}
+
+// What of them reaches into `place`.
+void TrendChart::drawCurves(QPainter* painter, const QRect& place)
+{
     constexpr int kUsualSegments = 256; // on the stack; more of them move to the heap
-    constexpr double kFarAway = 30000;  // px; the paint engine counts no further
+    const QRectF reach = inked(place);
+    const int first = qFloor((m_boxRect.right() - reach.right()) / kSampleStep);
+    const int last = qCeil((m_boxRect.right() - reach.left()) / kSampleStep) + 2;
 
     painter->setBrush(Qt::NoBrush);
     for (auto curve = curveMap.cbegin(); curve != curveMap.cend(); ++curve) {
+        if (!m_places.at(curve.key()).intersects(place))
+            continue;
         const QVector<double>& samples = curve.value();
-        const double pixelsPerUnit = m_boxRect.height() / m_look.curves.at(curve.key()).fullScale;
-        const auto y = [&](double value) {
-            return m_boxRect.bottom() - qBound(-kFarAway, pixelsPerUnit * value, kFarAway);
-        };
         QVarLengthArray<QLineF, kUsualSegments> segments;
-        double x = m_boxRect.right(); // of samples 0 and 1 alike
-        for (int k = 1; k < samples.size(); ++k) {
-            const double previousX = k == 1 ? x : x + kSampleStep;
-            if (!std::isnan(samples[k - 1]) && !std::isnan(samples[k]))
-                segments.append(QLineF(previousX, y(samples[k - 1]), x, y(samples[k])));
-            x -= kSampleStep;
+        const double pixelsPerUnit = scaleOf(curve.key());
+        const auto point = [&](int k) { // samples 0 and 1 stand at the right edge alike
+            return QPointF(xOf(qMax(k, 1)), yOf(samples[k] * pixelsPerUnit));
+        };
+        for (int k = qMax(first, 1); k <= qMin(last, samples.size() - 1); ++k) {
+            if (std::isnan(samples[k - 1]) || std::isnan(samples[k]))
+                continue;
+            const QLineF segment(point(k - 1), point(k));
+            if (qMin(segment.y1(), segment.y2()) <= reach.bottom() &&
+                qMax(segment.y1(), segment.y2()) >= reach.top())
+                segments.append(segment);
         }
         if (segments.isEmpty())
             continue;

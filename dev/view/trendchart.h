@@ -7,20 +7,23 @@
 
 #include "devview_export.h"
 
+#include <QCache>
 #include <QColor>
+#include <QFont>
 #include <QList>
 #include <QMap>
 #include <QPen>
 #include <QRegion>
+#include <QStaticText>
 #include <QStringList>
 #include <QTime>
-#include <QVariantList>
 #include <QVector>
 #include <QWidget>
 
+#include <array>
 #include <memory>
 
-class PaintMemory;
+class ScrollMemory;
 
 class DEVVIEW_EXPORT TrendChart : public QWidget
 {
@@ -97,30 +100,54 @@ private:
     void initVariables();
     void updateVector(int id);
     void setCurveData(int id, const QVector<double>& samples);
+    void updatePart(const QRegion& part);
     void tellLatest();
 
-    // The steps of a paint. Those of them that draw the same as the last time put its pixels back.
+    // The steps of a paint. They leave out what m_exposed does not touch.
     void resetVariables(QPainter* painter);
     void drawBox(QPainter* painter);
+    void drawFrame(QPainter* painter);
     void drawText(QPainter* painter);
+    void drawScales(QPainter* painter);
+    void drawTimeAxis(QPainter* painter);
     void drawGraph(QPainter* painter);
 
-    void paintBox(QPainter* painter);
-    void paintScales(QPainter* painter);
-    void paintTimeAxis(QPainter* painter, QTime now);
-    // What these draw at most; pixels of the widget.
-    QRegion boxParts() const;
-    QRegion scaleParts() const;
-    QRegion timeParts() const;
-    QVariantList look() const;
+    void drawCurves(QPainter* painter, const QRect& place);
+
+    template <typename Draw>
+    void drawAt(const QRectF& place, QPainter* painter, Draw draw);
+    void keepTime();
+    QRect timesPlace() const;
+    const QStaticText& timeText(QTime time);
+    double xOf(int sample) const;
+    double yOf(double pixels) const;
+    double scaleOf(int id) const;
+    QRect curvePlace(int id) const;
+    QRegion curveRows() const;
+    double leftEnd(const QVector<double>& samples) const;
+    bool isDrawnUpTo(int samples) const;
+    int samplesSinceDrawn() const;
+    QRect stillPlace(double distance) const;
+
+    static constexpr int kMostTimeTexts = 128; // a sample each second shows 110 before one is old
 
     const Look m_look;
     QString m_caption;
     QStringList m_seriesNames;
-    QMap<int, double> m_latest; // last value given per series, trimmed or not
-    std::unique_ptr<PaintMemory> m_boxMemory;
-    std::unique_ptr<PaintMemory> m_scaleMemory;
-    std::unique_ptr<PaintMemory> m_timeMemory;
+    QMap<int, QString> m_latest;          // last value given per series, trimmed or not
+    QRegion m_exposed;                    // by the paint in progress
+    QTime m_now;                          // that the time axis shows
+    QCache<int, QStaticText> m_timeTexts; // by second of the day
+    QFont m_timeFont;
+    std::array<QRect, kMaxSeries> m_places; // of the curves, what they cover at most
+    QRegion m_curveRows;                    // they in rows of one width
+    struct {                                // of the last paint
+        QMap<int, QVector<double>> curves;
+        QList<QPen> pens;
+        QRectF box;
+        bool isAntialiased = false;
+    } m_drawn;
+    std::unique_ptr<ScrollMemory> m_curveMemory;
 };
 
 #endif // TRENDCHART_H

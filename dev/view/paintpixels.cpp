@@ -1,0 +1,41 @@
+#include "paintpixels.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+
+namespace {
+
+// At its own size or larger: what covers the clip there may leave edges when it shrinks or turns.
+bool isUpright(const QTransform& place)
+{
+    return place.type() <= QTransform::TxScale && place.m11() >= 1.0 && place.m22() >= 1.0;
+}
+
+} // namespace
+
+QImage* paintpixels::target(QPainter* painter)
+{
+    const QPaintEngine* engine = painter->paintEngine();
+    if (engine->type() != QPaintEngine::Raster || painter->hasClipping() ||
+        painter->opacity() != 1.0 ||
+        painter->compositionMode() != QPainter::CompositionMode_SourceOver)
+        return nullptr;
+    auto* image = dynamic_cast<QImage*>(engine->paintDevice());
+    const bool inWholeBytes = image && image->depth() >= 8 && image->isDetached();
+    return inWholeBytes && isUpright(painter->deviceTransform()) ? image : nullptr;
+}
+
+QRegion paintpixels::onDevice(const QTransform& place, const QRegion& parts)
+{
+    QRegion pixels;
+    for (const QRect& part : parts)
+        pixels += place.mapRect(QRectF(part)).toAlignedRect();
+    return pixels;
+}
+
+bool paintpixels::canPaint(QPainter* painter, const QImage& image, const QRegion& pixels)
+{
+    const QRegion clip = painter->paintEngine()->systemClip();
+    return image.rect().contains(pixels.boundingRect()) &&
+           (clip.isEmpty() || (pixels - clip).isEmpty());
+}

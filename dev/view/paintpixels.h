@@ -1,0 +1,24 @@
+#ifndef DEVVIEW_PAINTPIXELS_H
+#define DEVVIEW_PAINTPIXELS_H
+
+// The pixels below a painter, for those who put back what was painted earlier.
+// May touch: Qt Gui.
+
+#include <QImage>
+#include <QRegion>
+#include <QTransform>
+
+class QPainter;
+
+namespace paintpixels {
+
+// The image that a painter in its first state paints on, at its own size or larger, else null.
+QImage* target(QPainter* painter);
+// Parts of a widget in pixels of the image.
+QRegion onDevice(const QTransform& place, const QRegion& parts);
+// Whether all of `pixels` is on the image and may be painted on.
+bool canPaint(QPainter* painter, const QImage& image, const QRegion& pixels);
+
+} // namespace paintpixels
+
+#endif // DEVVIEW_PAINTPIXELS_H
