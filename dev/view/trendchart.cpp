@@ -20,12 +20,13 @@ constexpr int kTrimmedOnResize = 3;   // series 0 to 2; the others wait for thei
 constexpr double kMarginShare = 13.0; // margins: this part of the widget's size
 constexpr int kIntervals = 10;        // of the grid and of all three scales
 constexpr double kLabelGap = 5.0;     // px between box and label
-constexpr int kInk = 2;               // px that lines and letters may reach out of their place
+constexpr int kInk = 1;               // px that lines reach out of their place
+constexpr int kLetterInk = 2;         // px that letters do
 constexpr double kFarAway = 30000;    // px; the paint engine counts no further
 
-QRect inked(const QRectF& place)
+QRect inked(const QRectF& place, int ink = kInk)
 {
-    return place.adjusted(-kInk, -kInk, kInk, kInk).toAlignedRect();
+    return place.adjusted(-ink, -ink, ink, ink).toAlignedRect();
 }
 
 int secondOf(QTime time)
@@ -96,7 +97,10 @@ void TrendChart::updateVector(int id)
     const QRegion before = m_curveRows;
     bool isSame = true;
     for (int i = 0; hasSeries(i); ++i) {
-        isSame = isSame && curveMap.contains(i) && curveMap.value(i) == series(i);
+        const auto shown = curveMap.constFind(i);
+        if (shown != curveMap.constEnd() && *shown == series(i))
+            continue;
+        isSame = false;
         setCurveData(i, series(i));
     }
     if (!isSame)
@@ -107,8 +111,6 @@ void TrendChart::updateVector(int id)
 
 void TrendChart::setCurveData(int id, const QVector<double>& samples)
 {
-    if (curveMap.contains(id) && curveMap.value(id) == samples)
-        return;
     curveMap[id] = samples;
     m_places[id] = curvePlace(id);
     m_curveRows = curveRows();
@@ -278,14 +280,15 @@ void TrendChart::drawScales(QPainter* painter)
     const QPointF right = m_boxRect.topRight() + QPointF(kLabelGap, metrics.height() / 2.0);
     for (int k = 0; k <= kIntervals; ++k) {
         const QPointF down(0, k * step);
-        const double top = left.y() + down.y() - metrics.ascent();
-        drawAt(QRectF(0, top, left.x(), metrics.height()), painter, [&] {
+        const double top = left.y() + down.y() - metrics.ascent() - kLetterInk;
+        const double high = metrics.height() + 2 * kLetterInk;
+        drawAt(QRectF(0, top, left.x() + kLetterInk, high), painter, [&] {
             const QString text = QString::number(max_Y_Left - k * kLeftStep);
             painter->drawText(left + down - QPointF(metrics.horizontalAdvance(text), 0), text);
         });
         if (!m_look.hasRightScale)
             continue;
-        drawAt(QRectF(right.x(), top, width() - right.x(), metrics.height()), painter, [&] {
+        drawAt(QRectF(right.x() - kLetterInk, top, width(), high), painter, [&] {
             // Half the label's own width further out than the gap asks for; meant so.
             const QString text = QString::number(max_Y_Right - k * kRightStep);
             const double out = metrics.horizontalAdvance(text) / 2.0;
@@ -332,7 +335,8 @@ void TrendChart::keepTime()
 // Below the ends of the ticks.
 QRect TrendChart::timesPlace() const
 {
-    return QRect(0, static_cast<int>(m_boxRect.bottom() + kLabelGap) - kInk, width(), height()) &
+    return QRect(0, static_cast<int>(m_boxRect.bottom() + kLabelGap) - kLetterInk, width(),
+                 height()) &
            rect();
 }
 
@@ -370,6 +374,12 @@ double TrendChart::scaleOf(int id) const
     return m_boxRect.height() / m_look.curves.at(id).fullScale;
 }
 
+// Of a curve. A thick line is cut also where it only comes near the edge of a clip.
+int TrendChart::ink() const
+{
+    return devicePixelRatioF() == 1.0 ? kInk : 2 * kInk;
+}
+
 // What a curve covers at most.
 QRect TrendChart::curvePlace(int id) const
 {
@@ -386,7 +396,7 @@ QRect TrendChart::curvePlace(int id) const
         return {};
     const QPointF right(m_boxRect.right(), yOf(least * scaleOf(id)));
     const QPointF left(leftEnd(samples), yOf(most * scaleOf(id)));
-    return inked(QRectF(left, right));
+    return inked(QRectF(left, right), ink());
 }
 
 // All curves, each whole in one of the rectangles: the paint engine cuts lines at the edge of a
@@ -411,7 +421,7 @@ void TrendChart::drawGraph(QPainter* painter)
     if (samples >= 0) {
         move.distance = static_cast<int>(samples * kSampleStep);
         move.still = stillPlace(move.distance);
-        move.reach = qCeil(kSampleStep) + kInk;
+        move.reach = qCeil(kSampleStep) + ink();
     }
     m_curveMemory->paint(painter, m_curveRows, move,
                          [this](QPainter* on, const QRect& place) { drawCurves(on, place); });
@@ -439,8 +449,8 @@ QRect TrendChart::stillPlace(double distance) const
         left = qMax(left, leftEnd(now));
     for (const QVector<double>& then : m_drawn.curves)
         left = qMax(left, leftEnd(then) - distance);
-    const int first = qCeil(left) + kInk;
-    const int last = qFloor(m_boxRect.right() - distance) - kInk;
+    const int first = qCeil(left) + ink();
+    const int last = qFloor(m_boxRect.right() - distance) - ink();
     return {first, 0, qMax(last - first, 0), height()};
 }
 
@@ -468,7 +478,7 @@ double TrendChart::leftEnd(const QVector<double>& samples) const
 void TrendChart::drawCurves(QPainter* painter, const QRect& place)
 {
     constexpr int kUsualSegments = 256; // on the stack; more of them move to the heap
-    const QRectF reach = inked(place);
+    const QRectF reach = inked(place, ink());
     const int first = qFloor((m_boxRect.right() - reach.right()) / kSampleStep);
     const int last = qCeil((m_boxRect.right() - reach.left()) / kSampleStep) + 2;
 

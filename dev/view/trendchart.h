@@ -122,6 +122,7 @@ private:
     double xOf(int sample) const;
     double yOf(double pixels) const;
     double scaleOf(int id) const;
+    int ink() const;
     QRect curvePlace(int id) const;
     QRegion curveRows() const;
     double leftEnd(const QVector<double>& samples) const;
