@@ -17,6 +17,7 @@ namespace {
 
 constexpr QPoint kPlace(13, 7); // in the window
 constexpr QSize kSize(330, 300);
+constexpr int kAside = -150; // so far out of the window at most
 
 template <typename Chart>
 class Probe : public Chart
@@ -41,7 +42,7 @@ public:
         case 1: // as where something lay over it; thick lines are cut there, and look it
             if (this->devicePixelRatioF() != 1)
                 return this->update();
-            return this->update(QRect(dice.bounded(kSize.width()), 0, 40, kSize.height()));
+            return this->update(QRect(-kAside + dice.bounded(-kAside), 0, 40, kSize.height()));
         case 2:
             this->m_bShowHLine = !this->m_bShowHLine;
             return this->update();
@@ -132,7 +133,7 @@ void changeAtRandom(QWidget& window, QWidget& widget, QRandomGenerator& dice)
         return widget.setFont(font);
     }
     case 5:
-        return widget.move(kPlace + QPoint(even, 0));
+        return widget.move(kPlace + QPoint(even ? 0 : kAside, dice.bounded(2)));
     case 6:
         return widget.setEnabled(even);
     default:

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -94,24 +95,22 @@ void TrendChart::updateVector(int id)
     const int capacity = static_cast<int>(m_boxRect.width() / kSampleStep);
     if (hasSeries(id) && series(id).size() > capacity)
         series(id).removeAt(capacity);
-    const QRegion before = m_curveRows;
-    bool isSame = true;
-    for (int i = 0; hasSeries(i); ++i) {
-        const auto shown = curveMap.constFind(i);
-        if (shown != curveMap.constEnd() && *shown == series(i))
-            continue;
-        isSame = false;
+    QRegion changed = m_curveRows;
+    for (int i = 0; hasSeries(i); ++i)
         setCurveData(i, series(i));
-    }
-    if (!isSame)
-        updatePart(before | m_curveRows);
-    if (isSame || secondOf(wallClock()) != secondOf(m_now))
-        updatePart(timesPlace());
+    changed += m_curveRows;
+    const int second = secondOf(wallClock());
+    if (std::exchange(m_secondAsked, second) != second || changed.isEmpty())
+        changed += timesPlace();
+    updatePart(changed);
 }
 
 void TrendChart::setCurveData(int id, const QVector<double>& samples)
 {
-    curveMap[id] = samples;
+    QVector<double>& shown = curveMap[id];
+    if (shown == samples)
+        return;
+    shown = samples;
     m_places[id] = curvePlace(id);
     m_curveRows = curveRows();
 }
@@ -319,15 +318,14 @@ void TrendChart::drawTimeAxis(QPainter* painter)
     }
 }
 
-// The time of a paint that leaves parts of the axis as they are is that of those parts.
+// A paint that leaves parts of the times as they are shows the same, and asks for another one.
 void TrendChart::keepTime()
 {
-    const QTime now = wallClock();
-    if (m_now.isValid() && secondOf(now) == secondOf(m_now))
-        return;
     const QRegion times = timesPlace();
+    if (!m_exposed.intersects(times))
+        return;
     if (!m_now.isValid() || ((times & visibleRegion()) - m_exposed).isEmpty())
-        m_now = now;
+        m_now = wallClock();
     else
         updatePart(times);
 }
@@ -447,8 +445,6 @@ QRect TrendChart::stillPlace(double distance) const
     double left = m_boxRect.left();
     for (const QVector<double>& now : curveMap)
         left = qMax(left, leftEnd(now));
-    for (const QVector<double>& then : m_drawn.curves)
-        left = qMax(left, leftEnd(then) - distance);
     const int first = qCeil(left) + ink();
     const int last = qFloor(m_boxRect.right() - distance) - ink();
     return {first, 0, qMax(last - first, 0), height()};

@@ -135,9 +135,10 @@ private:
     const Look m_look;
     QString m_caption;
     QStringList m_seriesNames;
-    QMap<int, QString> m_latest;          // last value given per series, trimmed or not
-    QRegion m_exposed;                    // by the paint in progress
-    QTime m_now;                          // that the time axis shows
+    QMap<int, QString> m_latest; // last value given per series, trimmed or not
+    QRegion m_exposed;           // by the paint in progress
+    QTime m_now;                 // that the time axis shows
+    int m_secondAsked = -1;      // of the day, for which the time axis was last to be painted
     QCache<int, QStaticText> m_timeTexts; // by second of the day
     QFont m_timeFont;
     std::array<QRect, kMaxSeries> m_places; // of the curves, what they cover at most
