@@ -114,19 +114,23 @@ QImage painted(QWidget& window, int ratio, QImage::Format format)
     return image;
 }
 
+// The second has an edge just where new samples come in.
+constexpr const char* kGrounds[] = {"background: rgba(255, 0, 0, 90)",
+                                    "background: red; border-right: 27px solid blue"};
+
 // What can happen to any widget.
 void changeAtRandom(QWidget& window, QWidget& widget, QRandomGenerator& dice)
 {
     const bool even = dice.bounded(2) == 0;
     switch (dice.bounded(8)) {
     case 0:
-        return widget.resize(kSize - QSize(dice.bounded(3), dice.bounded(3)));
+        return widget.resize(kSize - QSize(dice.bounded(27), dice.bounded(27)));
     case 1:
         return window.setPalette(even ? Qt::white : QColor(30, 40, 50));
     case 2:
         return window.setStyleSheet(even ? "" : "* { font: 14pt; color: red }");
     case 3:
-        return widget.setStyleSheet(even ? "" : "background: rgba(255, 0, 0, 90)");
+        return widget.setStyleSheet(dice.bounded(3) ? kGrounds[dice.bounded(2)] : "");
     case 4: {
         QFont font(even ? QStringLiteral("Liberation Sans") : QStringLiteral("Liberation Serif"));
         font.setPointSize(dice.bounded(7, 9));

@@ -47,38 +47,43 @@ void ScrollMemory::paint(QPainter* painter, const QRegion& parts, const Move& mo
         clear();
         return paint(painter, parts.boundingRect());
     }
-    const bool isMoved = move.distance >= 0 && !move.still.isEmpty() && place == m_place &&
-                         image->format() == m_format;
+    if (place != m_place || image->format() != m_format)
+        clear();
     m_place = place;
     m_format = image->format();
 
-    const bool isThin = place.m11() == 1.0;
-    const auto paintAt = [&](const QRect& part) {
-        painter->setClipRect(part);
-        paint(painter, part);
-        painter->setClipping(false);
-    };
     Rows rows;
-    for (const QRect& part : parts) {
-        const QRect still = part & move.still;
-        const Rows ground = groundOf(*image, still.isEmpty() ? part : still);
-        QRegion same = isMoved ? QRegion(still) - otherGround(ground, still) : QRegion();
-        if (!isThin && same != QRegion(still))
-            same = {};
-        for (const QRect& place : same)
-            putBack(*image, place, move);
-        for (const QRect& place : QRegion(part) - same) {
-            if (isThin || same.isEmpty())
-                paintAt(place);
-            else
-                paintBeside(painter, *image, place, part, move, paint);
-        }
-        rows.insert(ground);
-    }
+    for (const QRect& part : parts)
+        rows.insert(paintPart(painter, *image, part, move, paint));
     m_bounds = parts.boundingRect();
     for (auto row = rows.begin(); row != rows.end(); ++row)
         row->pixels = pixelsOf(*image, row.key());
     m_rows = rows;
+}
+
+// The paint engine cuts lines at the edge of a clip, and thick ones look it.
+ScrollMemory::Rows ScrollMemory::paintPart(QPainter* painter, QImage& image, const QRect& part,
+                                           const Move& move, const Paint& paint) const
+{
+    const bool isThin = m_place.m11() == 1.0;
+    const QRect still = part & move.still;
+    const Rows ground =
+        groundOf(image, still.isEmpty() ? part : still.adjusted(0, 0, move.distance, 0) & part);
+    QRegion same = m_rows.isEmpty() ? QRegion() : QRegion(still) - otherGround(ground, still);
+    if (!isThin && same != QRegion(still))
+        same = {};
+    for (const QRect& place : same)
+        putBack(image, place, move);
+    for (const QRect& place : QRegion(part) - same) {
+        if (isThin || same.isEmpty()) {
+            painter->setClipRect(place);
+            paint(painter, place);
+            painter->setClipping(false);
+        } else {
+            paintBeside(painter, image, place, part, move, paint);
+        }
+    }
+    return ground;
 }
 
 void ScrollMemory::clear()

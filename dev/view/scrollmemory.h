@@ -35,12 +35,14 @@ public:
 private:
     // A row of pixels of the widget.
     struct Row {
-        bool isPlain = false; // its ground is of one colour
+        bool isPlain = false; // its ground is of one colour, as far as it can be put back
         quint32 below = 0;    // which
         QByteArray pixels;
     };
     using Rows = QMap<int, Row>;
 
+    Rows paintPart(QPainter* painter, QImage& image, const QRect& part, const Move& move,
+                   const Paint& paint) const;
     Rows groundOf(QImage& image, const QRect& part) const;
     QRegion otherGround(const Rows& rows, const QRect& part) const;
     void putBack(QImage& image, const QRect& part, const Move& move) const;

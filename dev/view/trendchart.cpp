@@ -21,8 +21,7 @@ constexpr int kTrimmedOnResize = 3;   // series 0 to 2; the others wait for thei
 constexpr double kMarginShare = 13.0; // margins: this part of the widget's size
 constexpr int kIntervals = 10;        // of the grid and of all three scales
 constexpr double kLabelGap = 5.0;     // px between box and label
-constexpr int kInk = 1;               // px that lines reach out of their place
-constexpr int kLetterInk = 2;         // px that letters do
+constexpr int kInk = 2;               // px that lines and letters may reach out of their place
 constexpr double kFarAway = 30000;    // px; the paint engine counts no further
 
 QRect inked(const QRectF& place, int ink = kInk)
@@ -208,7 +207,7 @@ void TrendChart::drawAt(const QRectF& place, QPainter* painter, Draw draw)
     for (const QRect& exposed : m_exposed) {
         if (!exposed.intersects(reach))
             continue;
-        if (!exposed.contains(reach))
+        if (m_exposed.rectCount() > 1)
             painter->setClipRect(exposed);
         draw();
         painter->setClipping(false);
@@ -219,8 +218,9 @@ void TrendChart::drawBox(QPainter* painter)
 {
     const QRectF box(QPointF(m_leftSpace, m_topSpace),
                      QPointF(width() - m_leftSpace, height() - m_topSpace));
-    if (box != m_boxRect) {
+    if (box != m_boxRect || devicePixelRatioF() != m_ratio) {
         m_boxRect = box;
+        m_ratio = devicePixelRatioF();
         for (auto curve = curveMap.cbegin(); curve != curveMap.cend(); ++curve)
             m_places[curve.key()] = curvePlace(curve.key());
         m_curveRows = curveRows();
@@ -232,12 +232,17 @@ void TrendChart::drawBox(QPainter* painter)
     if (m_look.gridCanBeHidden && !m_bShowHLine)
         return;
     painter->setPen(Qt::DotLine); // black whatever m_hLineClr says
-    const double step = m_boxRect.height() / kIntervals;
     for (int k = 1; k < kIntervals; ++k) {
-        const double y = m_boxRect.top() + k * step;
-        const QLineF line(m_boxRect.left(), y, m_boxRect.right(), y);
+        const QLineF line = gridLine(k);
         drawAt(QRectF(line.p1(), line.p2()), painter, [&] { painter->drawLine(line); });
     }
+}
+
+// From above.
+QLineF TrendChart::gridLine(int k) const
+{
+    const double y = m_boxRect.top() + k * (m_boxRect.height() / kIntervals);
+    return {m_boxRect.left(), y, m_boxRect.right(), y};
 }
 
 // Where only the right side is to be painted, a line does in a fraction of the time of a rectangle;
@@ -279,15 +284,15 @@ void TrendChart::drawScales(QPainter* painter)
     const QPointF right = m_boxRect.topRight() + QPointF(kLabelGap, metrics.height() / 2.0);
     for (int k = 0; k <= kIntervals; ++k) {
         const QPointF down(0, k * step);
-        const double top = left.y() + down.y() - metrics.ascent() - kLetterInk;
-        const double high = metrics.height() + 2 * kLetterInk;
-        drawAt(QRectF(0, top, left.x() + kLetterInk, high), painter, [&] {
+        const double top = left.y() + down.y() - metrics.ascent();
+        const double high = metrics.height();
+        drawAt(QRectF(0, top, left.x(), high), painter, [&] {
             const QString text = QString::number(max_Y_Left - k * kLeftStep);
             painter->drawText(left + down - QPointF(metrics.horizontalAdvance(text), 0), text);
         });
         if (!m_look.hasRightScale)
             continue;
-        drawAt(QRectF(right.x() - kLetterInk, top, width(), high), painter, [&] {
+        drawAt(QRectF(right.x(), top, width(), high), painter, [&] {
             // Half the label's own width further out than the gap asks for; meant so.
             const QString text = QString::number(max_Y_Right - k * kRightStep);
             const double out = metrics.horizontalAdvance(text) / 2.0;
@@ -333,8 +338,7 @@ void TrendChart::keepTime()
 // Below the ends of the ticks.
 QRect TrendChart::timesPlace() const
 {
-    return QRect(0, static_cast<int>(m_boxRect.bottom() + kLabelGap) - kLetterInk, width(),
-                 height()) &
+    return QRect(0, static_cast<int>(m_boxRect.bottom() + kLabelGap) - kInk, width(), height()) &
            rect();
 }
 
@@ -372,10 +376,15 @@ double TrendChart::scaleOf(int id) const
     return m_boxRect.height() / m_look.curves.at(id).fullScale;
 }
 
+bool TrendChart::isThick() const
+{
+    return m_ratio != 1.0;
+}
+
 // Of a curve. A thick line is cut also where it only comes near the edge of a clip.
 int TrendChart::ink() const
 {
-    return devicePixelRatioF() == 1.0 ? kInk : 2 * kInk;
+    return isThick() ? 2 * kInk : kInk;
 }
 
 // What a curve covers at most.
@@ -397,16 +406,26 @@ QRect TrendChart::curvePlace(int id) const
     return inked(QRectF(left, right), ink());
 }
 
-// All curves, each whole in one of the rectangles: the paint engine cuts lines at the edge of a
-// clip, and thick ones look it.
+// All curves, each whole in one of the rectangles, and thick grid lines that touch them: the paint
+// engine cuts lines at the edge of a clip, and thick ones look it.
 QRegion TrendChart::curveRows() const
 {
     QRect bounds;
     for (const QRect& place : m_places)
         bounds |= place;
+    const QRect box = inked(m_boxRect);
+    if (isThick()) {
+        bounds.setLeft(qMin(bounds.left(), box.left()));
+        bounds.setRight(qMax(bounds.right(), box.right()));
+    }
     QRegion rows;
     for (const QRect& place : m_places)
         rows += QRect(bounds.left(), place.top(), bounds.width(), place.height());
+    for (int k = 0; isThick() && k <= kIntervals; ++k) {
+        const QRect line = inked(QRectF(gridLine(k).p1(), gridLine(k).p2()));
+        if (rows.intersects(line))
+            rows += QRect(bounds.left(), line.top(), bounds.width(), line.height());
+    }
     return rows;
 }
 
@@ -446,7 +465,7 @@ QRect TrendChart::stillPlace(double distance) const
     for (const QVector<double>& now : curveMap)
         left = qMax(left, leftEnd(now));
     const int first = qCeil(left) + ink();
-    const int last = qFloor(m_boxRect.right() - distance) - ink();
+    const int last = qFloor(m_boxRect.right() - distance - ink()) - 1;
     return {first, 0, qMax(last - first, 0), height()};
 }
 

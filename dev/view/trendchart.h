@@ -122,7 +122,9 @@ private:
     double xOf(int sample) const;
     double yOf(double pixels) const;
     double scaleOf(int id) const;
+    bool isThick() const;
     int ink() const;
+    QLineF gridLine(int k) const;
     QRect curvePlace(int id) const;
     QRegion curveRows() const;
     double leftEnd(const QVector<double>& samples) const;
@@ -136,6 +138,7 @@ private:
     QString m_caption;
     QStringList m_seriesNames;
     QMap<int, QString> m_latest; // last value given per series, trimmed or not
+    double m_ratio = 1;          // of the screen's pixels at the last paint
     QRegion m_exposed;           // by the paint in progress
     QTime m_now;                 // that the time axis shows
     int m_secondAsked = -1;      // of the day, for which the time axis was last to be painted
