@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPixmap>
+#include <QStyle>
 #include <QTimer>
 #include <QWindow>
 
@@ -311,10 +312,13 @@ const Energyline::Flow Energyline::kFlows[] = {
 
 void Energyline::advanceFlow()
 {
-    m_offset = static_cast<float>(m_offset - kStepInPenWidths);
+    const bool moves = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+    if (moves)
+        m_offset = static_cast<float>(m_offset - kStepInPenWidths);
     Shown now = shown();
     if (now == m_shown) {
-        update(flowRegion());
+        if (moves)
+            update(flowRegion());
     } else {
         m_shown = std::move(now);
         update();

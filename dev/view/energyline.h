@@ -34,7 +34,8 @@ class DEVVIEW_EXPORT Energyline : public QWidget
 
 public:
     // Opens all panels, turns all flows off and starts the animation, ten steps a second. The
-    // animation rests while the page is hidden or its window minimised.
+    // animation rests while the page is hidden or its window minimised; where the style wants no
+    // animations (QStyle::SH_Widget_Animation_Duration is 0), the steps move nothing.
     explicit Energyline(QWidget* parent = nullptr);
     ~Energyline() override;
 

@@ -4,11 +4,13 @@
 #include "cli/cliparser.h"
 #include "cli/clisupport.h"
 #include "cli/commandline.h"
+#include "cli/languageoption.h"
 #include "cli/onepoll.h"
 #include "cli/subcommands.h"
 #include "connectors/factory/connectorfactory.h"
 #include "fleet/commanddesk.h"
 #include "window/devicepage.h"
+#include "window/language.h"
 #include "window/theme.h"
 
 #include <QApplication>
@@ -60,6 +62,7 @@ struct Wanted {
     QDir folder;
     QSize size = kDefaultSize;
     Theme theme = Theme::Light;
+    LanguageChoice language = LanguageChoice::System;
 };
 
 // Nothing after telling what is wrong with the arguments.
@@ -72,11 +75,16 @@ std::optional<Wanted> readWanted(const QStringList& arguments)
                                   QStringLiteral("WxH"), QStringLiteral("1024x768"));
     const QCommandLineOption theme(QStringLiteral("theme"), QStringLiteral("light or dark."),
                                    QStringLiteral("THEME"), QStringLiteral("light"));
-    parser.addOptions({out, size, theme});
+    const LanguageOption language;
+    parser.addOptions({out, size, theme, language});
     if (!parser.read(arguments))
+        return {};
+    const auto spoken = language.choice(parser);
+    if (!spoken)
         return {};
     const int chosen = QStringList{"light", "dark"}.indexOf(parser.value(theme));
     Wanted wanted{parser.positionalArguments().first(), QDir(parser.value(out))};
+    wanted.language = *spoken;
     wanted.theme = chosen > 0 ? Theme::Dark : Theme::Light;
     if (parser.isSet(out) && chosen >= 0 && readSize(parser.value(size), wanted.size))
         return wanted;
@@ -135,6 +143,8 @@ int runPicture(const QStringList& arguments)
     }
 
     applyTheme(wanted->theme);
+    if (wanted->language != LanguageChoice::System) // whoever reads the file need not be who asks
+        language::apply(wanted->language);
     Fleet fleet(makeConnector); // holds no device: the pictures keep their own pace
     EventLog log;
     CommandDesk desk(fleet, log, [] { return CommandDesk::Operator{}; });

@@ -98,6 +98,18 @@ DeskKeys generalKeys()
                         C::choice({{"light", QT_TRANSLATE_NOOP("ConfigKeys", "Light")},
                                    {"dark", QT_TRANSLATE_NOOP("ConfigKeys", "Dark")},
                                    {"system", QT_TRANSLATE_NOOP("ConfigKeys", "As the desktop")}})),
+        desk<&D::language>( // each by its own name, which those who look for it can read
+            "window", "language", QT_TRANSLATE_NOOP("ConfigKeys", "Lan&guage"),
+            C::choice({{"system", QT_TRANSLATE_NOOP("ConfigKeys", "As the desktop")},
+                       {"en", "English"},
+                       {"de", "Deutsch"},
+                       {"fr", "Fran\u00e7ais"},
+                       {"es", "Espa\u00f1ol"},
+                       {"zh_CN", "\u7b80\u4f53\u4e2d\u6587"}})),
+        desk<&D::motion>("window", "motion", QT_TRANSLATE_NOOP("ConfigKeys", "&Motion"),
+                         C::choice({{"system", QT_TRANSLATE_NOOP("ConfigKeys", "As the desktop")},
+                                    {"full", QT_TRANSLATE_NOOP("ConfigKeys", "Flows move")},
+                                    {"reduced", QT_TRANSLATE_NOOP("ConfigKeys", "Flows stand")}})),
         desk<&D::secrets>(
             "secrets", "store", QT_TRANSLATE_NOOP("ConfigKeys", "&Keep secrets in"),
             C::choice(

@@ -12,6 +12,8 @@
 // Each in the order of its words in configkeys.cpp.
 enum class SecretsChoice { Keychain, File };
 enum class ThemeChoice { Light, Dark, System };
+enum class LanguageChoice { System, English, German, French, Spanish, Chinese };
+enum class MotionChoice { System, Full, Reduced };
 
 enum class HistoryMode { Desk, Viewer };
 
@@ -36,6 +38,8 @@ struct DeskSettings {
     int idleLogout = 10;  // min
     Thresholds thresholds;
     ThemeChoice theme = ThemeChoice::Light;
+    LanguageChoice language = LanguageChoice::System;
+    MotionChoice motion = MotionChoice::System;
     SecretsChoice secrets = SecretsChoice::Keychain;
     HistorySettings history;
     NotifySettings notify;

@@ -1,6 +1,7 @@
 #include "window/deskmenu.h"
 
 #include "window/devicepage.h"
+#include "window/language.h"
 
 #include <QActionGroup>
 
@@ -65,18 +66,25 @@ constexpr struct {
     {ThemeChoice::System, QT_TRANSLATE_NOOP("DeskMenu", "As the &system")},
 };
 
+// In the order of the menu.
+constexpr LanguageChoice kLanguages[] = {LanguageChoice::System,  LanguageChoice::English,
+                                         LanguageChoice::German,  LanguageChoice::French,
+                                         LanguageChoice::Spanish, LanguageChoice::Chinese};
+
 } // namespace
 
 DeskMenu::DeskMenu(QWidget* parent)
     : QMenuBar(parent)
     , m_pages(new QActionGroup(this))
     , m_themes(new QActionGroup(this))
+    , m_languages(new QActionGroup(this))
 {
     for (int i = 0; i < static_cast<int>(std::size(kMenus)); ++i)
         m_menus.insert(static_cast<Menu>(i), addMenu(tr(kMenus[i])));
     addItems();
     addPages();
     addThemes();
+    addLanguages();
 }
 
 void DeskMenu::addItems()
@@ -123,6 +131,22 @@ void DeskMenu::addThemes()
     menu->addMenu(themes);
 }
 
+// Each by its own name, which those who look for it can read.
+void DeskMenu::addLanguages()
+{
+    QMenu* menu = m_menus.value(ViewMenu);
+    auto* languages = new QMenu(tr("Lan&guage"), menu);
+    for (LanguageChoice choice : kLanguages) {
+        const char* name = language::nameOf(choice);
+        QAction* item =
+            m_languages->addAction(name ? QString::fromUtf8(name) : tr("As the &system"));
+        item->setCheckable(true);
+        languages->addAction(item);
+        connect(item, &QAction::triggered, this, [this, choice] { emit languageChosen(choice); });
+    }
+    menu->addMenu(languages);
+}
+
 void DeskMenu::addFirst(Menu menu, const QList<QAction*>& actions)
 {
     QMenu* target = m_menus.value(menu);
@@ -142,6 +166,13 @@ void DeskMenu::markTheme(ThemeChoice choice)
     for (int i = 0; i < static_cast<int>(std::size(kThemes)); ++i)
         if (kThemes[i].choice == choice)
             m_themes->actions().at(i)->setChecked(true);
+}
+
+void DeskMenu::markLanguage(LanguageChoice choice)
+{
+    for (int i = 0; i < static_cast<int>(std::size(kLanguages)); ++i)
+        if (kLanguages[i] == choice)
+            m_languages->actions().at(i)->setChecked(true);
 }
 
 void DeskMenu::enableDeviceItems(bool on)

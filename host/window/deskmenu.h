@@ -2,7 +2,7 @@
 #define DESKMENU_H
 
 // The menu bar: every item with its shortcut, in one table. What an item does is its user's.
-// May touch: Qt Widgets, the titles of device pages, the names of themes.
+// May touch: Qt Widgets, the titles of device pages, the names of themes and languages.
 
 #include "config/desksettings.h"
 
@@ -42,9 +42,10 @@ public:
     // Puts further actions first into a menu; a null one is a line.
     void addFirst(Menu menu, const QList<QAction*>& actions);
 
-    // Which of DevicePage::pages() and which theme is marked; choosing is signalled.
+    // Which of DevicePage::pages(), which theme and language is marked; choosing is signalled.
     void markPage(int page);
     void markTheme(ThemeChoice choice);
+    void markLanguage(LanguageChoice choice);
     void enableDeviceItems(bool on);
 
     // All items that have a shortcut, as "Find devices", "Ctrl+F".
@@ -53,16 +54,19 @@ public:
 signals:
     void pageChosen(int page);
     void themeChosen(ThemeChoice choice);
+    void languageChosen(LanguageChoice choice);
 
 private:
     void addItems();
     void addPages();
     void addThemes();
+    void addLanguages();
 
     QMap<Menu, QMenu*> m_menus;
     QMap<Item, QAction*> m_actions;
     QActionGroup* m_pages;
     QActionGroup* m_themes;
+    QActionGroup* m_languages;
 };
 
 #endif // DESKMENU_H

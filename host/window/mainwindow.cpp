@@ -52,6 +52,7 @@ MainWindow::MainWindow(Fleet& fleet, CommandDesk& desk, EventLog& log, OperatorS
     , m_desk(desk)
     , m_log(log)
     , m_session(session)
+    , m_lastOperator(session.name())
     , m_model(new DeviceListModel(fleet, this))
     , m_overview(new OverviewPage(*m_model))
     , m_pages(nullptr)
@@ -208,6 +209,7 @@ void MainWindow::setUpMenu()
     });
     connect(m_pages, &PageStack::pageChanged, m_menu, &DeskMenu::markPage);
     connect(m_menu, &DeskMenu::themeChosen, this, &MainWindow::themeChosen);
+    connect(m_menu, &DeskMenu::languageChosen, this, &MainWindow::languageChosen);
 }
 
 void MainWindow::followFleet()
@@ -282,6 +284,13 @@ void MainWindow::markTheme(ThemeChoice choice)
 {
     if (m_menu)
         m_menu->markTheme(choice);
+}
+
+void MainWindow::markLanguage(LanguageChoice choice)
+{
+    m_language = choice;
+    if (m_menu)
+        m_menu->markLanguage(choice);
 }
 
 // Place and size
@@ -405,12 +414,15 @@ void MainWindow::leaveReplay()
 
 void MainWindow::setHistory(const DeskHistory& history)
 {
-    connect(&history, &DeskHistory::started, this, [this, &history] {
+    const auto open = [this, &history] {
         m_reader = history.reader();
         m_pages->setHistory(history.reader());
         if (m_journal)
             m_journal->setStore(history.reader(), history.writer());
-    });
+    };
+    connect(&history, &DeskHistory::started, this, open);
+    if (history.reader())
+        open();
 }
 
 void MainWindow::setTroubleCount(int count)

@@ -63,8 +63,10 @@ public:
     // What is shown comes from collectors: nothing is polled, commanded or added here. Must be
     // there as long as the window is used.
     void setViewer(const Viewer& viewer);
-    // The choice that the menu shows.
+    // The choices that the menu shows.
     void markTheme(ThemeChoice choice);
+    void markLanguage(LanguageChoice choice);
+    LanguageChoice language() const { return m_language; } // that was marked
     // All devices as tiles.
     void openOverview();
     // What happened, from the store; at a desk only.
@@ -82,8 +84,9 @@ public:
     void tell(const QString& text, bool isBad);
 
 signals:
-    // In the menu; nothing is done about it here.
+    // In the menu; nothing is done about them here.
     void themeChosen(ThemeChoice choice);
+    void languageChosen(LanguageChoice choice);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -131,6 +134,7 @@ private:
     EventLog& m_log;
     OperatorSession& m_session;
     QString m_lastOperator;
+    LanguageChoice m_language = LanguageChoice::System;
     DeviceListModel* m_model;
     OverviewPage* m_overview;
     PageStack* m_pages;

@@ -1,5 +1,6 @@
 #include "window/theme.h"
 
+#include "window/deskstyle.h"
 #include "window/urgencycolors.h"
 
 #include <QApplication>
@@ -7,7 +8,6 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QPalette>
-#include <QStyleFactory>
 #include <QWidget>
 
 namespace {
@@ -26,7 +26,8 @@ const ThemeRow kLight{":/upsdesk/light.qss", {0xfa, 0xfa, 0xfa}, {0xff, 0xff, 0x
 const ThemeRow kDark{":/upsdesk/dark.qss", {0x1d, 0x20, 0x29}, {0x25, 0x29, 0x34},
                      {0xe6, 0xe8, 0xef},   {0x30, 0x35, 0x43}, {0x4a, 0x6c, 0xf0}};
 
-// Families that the views ask for, and metrically close ones that Debian carries. The first lookup
+// Families that the views ask for, and metrically close ones that Debian carries; Chinese comes
+// from the next family that has it. The first lookup
 // of a family takes some ms: better now than when the first device is opened.
 void substituteFonts()
 {
@@ -35,7 +36,8 @@ void substituteFonts()
         QStringList substitutes;
     } rows[] = {
         {QStringLiteral("Microsoft YaHei"),
-         {QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")}},
+         {QStringLiteral("Liberation Sans"), QStringLiteral("Noto Sans CJK SC"),
+          QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("DejaVu Sans")}},
         {QStringLiteral("Arial"), {QStringLiteral("Liberation Sans")}},
         {QStringLiteral("Times New Roman"), {QStringLiteral("Liberation Serif")}},
     };
@@ -58,7 +60,7 @@ void applyTheme(Theme theme)
     substituteFonts();
     const ThemeRow& row = theme == Theme::Dark ? kDark : kLight;
 
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new DeskStyle);
     QApplication::setFont(QFont(QStringLiteral("Liberation Sans"), 10));
     QPalette palette(row.button, row.window);
     palette.setColor(QPalette::Base, row.base);

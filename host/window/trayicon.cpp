@@ -36,7 +36,7 @@ QIcon iconOf(Urgency worst, int count)
 
 } // namespace
 
-TrayIcon::TrayIcon(const Attention& attention, QWidget& window)
+TrayIcon::TrayIcon(const Attention& attention, QWidget& window, bool isMuted)
     : m_attention(attention)
     , m_window(window)
     , m_menu(std::make_unique<QMenu>())
@@ -45,6 +45,7 @@ TrayIcon::TrayIcon(const Attention& attention, QWidget& window)
             &TrayIcon::showWindow);
     QAction* mute = m_menu->addAction(tr("&Mute sounds"));
     mute->setCheckable(true);
+    mute->setChecked(isMuted);
     connect(mute, &QAction::toggled, this, &TrayIcon::muted);
     connect(m_menu->addAction(tr("&Quit")), &QAction::triggered, &window, &QWidget::close);
     m_icon.setContextMenu(m_menu.get());

@@ -21,7 +21,7 @@ class TrayIcon : public QObject
 
 public:
     // Both must outlive the icon.
-    TrayIcon(const Attention& attention, QWidget& window);
+    TrayIcon(const Attention& attention, QWidget& window, bool isMuted = false);
     ~TrayIcon() override;
 
 signals:
