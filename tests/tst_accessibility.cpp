@@ -1,18 +1,9 @@
 // What those hear and see who cannot use a mouse or see faint colours: every figure's accessible
 // name has value and unit, Tab reaches what can be used, and text stands out in both themes.
 
-#include "connectors/factory/connectorfactory.h"
 #include "support/quietplatform.h"
 #include "support/recordingdevice.h"
-#include "support/scriptedconnector.h"
-#include "window/confirmbox.h"
-#include "window/deviceactions.h"
-#include "window/devicedialog.h"
-#include "window/devicepage.h"
-#include "window/finddevicesdialog.h"
-#include "window/logindialog.h"
-#include "window/mainwindow.h"
-#include "window/settingsdialog.h"
+#include "support/shownwindows.h"
 #include "window/theme.h"
 #include "window/urgencycolors.h"
 
@@ -66,114 +57,6 @@ QColor groundOf(const QImage& picture)
     const auto most = std::max_element(counts.cbegin(), counts.cend());
     return most == counts.cend() ? QColor() : QColor(most.key());
 }
-
-// A device with that many lines, on a page with all its views made.
-struct Shown {
-    explicit Shown(int lines)
-    {
-        DeviceSettings settings;
-        settings.address = *parseDeviceAddress(QStringLiteral("nut://h/u")).address;
-        Device& device = *fleet.add(settings);
-        page = new DevicePage(device, desk, &window);
-        window.resize(1024, 768);
-        page->resize(window.size());
-        window.show();
-        page->finishViews();
-        UpsReading reading;
-        reading.outputSource = OutputSource::Utility;
-        reading.charge = 87;
-        reading.runtime = 21 * 60;
-        reading.output.load[0] = 34;
-        reading.input.lines = reading.output.lines = lines;
-        reading.input.voltage = {231, 232, 233};
-        reading.alarmTexts = QStringList{QStringLiteral("Replace battery!")};
-        connector->answer(LinkState::Live, reading);
-        page->refresh();
-    }
-
-    ScriptedConnector* connector = nullptr;
-    Fleet fleet{[this](const DeviceSettings&) {
-        auto made = std::make_unique<ScriptedConnector>();
-        connector = made.get();
-        return made;
-    }};
-    EventLog log;
-    CommandDesk desk{fleet, log, [] { return CommandDesk::Operator{}; }};
-    QWidget window;
-    DevicePage* page = nullptr;
-};
-
-// All devices on show, one of each kind of trouble.
-struct Desk {
-    Desk()
-    {
-        const auto add = [this](const char* name, LinkState link, double charge) {
-            DeviceSettings settings;
-            settings.name = name;
-            settings.group = "North hall";
-            settings.address = *parseDeviceAddress(QStringLiteral("nut://h/u")).address;
-            fleet.add(settings);
-            UpsReading reading;
-            reading.outputSource = charge > 50 ? OutputSource::Utility : OutputSource::Battery;
-            reading.charge = charge;
-            reading.runtime = charge * 15;
-            connector->answer(LinkState::Live, reading);
-            if (link != LinkState::Live)
-                connector->answer(link, {}, "No route");
-        };
-        add("Alpha", LinkState::Live, 87);
-        add("Beta", LinkState::Live, 12);
-        add("Gamma", LinkState::Lost, 87);
-        DeskEvent event;
-        event.isBad = true;
-        event.outcome = "failed";
-        log.append(event);
-        window.tell("Bad news", true);
-        window.resize(1024, 768);
-        window.show();
-    }
-
-    ScriptedConnector* connector = nullptr;
-    Fleet fleet{[this](const DeviceSettings&) {
-        auto made = std::make_unique<ScriptedConnector>();
-        connector = made.get();
-        return made;
-    }};
-    EventLog log;
-    CommandDesk commands{fleet, log, [] { return CommandDesk::Operator{}; }};
-    OperatorSession session;
-    MainWindow window{fleet, commands, log, session};
-};
-
-// Every window that has something to fill in, and the desk itself.
-struct Windows : Desk {
-    Windows()
-    {
-        DeviceSettings v3;
-        v3.address =
-            *parseDeviceAddress(QStringLiteral("snmp://u@h?version=3&level=authPriv")).address;
-        const auto save = [](const auto&) { return QString(); };
-        all << &window << new DeviceDialog({}, {}, makeConnector, save, &window)
-            << new DeviceDialog(v3, {}, makeConnector, save, &window)
-            << new FindDevicesDialog({}, {}, makeConnector, save, &window)
-            << new LoginDialog(session, true, &window) << new SettingsDialog(list, &window);
-        window.setActions(new DeviceActions(fleet, list, makeConnector, session, &window),
-                          new QAction(&window));
-    }
-
-    int count() const { return all.size() + 1; }
-    QWidget* at(int index) // the box locks the others
-    {
-        return index < all.size()
-                   ? all[index]
-                   : ConfirmBox::ask({"Shut down", "Really?", "At once", "&Shut down"}, &window,
-                                     [](bool) {});
-    }
-
-    QTemporaryDir folder;
-    WatchList list{fleet, DeskConfig::load(folder.filePath("upsdesk.conf"))};
-    QVector<QWidget*> all;
-};
 
 // Down the form, and along a row; up only to a column further right. In what holds both: a form may
 // have scrolled meanwhile.
@@ -242,7 +125,7 @@ private slots:
 void TestAccessibility::figuresAreNamedWithUnits()
 {
     for (int lines : {1, 3}) {
-        Shown shown(lines);
+        ShownDevice shown(lines);
         for (int number = 0; number < DevicePage::pages().size(); ++number)
             shown.page->showPage(number); // each view learns its values when it is shown
         const QString voltage = lines == 3 ? "231/232/233 V" : "231 V";
@@ -267,7 +150,7 @@ void TestAccessibility::figuresAreNamedWithUnits()
 void TestAccessibility::tabReachesWhatCanBeUsed()
 {
     for (int number = 0; number < DevicePage::pages().size(); ++number) {
-        Shown shown(1);
+        ShownDevice shown(1);
         shown.page->showPage(number);
         shown.window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&shown.window));
@@ -288,7 +171,7 @@ void TestAccessibility::tabReachesWhatCanBeUsed()
 
 void TestAccessibility::tabFollowsTheEye()
 {
-    Windows windows;
+    AllWindows windows;
     for (int number = 0; number < windows.count(); ++number) {
         QWidget* window = windows.at(number);
         QCOMPARE(window->windowTitle() + ": " + faultOfTabbing(window),
@@ -314,7 +197,7 @@ void TestAccessibility::tabFollowsTheEye()
 
 void TestAccessibility::devicesAreToldWhole()
 {
-    Desk desk;
+    ShownDesk desk;
     for (const char* name : {"DeviceList", "OverviewTiles"}) {
         auto* view = QAccessible::queryAccessibleInterface(
             desk.window.findChild<QAbstractItemView*>(QLatin1String(name)));
@@ -335,7 +218,7 @@ void TestAccessibility::paintedTextStandsOut()
     QStringList faint;
     for (Theme theme : {Theme::Light, Theme::Dark}) {
         applyTheme(theme);
-        Windows windows;
+        AllWindows windows;
         for (int number = 0; number < windows.count(); ++number) {
             QWidget* window = windows.at(number);
             window->show();
@@ -383,7 +266,7 @@ void TestAccessibility::textStandsOut()
             }
         }
         for (int lines : {1, 3}) {
-            Shown shown(lines);
+            ShownDevice shown(lines);
             for (int number = 0; number < DevicePage::pages().size(); ++number) {
                 shown.page->showPage(number);
                 shown.page->refresh();

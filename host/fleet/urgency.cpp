@@ -142,9 +142,9 @@ constexpr LimitRow kLimits[] = {
     {Limit::TemperatureHigh, Urgency::Warning,
      [](const UpsReading& r) { return r.batteryTemperature; },
      [](const Thresholds& t) { return double(t.temperatureHigh); }, true, 1,
-     QT_TRANSLATE_NOOP("Urgency", "Battery at %1 \u00b0C"),
-     QT_TRANSLATE_NOOP("Urgency", "battery at %1 \u00b0C"),
-     QT_TRANSLATE_NOOP("Urgency", "battery at %1 \u00b0C")},
+     QT_TRANSLATE_NOOP("Urgency", "Battery at %1 °C"),
+     QT_TRANSLATE_NOOP("Urgency", "battery at %1 °C"),
+     QT_TRANSLATE_NOOP("Urgency", "battery at %1 °C")},
 };
 
 // Subjects: alarms by their own number, and beyond these.

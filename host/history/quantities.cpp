@@ -19,7 +19,7 @@ constexpr SingleRow kSingles[] = {
     {"battery.runtime", "s", &UpsReading::runtime},
     {"battery.voltage", "V", &UpsReading::batteryVoltage},
     {"battery.current", "A", &UpsReading::batteryCurrent},
-    {"battery.temperature", "\u00b0C", &UpsReading::batteryTemperature},
+    {"battery.temperature", "°C", &UpsReading::batteryTemperature},
     {"battery.seconds-on", "s", &UpsReading::secondsOnBattery},
     {"input.line-bads", "", &UpsReading::inputLineBads},
 };

@@ -126,7 +126,7 @@ constexpr ScalarRow kScalars[] = {
     {realdata_SecondsOnBat, &UpsReading::secondsOnBattery, kWhole, "s"},
     {realdata_BatVoltage, &UpsReading::batteryVoltage, kTenths, "V"},
     {realdata_BatCurrent, &UpsReading::batteryCurrent, kTenths, "A"},
-    {realdata_BatTemp, &UpsReading::batteryTemperature, kTenths, "\u00b0C"},
+    {realdata_BatTemp, &UpsReading::batteryTemperature, kTenths, "°C"},
     {realdata_InputLineBads, &UpsReading::inputLineBads, kWhole, ""},
     {realdata_ConfigIPVol, &UpsReading::ratedInputVoltage, kWhole, "V"},
     {realdata_ConfigIPFre, &UpsReading::ratedInputFrequency, kTenths, "Hz"},

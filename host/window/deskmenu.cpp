@@ -45,7 +45,7 @@ constexpr ItemRow kItems[] = {
      "F5", false, false, true},
     {DeskMenu::DeviceMenu, DeskMenu::Commands, "Commands",
      QT_TRANSLATE_NOOP("DeskMenu", "&Commands"), "Ctrl+Shift+C", false, false, true},
-    {DeskMenu::DeviceMenu, DeskMenu::Replay, "Replay", QT_TRANSLATE_NOOP("DeskMenu", "&Replay"),
+    {DeskMenu::DeviceMenu, DeskMenu::Replay, "Replay", QT_TRANSLATE_NOOP("DeskMenu", "Rep&lay"),
      "Ctrl+R", false, false, true},
     {DeskMenu::DeviceMenu, DeskMenu::Copy, "Copy", QT_TRANSLATE_NOOP("DeskMenu", "Cop&y values"),
      "Ctrl+C", false, true, false},

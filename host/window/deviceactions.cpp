@@ -17,7 +17,7 @@ DeviceActions::DeviceActions(Fleet& fleet, WatchList& list, const Fleet::Connect
     , m_gate(new OperatorGate(session, window))
     , m_window(window)
     , m_add(makeAction(tr("A&dd\u2026"), "AddDevice", Qt::Key_Insert, [this] { add(); }))
-    , m_addSeveral(makeAction(tr("Add &several\u2026"), "AddSeveral",
+    , m_addSeveral(makeAction(tr("Add se&veral\u2026"), "AddSeveral",
                               Qt::CTRL | Qt::SHIFT | Qt::Key_N, [this] { addSeveral(); }))
     , m_edit(makeAction(tr("&Edit\u2026"), "EditDevice", Qt::Key_F2, [this] { edit(); }))
     , m_remove(

@@ -61,9 +61,10 @@ SettingsDialog::SettingsDialog(WatchList& list, QWidget* parent, const HashLimit
 {
     setObjectName(QStringLiteral("SettingsDialog"));
     setWindowTitle(tr("Settings"));
-    setMinimumWidth(kWidth);
     m_pages->setObjectName(QStringLiteral("DeviceTabs")); // looks like the tabs of a device
     addPages(limits);
+    m_pages->setUsesScrollButtons(false); // in every language all tabs are to be seen
+    setMinimumWidth(kWidth);
     connect(m_pages, &QTabWidget::currentChanged, this,
             [this] { m_message->say(QString(), DialogMessage::Tone::Hint); });
 
