@@ -4,6 +4,7 @@
 #include "globalvar.h"
 #include "support/recordingdevice.h"
 
+#include <QProxyStyle>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QTimer>
@@ -137,6 +138,7 @@ private slots:
     void panels();
     void textsStayInTheirRectangles();
     void hostImagesWin();
+    void standsStillWhereTheStyleWantsIt();
 };
 
 void TestEnergyline::texts() // single-phase texts: see panels()
@@ -551,6 +553,36 @@ void TestEnergyline::hostImagesWin()
     QCOMPARE(withHost[0].pixelColor(15, 5), QColor(255, 0, 255));
     QCOMPARE(withHost[1], withHost[0]);
     QCOMPARE(withHost[2], own[2]); // what the host lacks stays the library's
+}
+
+void TestEnergyline::standsStillWhereTheStyleWantsIt()
+{
+    class Still : public QProxyStyle
+    {
+        int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                      QStyleHintReturn* returned) const override
+        {
+            return hint == SH_Widget_Animation_Duration
+                       ? 0
+                       : QProxyStyle::styleHint(hint, option, widget, returned);
+        }
+    } still;
+    Page page;
+    page.setStyle(&still);
+    page.timer->stop();
+    page.show();
+    page.flushData({{realdata_OutputSource, 3}, {realdata_InputNumLines, 1}});
+    page.advanceFlow();
+    QCoreApplication::processEvents();
+    page.painted = {};
+    page.advanceFlow();
+    QCoreApplication::processEvents();
+    QVERIFY(page.painted.isEmpty());
+    QCOMPARE(page.m_offset, 0.0F);
+    page.flushData({{realdata_OutputSource, 5}, {realdata_InputNumLines, 1}});
+    page.advanceFlow(); // what is new is shown as ever
+    QCoreApplication::processEvents();
+    QCOMPARE(page.painted, QRegion(page.rect()));
 }
 
 QTEST_MAIN(TestEnergyline)

@@ -89,8 +89,7 @@ DeskKeys generalKeys()
             C::number(1, 200, "%")),
         desk<&D::thresholds, &Thresholds::temperatureHigh>(
             "thresholds", "temperature-high",
-            QT_TRANSLATE_NOOP("ConfigKeys", "Battery too &warm above"),
-            C::number(1, 150, "°C")),
+            QT_TRANSLATE_NOOP("ConfigKeys", "Battery too &warm above"), C::number(1, 150, "°C")),
         desk<&D::idleLogout>("session", "idle-logout",
                              QT_TRANSLATE_NOOP("ConfigKeys", "Log operators out &after"),
                              C::number(1, 1440, "min")),

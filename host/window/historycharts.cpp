@@ -80,8 +80,7 @@ const QVector<HistoryChart>& historyCharts()
          10, false, false},
         {QT_TRANSLATE_NOOP("HistoryCharts", "Current"), "A", 1, 1, 1, false, false},
         {QT_TRANSLATE_NOOP("HistoryCharts", "Frequency"), "Hz", 1, 1, 1, false, false},
-        {QT_TRANSLATE_NOOP("HistoryCharts", "Battery temperature"), "°C", 1, 1, 5, false,
-         false},
+        {QT_TRANSLATE_NOOP("HistoryCharts", "Battery temperature"), "°C", 1, 1, 5, false, false},
         {QT_TRANSLATE_NOOP("HistoryCharts", "Battery voltage"), "V", 1, 1, 2, false, false},
     };
     return charts;

@@ -36,8 +36,8 @@ void substituteFonts()
         QStringList substitutes;
     } rows[] = {
         {QStringLiteral("Microsoft YaHei"),
-         {QStringLiteral("Liberation Sans"), QStringLiteral("Noto Sans CJK SC"),
-          QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("DejaVu Sans")}},
+         {QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans"),
+          QStringLiteral("Noto Sans CJK SC"), QStringLiteral("WenQuanYi Micro Hei")}},
         {QStringLiteral("Arial"), {QStringLiteral("Liberation Sans")}},
         {QStringLiteral("Times New Roman"), {QStringLiteral("Liberation Serif")}},
     };
