@@ -4,7 +4,7 @@
 // The small modal dialog that asks before a command goes out.
 // May touch: Qt only.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QDialog>
 #include <QPoint>

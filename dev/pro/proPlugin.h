@@ -4,7 +4,7 @@
 // What a host programs against: the device view it knows, and the descriptor of one shown value.
 // May touch: Qt and the export macro; no view.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QList>
 #include <QMap>

@@ -4,7 +4,7 @@
 // The single-phase and the three-phase chart page in one place; only the page that shows works.
 // May touch: the two chart pages.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QMap>
 #include <QString>

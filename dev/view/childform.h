@@ -4,8 +4,8 @@
 // The device view of one UPS: four tabs, of which only the visible one works on a refresh.
 // May touch: its pages; knows nothing of the host.
 
-#include "globalvar.h"
-#include "proPlugin.h"
+#include <devview/globalvar.h>
+#include <devview/proPlugin.h>
 
 class ChartForm;
 class Energyline;

@@ -5,7 +5,7 @@
 // which the value lies, and the value in a box below.
 // May touch: Qt and its own value; knows no snapshot, no page and no host.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QColor>
 #include <QList>

@@ -4,7 +4,7 @@
 // Trend chart of one phase: four curves against one scale of 0 to 400.
 // May touch: TrendChart.
 
-#include "trendchart.h"
+#include <devview/trendchart.h>
 
 class DEVVIEW_EXPORT DynamicChart : public TrendChart
 {

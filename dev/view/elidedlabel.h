@@ -6,7 +6,7 @@
 // full text.
 // May touch: Qt Widgets only.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QLabel>
 

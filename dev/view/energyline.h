@@ -5,7 +5,7 @@
 // with moving power flows, and five panels of values that a click opens and closes.
 // May touch: Qt Widgets, the data keys and the library's number formats.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QMap>
 #include <QPair>

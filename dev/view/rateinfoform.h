@@ -4,7 +4,7 @@
 // The detail page: device, battery, input, output, bypass and rated values in six panels.
 // May touch: parameter descriptors, data keys and formatting; sends nothing to the host.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QList>
 #include <QMap>

@@ -5,7 +5,7 @@
 // scales its values on its own; the detail page differs on purpose.
 // May touch: the real-time block and valuetext.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QMap>
 #include <QString>

@@ -4,7 +4,7 @@
 // The alarm page: which alarms are raised now, and since when this page has seen them.
 // May touch: Qt and the data keys; keeps no history and posts nothing.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QDateTime>
 #include <QList>

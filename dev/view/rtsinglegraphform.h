@@ -4,7 +4,7 @@
 // Chart page of a single-phase unit: six gauges and the trend of four voltages with its legend.
 // May touch: gauges, trend chart and the real-time block.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QMap>
 #include <QVariant>

@@ -5,7 +5,7 @@
 // with its legend.
 // May touch: gauges, trend charts and the real-time block.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QMap>
 #include <QVariant>

@@ -4,7 +4,7 @@
 // The control page: two groups of commands, each posted only after the operator confirmed it.
 // May touch: the prompt dialog and the event codes; reads no snapshot and shows no result.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QMap>
 #include <QString>

@@ -5,7 +5,7 @@
 // against the right scale (0 to 100). Its grid is always shown.
 // May touch: TrendChart.
 
-#include "trendchart.h"
+#include <devview/trendchart.h>
 
 class DEVVIEW_EXPORT ThreeDynamicChart : public TrendChart
 {

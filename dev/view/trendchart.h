@@ -5,7 +5,7 @@
 // edge and move left, one sample per 5 pixels. What differs between the two is in Look.
 // May touch: Qt and its own samples; knows no snapshot, no page and no host.
 
-#include "devview_export.h"
+#include <devview/devview_export.h>
 
 #include <QCache>
 #include <QColor>

@@ -1,27 +1,11 @@
 // The smallest program that shows a device view: one snapshot, and commands printed as they come.
-// Includes every public header, so that building it proves that all of them are installed.
+// May touch: the library as it is installed.
 
-#include <chartform.h>
-#include <childform.h>
-#include <datachart.h>
-#include <dynamicchart.h>
-#include <e_event.h>
-#include <energyline.h>
-#include <globalvar.h>
-#include <msgbox.h>
-#include <proPlugin.h>
-#include <rateinfoform.h>
-#include <rtdataform.h>
-#include <rteventform.h>
-#include <rtsinglegraphform.h>
-#include <rtthreegraphform.h>
-#include <setinfoform.h>
-#include <threedynamicchart.h>
-#include <trendchart.h>
+#include <devview/childform.h>
 
 #include <QApplication>
 #include <QDebug>
-#include <QTimer>
+#include <QImage>
 
 int main(int argc, char** argv)
 {

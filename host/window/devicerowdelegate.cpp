@@ -5,7 +5,7 @@
 #include "window/devicesummary.h"
 #include "window/urgencycolors.h"
 
-#include "paintersaver.h"
+#include "dev/view/paintersaver.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -4,7 +4,7 @@
 #include "window/devicesummary.h"
 #include "window/urgencycolors.h"
 
-#include "paintersaver.h"
+#include "dev/view/paintersaver.h"
 
 #include <QPainter>
 
