@@ -16,6 +16,8 @@ class Ui_ChartForm;
 class DEVVIEW_EXPORT ChartForm : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int currentIndex READ getCurrentIndex WRITE setCurrentIndex)
+    Q_PROPERTY(QString currentName READ getCurrentName WRITE setCurrentName)
 
 public:
     // Starts on the three-phase page.
@@ -32,6 +34,7 @@ public:
     void refreshFormInfo(QMap<int, QVariant> snapshot);
     // Stored for the host.
     void setCurrentName(QString name);
+    QString getCurrentName() const { return currentName; }
 
 private:
     Ui_ChartForm* ui;

@@ -18,6 +18,7 @@ class Ui_ChildForm;
 class DEVVIEW_EXPORT ChildForm : public CollectView
 {
     Q_OBJECT
+    Q_PROPERTY(QString name READ getName WRITE setName)
 
 public:
     explicit ChildForm(CollectView* parent = nullptr);
@@ -25,6 +26,7 @@ public:
 
     // Passed on to the alarm, detail and control pages; the control page puts it in its commands.
     void setName(QString name) override;
+    QString getName() const { return viewName; }
     // Shows the stored snapshot on the visible page. The control page takes no data.
     void refreshData() override;
     // Enables the control page from level 1 up. user is for hosts that derive; not used here.

@@ -83,6 +83,19 @@ void DataChart::setMinValue(qreal v)
     m_minValue = v;
 }
 
+// An editor shows a change of the scale at once, and a value that was not on it before.
+void DataChart::showMinimum(qreal v)
+{
+    setMinValue(v);
+    update();
+}
+
+void DataChart::showMaximum(qreal v)
+{
+    setMaxValue(v);
+    update();
+}
+
 void DataChart::setRadioValue(QList<int> ratio, QList<int> values)
 {
     m_ratio = ratio;

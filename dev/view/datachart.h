@@ -23,6 +23,12 @@ class QTimer;
 class DEVVIEW_EXPORT DataChart : public QWidget
 {
     Q_OBJECT
+    // For Qt Designer, in this order: a value counts on the scale that is there.
+    Q_PROPERTY(qreal minimum READ minimum WRITE showMinimum)
+    Q_PROPERTY(qreal maximum READ maximum WRITE showMaximum)
+    Q_PROPERTY(qreal value READ value WRITE setValue)
+    Q_PROPERTY(QString unitText READ unitText WRITE setUnitText)
+    Q_PROPERTY(QString caption READ caption WRITE setCaption)
 
 public:
     // Scale 60 to 300, unit "V", value 0, bands green, yellow, red.
@@ -42,6 +48,11 @@ public:
     // other number only the first limit counts. Where a list is too short, its last band goes on.
     void setRadioValue(QList<int> ratio, QList<int> values);
     qreal getMaxValue() { return m_maxValue; }
+    qreal maximum() const { return m_maxValue; }
+    qreal minimum() const { return m_minValue; }
+    qreal value() const { return m_value; } // 0 where "--" is shown
+    QString unitText() const { return m_unitText; }
+    QString caption() const { return m_caption; }
     // The accessible name is the caption with the value and its unit.
     void setCaption(const QString& caption);
 
@@ -86,6 +97,8 @@ private slots:
     void UpdateGraph();
 
 private:
+    void showMinimum(qreal v);
+    void showMaximum(qreal v);
     bool isOnScale(double v) const;
     void tellValue();
 

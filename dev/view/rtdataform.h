@@ -21,6 +21,7 @@ class Ui_RTDataForm;
 class DEVVIEW_EXPORT RTDataForm : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString currentName READ getCurrentName WRITE setCurrentName)
 
 public:
     // Labels without values; the first refresh fills them in.
@@ -37,6 +38,7 @@ public:
     void RefreshRTDataInfo(QMap<int, QVariant> data);
     // Stored for the host.
     void setCurrentName(QString name);
+    QString getCurrentName() const { return currentName; }
 
 protected:
     Ui_RTDataForm* ui;

@@ -28,6 +28,10 @@ class ScrollMemory;
 class DEVVIEW_EXPORT TrendChart : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool antialiasing READ getUseAntialiasing WRITE setUseAntialiasing)
+    Q_PROPERTY(QColor horizontalLineColor READ horizontalLineColor WRITE setHorizontalLineColor)
+    Q_PROPERTY(QString caption READ caption WRITE setCaption)
+    Q_PROPERTY(QStringList seriesNames READ seriesNames WRITE setSeriesNames)
 
 public:
     // Empties all series. The picture keeps the last curves until the next sample.
@@ -43,10 +47,13 @@ public:
     bool getUseAntialiasing() const { return m_bUseAntialiasing; }
     // Stored for hosts; the grid is always black and dotted. Repaints.
     void setHorizontalLineColor(const QColor& colour);
+    QColor horizontalLineColor() const { return m_hLineClr; }
     // The accessible name: the caption, then the latest value of each series by its name; without
     // names the series are numbered.
     void setCaption(const QString& caption);
     void setSeriesNames(const QStringList& names);
+    QString caption() const { return m_caption; }
+    QStringList seriesNames() const { return m_seriesNames; }
 
     QSize sizeHint() const override { return {350, 350}; }
     QSize minimumSizeHint() const override { return {280, 280}; }
