@@ -28,8 +28,6 @@ set(CPACK_POST_BUILD_SCRIPTS ${here}/control.cmake)
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${libdevview})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${here}/triggers)
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "Qt 5 widgets that show one uninterruptible power supply
 devView shows where the power of an uninterruptible power supply comes from
@@ -41,12 +39,14 @@ This package contains the shared library.")
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libdevview-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${libdevview} (= ${debian_version}), qtbase5-dev (>= 5.15)")
+set(CPACK_DEBIAN_DEV_PACKAGE_SUGGESTS qttools5-dev-tools)
 set(CPACK_DEBIAN_DEV_DESCRIPTION "Qt 5 widgets that show one UPS - development files
 devView shows where the power of an uninterruptible power supply comes from
 and where it goes: an animated diagram of the energy flow, the alarms, all
 readings by name, gauges and trend charts, and a page of commands.
 .
-This package contains the headers, the CMake package and the pkg-config file.")
+This package contains the headers, the CMake package, the pkg-config file and
+the plug-in that offers the widgets in Qt Designer.")
 
 if(TARGET upsdesk)
     list(APPEND CPACK_COMPONENTS_ALL upsdesk)
@@ -71,7 +71,7 @@ include(CPack)
 add_custom_target(packages
     COMMAND ${CMAKE_CPACK_COMMAND} --config ${PROJECT_BINARY_DIR}/CPackConfig.cmake
     COMMENT "Making the Debian packages" VERBATIM USES_TERMINAL)
-foreach(part devView upsdesk)
+foreach(part devView devviewdesigner upsdesk)
     if(TARGET ${part})
         add_dependencies(packages ${part})
     endif()
