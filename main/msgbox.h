@@ -27,7 +27,7 @@ enum {
 /// Run it with `exec()`: `QDialog::Accepted` after "Ok", `QDialog::Rejected` after "Cancel", Escape
 /// or a close. It has no title bar; the left mouse button drags it by its body. Style sheets find
 /// it as `#WhiteDialog`, its buttons as `#btnBlue` ("Ok") and `#btnWhite` ("Cancel").
-/// \image html control.png "The control page, which asks with this dialog"
+/// \image html prompt.png "What the control page asks"
 class DEVVIEW_EXPORT MsgBox : public QDialog
 {
     Q_OBJECT

@@ -7,12 +7,16 @@
 
 #include <devview/trendchart.h>
 
+/// The trend of three phases: series 0 to 2 against the left scale of 0 to 400 (volts of the lines
+/// A, B, C), series 3 to 5 against the right scale of 0 to 100 (their frequencies in Hz). Its grid
+/// is always shown. How it is fed: TrendChart.
+/// \image html trend-three-phase.png "Voltages and frequencies of an input"
 class DEVVIEW_EXPORT ThreeDynamicChart : public TrendChart
 {
     Q_OBJECT
 
 public:
-    // Left: yellow, green, red. Right: amber, leaf green, dark red.
+    /// Empty. Left: yellow, green, red. Right: amber, leaf green, dark red. Other ids are ignored.
     explicit ThreeDynamicChart(QWidget* parent = nullptr);
 };
 
