@@ -51,8 +51,8 @@ constexpr CliUsage kUsages[] = {
                               "unknown), 3 UNKNOWN (also: refused, usage)"),
      "check nut://10.0.0.5/rack3\ncheck \"Rack 3\" --warning load=80 --critical "
      "load=95,runtime=300:"},
-    {"picture", "ADDRESS --out DIR [--size WxH] [--theme light|dark] [--language CODE]", 1, 1,
-     QT_TRANSLATE_NOOP("Cli", "Writes one picture per page of a device; needs no display."),
+    {"picture", "ADDRESS --out DIR [--size WxH] [--theme light|dark] [--language CODE] [--widgets]",
+     1, 1, QT_TRANSLATE_NOOP("Cli", "Writes one picture per page of a device; needs no display."),
      QT_TRANSLATE_NOOP("Cli", "0 live, 3 not live, 2 usage or a file that cannot be written"),
      "picture sim:outage --out pictures --size 1280x900 --theme dark"},
     {"command", "ADDRESS NAME [VALUE] [--yes]", 2, 3,

@@ -1,5 +1,5 @@
 // upsdesk picture ADDRESS --out DIR: one PNG per page, with or without a display.
-// May touch: the window room, devices and their connectors.
+// May touch: the window room, the library's widgets, devices and their connectors.
 
 #include "cli/cliparser.h"
 #include "cli/clisupport.h"
@@ -8,7 +8,10 @@
 #include "cli/onepoll.h"
 #include "cli/subcommands.h"
 #include "connectors/factory/connectorfactory.h"
+#include "datachart.h"
 #include "fleet/commanddesk.h"
+#include "msgbox.h"
+#include "trendchart.h"
 #include "window/devicepage.h"
 #include "window/language.h"
 #include "window/theme.h"
@@ -17,6 +20,8 @@
 #include <QDir>
 #include <QRegularExpression>
 #include <QThread>
+
+#include <algorithm>
 
 namespace {
 
@@ -32,12 +37,19 @@ constexpr Page kPages[] = {
     {"chart", DevicePage::ChartView, 0},       {"table", DevicePage::TableView, 0},
 };
 
+// For the pictures of single widgets: a gauge that both chart pages have, a text of the library's.
+constexpr char kGauge[] = "widget_outload";
+constexpr char kQuestion[] = "UPS Self-test for 10 seconds";
 constexpr QSize kDefaultSize(1024, 768);
 constexpr int kLeastSide = 200;
 constexpr int kMostSide = 8192;
 // A chart of a single reading shows nothing.
-constexpr int kChartReadings = 6;
-constexpr unsigned long kBetweenReadingsMs = 200;
+struct Pace {
+    int readings;
+    unsigned long betweenMs;
+};
+constexpr Pace kForPages{6, 200};
+constexpr Pace kForWidgets{150, 20}; // a trend chart by itself is to be seen full
 
 // Without a display Qt remarks on every window that its size hints reach no window manager.
 void dropSizeHintRemarks(QtMsgType type, const QMessageLogContext& context, const QString& text)
@@ -63,6 +75,7 @@ struct Wanted {
     QSize size = kDefaultSize;
     Theme theme = Theme::Light;
     LanguageChoice language = LanguageChoice::System;
+    bool widgets = false; // a gauge, a trend and a prompt, too, each by itself
 };
 
 // Nothing after telling what is wrong with the arguments.
@@ -76,7 +89,9 @@ std::optional<Wanted> readWanted(const QStringList& arguments)
     const QCommandLineOption theme(QStringLiteral("theme"), QStringLiteral("light or dark."),
                                    QStringLiteral("THEME"), QStringLiteral("light"));
     const LanguageOption language;
-    parser.addOptions({out, size, theme, language});
+    const QCommandLineOption widgets(QStringLiteral("widgets"),
+                                     QStringLiteral("Also a gauge, a trend and a prompt."));
+    parser.addOptions({out, size, theme, language, widgets});
     if (!parser.read(arguments))
         return {};
     const auto spoken = language.choice(parser);
@@ -85,6 +100,7 @@ std::optional<Wanted> readWanted(const QStringList& arguments)
     const int chosen = QStringList{"light", "dark"}.indexOf(parser.value(theme));
     Wanted wanted{parser.positionalArguments().first(), QDir(parser.value(out))};
     wanted.language = *spoken;
+    wanted.widgets = parser.isSet(widgets);
     wanted.theme = chosen > 0 ? Theme::Dark : Theme::Light;
     if (parser.isSet(out) && chosen >= 0 && readSize(parser.value(size), wanted.size))
         return wanted;
@@ -97,19 +113,48 @@ std::optional<Wanted> readWanted(const QStringList& arguments)
 }
 
 // Enough readings for the charts to show a line; fewer from a device that is not live.
-void fill(DevicePage& page, Device& device)
+void fill(DevicePage& page, Device& device, const Pace& pace)
 {
-    for (int i = 0; i < kChartReadings; ++i) {
+    for (int i = 0; i < pace.readings; ++i) {
         pollOnce(device);
         page.refresh();
         page.grab(); // the charts keep no sample before they have been painted
         if (device.link() != LinkState::Live)
             return;
-        QThread::msleep(kBetweenReadingsMs);
+        QThread::msleep(pace.betweenMs);
     }
 }
 
 // False after telling which picture could not be written.
+bool save(QWidget* shown, const QDir& folder, const char* name)
+{
+    const QString file = folder.filePath(QLatin1String(name) + QStringLiteral(".png"));
+    if (!shown || !shown->grab().save(file)) {
+        printError(QCoreApplication::translate("Picture", "cannot write %1").arg(file));
+        return false;
+    }
+    printOut(file);
+    return true;
+}
+
+template <typename Widget>
+Widget* visible(const DevicePage& page, const QString& name = {})
+{
+    const auto all = page.findChildren<Widget*>(name);
+    const auto found =
+        std::find_if(all.begin(), all.end(), [](Widget* w) { return w->isVisible(); });
+    return found != all.end() ? *found : nullptr;
+}
+
+bool saveWidgets(DevicePage& page, const QDir& folder)
+{
+    page.showView(DevicePage::ChartView);
+    QApplication::processEvents();
+    MsgBox prompt(MSGBOX_STYLE_CHOISE, QCoreApplication::translate("SetInfoForm", kQuestion) + '?');
+    return save(visible<DataChart>(page, QLatin1String(kGauge)), folder, "gauge") &&
+           save(visible<TrendChart>(page), folder, "trend") && save(&prompt, folder, "prompt");
+}
+
 bool savePages(DevicePage& page, const QDir& folder)
 {
     for (const Page& shown : kPages) {
@@ -118,12 +163,8 @@ bool savePages(DevicePage& page, const QDir& folder)
             page.showTab(shown.tab);
         page.refresh();
         QApplication::processEvents();
-        const QString file = folder.filePath(QLatin1String(shown.file) + QStringLiteral(".png"));
-        if (!page.grab().save(file)) {
-            printError(QCoreApplication::translate("Picture", "cannot write %1").arg(file));
+        if (!save(&page, folder, shown.file))
             return false;
-        }
-        printOut(file);
     }
     return true;
 }
@@ -157,8 +198,8 @@ int runPicture(const QStringList& arguments)
     page.finishViews();
     page.showView(DevicePage::ChartView);
     QApplication::processEvents();
-    fill(page, device);
-    if (!savePages(page, wanted->folder))
+    fill(page, device, wanted->widgets ? kForWidgets : kForPages);
+    if (!savePages(page, wanted->folder) || (wanted->widgets && !saveWidgets(page, wanted->folder)))
         return ExitUsage;
     return device.link() == LinkState::Live ? ExitOk : ExitNotReachable;
 }
