@@ -1,0 +1,48 @@
+# Builds the manual below WORK_DIR; a warning of Doxygen ends it. UPSDESK paints the pictures; without it each is
+# replaced by one from docs/images, so that every mention of a picture is checked all the same.
+cmake_minimum_required(VERSION 3.21)
+set(pictures ${WORK_DIR}/pictures)
+file(REMOVE_RECURSE ${WORK_DIR}/html ${pictures})
+file(MAKE_DIRECTORY ${pictures})
+
+# The pages of one simulated UPS; their names get the suffix. What follows goes to upsdesk.
+function(paint situation suffix)
+    set(folder ${pictures}${suffix})
+    file(MAKE_DIRECTORY ${folder}/run)
+    file(CHMOD ${folder}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=${folder}/run
+        ${UPSDESK} picture ${situation} --out ${folder} --language en ${ARGN}
+        OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+    file(GLOB painted ${folder}/*.png)
+    foreach(picture IN LISTS painted)
+        cmake_path(GET picture STEM name)
+        file(RENAME ${picture} ${pictures}/${name}${suffix}.png)
+    endforeach()
+endfunction()
+
+set(headers ${HEADERS})
+list(TRANSFORM headers PREPEND ${SOURCE_DIR}/)
+if(UPSDESK)
+    paint(sim: "" --widgets)
+    paint(sim:outage -outage)
+    paint(sim:three-phase -three-phase --widgets)
+else()
+    foreach(header IN LISTS headers)
+        file(STRINGS ${header} wanted REGEX "image html [^ ]+")
+        foreach(line IN LISTS wanted)
+            string(REGEX REPLACE ".*image html ([^ ]+).*" "\\1" name "${line}")
+            file(COPY_FILE ${SOURCE_DIR}/packaging/icons/upsdesk-48.png ${pictures}/${name})
+        endforeach()
+    endforeach()
+endif()
+
+file(GLOB pages ${SOURCE_DIR}/docs/*.md)
+set(DOCS_SOURCE ${SOURCE_DIR})
+set(DOCS_OUTPUT ${WORK_DIR})
+set(DOCS_PICTURES ${pictures})
+list(JOIN headers " " headers)
+list(JOIN pages " " pages)
+set(DOCS_INPUT "${headers} ${SOURCE_DIR}/README.md ${pages} ${SOURCE_DIR}/CONTRIBUTING.md ${SOURCE_DIR}/CHANGELOG.md")
+configure_file(${SOURCE_DIR}/docs/Doxyfile.in ${WORK_DIR}/Doxyfile @ONLY)
+execute_process(COMMAND ${DOXYGEN} ${WORK_DIR}/Doxyfile COMMAND_ERROR_IS_FATAL ANY)
+message(STATUS "${WORK_DIR}/html/index.html")
