@@ -23,7 +23,7 @@ class Ui_RTEventForm;
 /// had the alarm raised, so an alarm that came and went while ChildForm showed another page is
 /// never seen, and one found on opening the page began, for it, just then. It keeps no history:
 /// what is cleared disappears. Style sheets find it as `#AlarmTable` with the table `#basicTable`.
-/// \image html rt-alarm.png "The alarms of a UPS"
+/// \image html rt-alarm-outage.png "The alarms of a UPS on battery"
 class DEVVIEW_EXPORT RTEventForm : public QWidget
 {
     Q_OBJECT

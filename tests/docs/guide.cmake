@@ -1,10 +1,11 @@
 # Follows docs/guide.md in a folder of its own: its blocks are the project and the program, built against the build
 # folder and run.
+cmake_minimum_required(VERSION 3.21)
 include(${CMAKE_CURRENT_LIST_DIR}/../packages/run.cmake)
 
 # All blocks of a language, in their order, as one file.
 function(extract language file)
-    execute_process(COMMAND sed -n "/^```${language}$/,/^```$/{/^```/d;p}" ${SOURCE_DIR}/docs/guide.md
+    execute_process(COMMAND sed -n "/^```${language}/,/^```/{/^```/d;p}" ${SOURCE_DIR}/docs/guide.md
         OUTPUT_FILE ${WORK_DIR}/${file} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
