@@ -2061,7 +2061,7 @@ Qt %2
     </message>
     <message>
         <source>Still s&amp;o</source>
-        <translation>Dure enc&amp;ore</translation>
+        <translation>En c&amp;ours</translation>
     </message>
     <message>
         <source>Not acknowled&amp;ged</source>
@@ -2093,7 +2093,7 @@ Qt %2
     </message>
     <message>
         <source>&amp;Severity from</source>
-        <translation>&amp;Gravité à partir de</translation>
+        <translation>&amp;Gravité dès</translation>
     </message>
     <message>
         <source>All</source>
