@@ -1772,7 +1772,7 @@ Qt %2
     </message>
     <message>
         <source>%1 for %2</source>
-        <translation>%1 seit %2</translation>
+        <translation>%1, Dauer %2</translation>
     </message>
     <message>
         <source>Nothing is stored of this time</source>

@@ -1770,7 +1770,7 @@ Qt %2
     </message>
     <message>
         <source>%1 for %2</source>
-        <translation>%1已 %2</translation>
+        <translation>%1，持续 %2</translation>
     </message>
     <message>
         <source>Nothing is stored of this time</source>
