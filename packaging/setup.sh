@@ -39,6 +39,7 @@ build() {
     local preset=$1 target=$2
     shift 2
     say "Building $target (preset $preset)"
-    cmake --preset "$preset" "$@"
+    # -U: a folder that was configured before keeps the library folder of those days.
+    cmake --preset "$preset" -UCMAKE_INSTALL_LIBDIR "$@"
     cmake --build --preset "$preset" --target "$target"
 }
