@@ -55,8 +55,9 @@ QString faultOf(const QWidget* widget)
     if (const auto* label = qobject_cast<const QLabel*>(widget)) {
         const QSize room = label->contentsRect().size();
         const bool isElided = label->inherits("ElidedLabel"); // seen by what it paints
-        if (!isElided && label->wordWrap() &&
-            label->heightForWidth(label->width()) > label->height())
+        const int line = metrics.height();
+        if (!isElided && label->wordWrap() && // a sign of another font is a little higher
+            label->heightForWidth(label->width()) > label->height() + line / 2)
             return label->text();
         if (!isElided && !label->wordWrap() && label->pixmap(Qt::ReturnByValue).isNull() &&
             metrics.size(Qt::TextShowMnemonic, label->text()).width() > room.width())
