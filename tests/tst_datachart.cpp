@@ -4,6 +4,8 @@
 #include "datachart.h"
 #include "support/recordingdevice.h"
 
+#include <QPainter>
+#include <QPicture>
 #include <QTimer>
 #include <QtTest>
 
@@ -54,6 +56,7 @@ private slots:
     void bands();
     void covered();
     void geometry();
+    void looksAsPaintedInOneGo();
 };
 
 void TestDataChart::values()
@@ -184,6 +187,38 @@ void TestDataChart::geometry()
         Probe gauge;
         gauge.resize(size);
         gauge.texts();
+    }
+}
+
+// On a screen the pixels come from two pictures of the dial, open and covered; for other devices
+// the arc is painted over the dial.
+void TestDataChart::looksAsPaintedInOneGo()
+{
+    constexpr int kLevels = 16; // of 255, where the edge of the arc meets other edges
+    for (double value : {0.0, 0.4, 33.0, 50.0, 78.6, 99.8, 100.0}) {
+        Probe gauge(0, 100);
+        gauge.resize(300, 200);
+        gauge.setRadioValue({0, 1, 2}, {30, 60, 100});
+        gauge.setValue(value);
+        QPicture record;
+        gauge.render(&record, QPoint(), QRegion(), QWidget::RenderFlags());
+        QImage inOneGo(gauge.size(), QImage::Format_RGB32);
+        inOneGo.fill(Qt::white);
+        QImage shown = inOneGo;
+        QPainter(&inOneGo).drawPicture(0, 0, record);
+        gauge.render(&shown, QPoint(), QRegion(), QWidget::RenderFlags());
+        int most = 0;
+        const auto compare = [&](int a, int b) { most = qMax(most, qAbs(a - b)); };
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                const QRgb a = shown.pixel(x, y);
+                const QRgb b = inOneGo.pixel(x, y);
+                compare(qRed(a), qRed(b));
+                compare(qGreen(a), qGreen(b));
+                compare(qBlue(a), qBlue(b));
+            }
+        }
+        QVERIFY2(most <= kLevels, qPrintable(QString("%1 at %2").arg(most).arg(value)));
     }
 }
 

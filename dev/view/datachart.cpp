@@ -1,14 +1,17 @@
 #include "datachart.h"
 
 #include "paintersaver.h"
-#include "paintmemory.h"
+#include "splitpicture.h"
 #include "valuetext.h"
 
+#include <QPaintEvent>
 #include <QRadialGradient>
 #include <QTimer>
+#include <QtMath>
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -18,12 +21,19 @@ constexpr int kArcStart = 10 * 16;
 constexpr int kArcSpan = kArcDegrees * 16;
 constexpr int kArcBottom = 10;    // px between arc centre and lower edge
 constexpr double kArcShare = 0.7; // of the outer radius
+constexpr int kInk = 2;           // px that lines and letters may reach out of their place
+constexpr int kValuePoints = 11;
 
 int truncated(double v)
 {
     constexpr double kLowest = std::numeric_limits<int>::min();
     constexpr double kHighest = std::numeric_limits<int>::max();
     return std::isnan(v) ? 0 : static_cast<int>(qBound(kLowest, v, kHighest));
+}
+
+QRect inked(const QRectF& place)
+{
+    return place.adjusted(-kInk, -kInk, kInk, kInk).toAlignedRect();
 }
 
 QFont gaugeFont(int points, int weight)
@@ -36,9 +46,9 @@ QFont gaugeFont(int points, int weight)
 DataChart::DataChart(QWidget* parent)
     : QWidget(parent)
     , m_unitText(QStringLiteral("V"))
-    , m_dialMemory(new PaintMemory)
-    , m_arcMemory(new PaintMemory)
+    , m_dial(new SplitPicture)
 {
+    m_valueText.setCacheEnabled(true);
     constexpr int kTickMs = 10;
     updateTimer = new QTimer(this);
     updateTimer->setInterval(kTickMs);
@@ -55,9 +65,10 @@ void DataChart::setValue(qreal v)
     if (m_invalidValue)
         v = 0;
     if (v != m_value) { // between "0" and "--" it is the same; the next paint shows which
+        const int covered = coveredSpan();
         m_bReverse = v < m_value;
         m_value = m_currentValue = v;
-        update();
+        updateFrom(covered);
     }
     tellValue();
 }
@@ -134,30 +145,62 @@ void DataChart::UpdateGraph()
 void DataChart::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    m_dialMemory->clear();
-    m_arcMemory->clear();
+    m_dial->clear();
 }
 
-// Most polls bring the value that is shown already.
-void DataChart::paintEvent(QPaintEvent*)
+// Where the dial is known and only the value has changed, its number and the way of the arc's end.
+// The edges of a part show where they lie between pixels of the screen.
+void DataChart::updateFrom(int covered)
+{
+    const double ratio = devicePixelRatioF();
+    const int band = bandColour();
+    if (!m_dial->isKept(band) || band != m_bandShown || !(dialNow() == m_dialShown) ||
+        ratio != std::floor(ratio))
+        return update();
+    update(coverBetween(covered, coveredSpan()) + m_valueShown + inked(valuePlace()));
+}
+
+// Open and covered the dial stays the same; the value is which of them is seen where.
+void DataChart::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     resetVariables();
-    const QVariantList look{size(),        font(),     logicalDpiX(), logicalDpiY(), bandColour(),
-                            coveredSpan(), m_minValue, m_maxValue,    valueText()};
-    m_dialMemory->paintOver(
-        &painter, look, [this] { return rect(); }, [&] { drawDial(&painter); });
+    const Dial dial = std::exchange(m_dialShown, dialNow());
+    const int band = std::exchange(m_bandShown, bandColour());
+    const bool isSameDial = dial == m_dialShown;
+    if (!isSameDial) {
+        m_dial->clear();
+        m_valueText.setFont(QFont(gaugeFont(kValuePoints, QFont::Bold), this));
+        m_valueText.setText(QString());
+    }
+    m_dial->paint(&painter,
+                  {m_bandShown, rect(), [&] { drawDial(&painter, 0); },
+                   [&] { drawDial(&painter, kArcSpan); },
+                   [&] { drawDial(&painter, coveredSpan()); }},
+                  cover());
+    drawValue(&painter);
+    // A part that is not put back may differ from the rest.
+    const bool isPutBack = isSameDial && band == m_bandShown && m_dial->isKept(band);
+    if (!isPutBack && !(visibleRegion() - event->region()).isEmpty())
+        update();
 }
 
-void DataChart::drawDial(QPainter* painter)
+DataChart::Dial DataChart::dialNow() const
 {
-    const auto arc = [this] {
-        const double below = m_pieRect.height() / 2; // which no arc reaches
-        return m_pieRect.adjusted(-1, -1, 1, 1 - below).toAlignedRect() & rect();
-    };
-    m_arcMemory->paintOver(painter, {size(), bandColour()}, arc, [&] { drawColorPies(painter); });
-    drawGraph(painter);
+    return {size(), font(), logicalDpiX(), logicalDpiY(), m_minValue, m_maxValue};
+}
+
+bool DataChart::Dial::operator==(const Dial& other) const
+{
+    return size == other.size && dpiX == other.dpiX && dpiY == other.dpiY &&
+           minimum == other.minimum && maximum == other.maximum && font == other.font;
+}
+
+void DataChart::drawDial(QPainter* painter, int covered)
+{
+    drawColorPies(painter);
+    drawGraph(painter, covered);
     drawCoverLines(painter);
     drawCoverCircle(painter);
     drawMarkAndText(painter);
@@ -190,6 +233,13 @@ void DataChart::resetVariables()
 QPointF DataChart::arcCentre() const
 {
     return QPointF(width() / 2, height() - kArcBottom);
+}
+
+// Counterclockwise from the right, as angles of arcs are.
+QPointF DataChart::onCircle(double radius, double degrees) const
+{
+    const double angle = qDegreesToRadians(degrees);
+    return arcCentre() + radius * QPointF(std::cos(angle), -std::sin(angle));
 }
 
 int DataChart::bandColour() const
@@ -245,12 +295,58 @@ int DataChart::coveredSpan() const
     return static_cast<int>(qBound<double>(0, kArcSpan - filled, kArcSpan));
 }
 
-void DataChart::drawGraph(QPainter* painter)
+void DataChart::drawGraph(QPainter* painter, int covered)
 {
     const PainterSaver saver(painter);
     painter->setPen(Qt::NoPen);
     painter->setBrush(QColor(238, 238, 221));
-    painter->drawPie(m_pieRect, kArcStart, coveredSpan());
+    painter->drawPie(m_pieRect, kArcStart, covered);
+}
+
+// It ends where the unfilled part does and goes beyond the arc on all other sides, where both
+// pictures of the dial have the same pixels: a square, as upright edges are painted fastest.
+QPolygonF DataChart::cover() const
+{
+    constexpr double kDown = -90; // degrees
+    constexpr double kAllAround = kDown + 360;
+    constexpr double kCorners[] = {-45, 45, 135, 225};
+    const int span = coveredSpan();
+    if (span == 0)
+        return {};
+    const double end = span == kArcSpan ? kAllAround : double(kArcStart + span) / 16;
+    const double reach = m_colorPieRadius + kInk;
+    const auto onSquare = [&](double degrees) {
+        const QPointF way = onCircle(reach, degrees) - arcCentre();
+        return arcCentre() + way * (reach / qMax(qAbs(way.x()), qAbs(way.y())));
+    };
+    QPolygonF sector;
+    sector << arcCentre() << onSquare(kDown);
+    for (double corner : kCorners) {
+        if (corner < end)
+            sector << onSquare(corner);
+    }
+    return sector << onSquare(end);
+}
+
+// The pixels of the sector between the ends of two arcs, in parts that leave out most others.
+QRegion DataChart::coverBetween(int span, int other) const
+{
+    constexpr int kParts = 3;
+    constexpr double kStep = 10; // degrees, at most
+    const double begin = double(kArcStart + qMin(span, other)) / 16;
+    const double end = double(kArcStart + qMax(span, other)) / 16;
+    const double bulge = std::cos(qDegreesToRadians(kStep / 2)); // of the arc between two corners
+    const double partReach = (m_colorPieRadius + kInk) / bulge / kParts;
+    QRegion region;
+    for (int part = 0; part < kParts; ++part) {
+        QPolygonF corners;
+        for (double angle = begin; angle < end + kStep; angle += kStep) {
+            for (int circle : {part, part + 1})
+                corners << onCircle(circle * partReach, qMin(angle, end));
+        }
+        region += corners.boundingRect().adjusted(-1, -1, 1, 1).toAlignedRect();
+    }
+    return region;
 }
 
 // Five equal sectors.
@@ -324,19 +420,43 @@ void DataChart::drawLabel(QPainter* painter, int number, double angle)
     painter->drawText(QPointF(3.0 - w, 2.0 + h / 2), text);
 }
 
+QRect DataChart::valueBox() const
+{
+    const int k = static_cast<int>((m_colorPieRadius - m_coverCircleRadius) / 3.0);
+    return QRect(width() / 2 - 3 * k, height() - 2 * k, 6 * k, 2 * k);
+}
+
 void DataChart::drawTextRect(QPainter* painter)
 {
-    constexpr int kPoints = 11;
     const PainterSaver saver(painter);
-    const int k = static_cast<int>((m_colorPieRadius - m_coverCircleRadius) / 3.0);
-    const QRect box(width() / 2 - 3 * k, height() - 2 * k, 6 * k, 2 * k);
+    const QRect box = valueBox();
+    const int roundness = box.height() / 2;
     painter->setOpacity(0.7);
     painter->setPen(Qt::NoPen);
     painter->setBrush(Qt::blue);
-    painter->drawRoundedRect(box, k, k, Qt::RelativeSize);
+    painter->drawRoundedRect(box, roundness, roundness, Qt::RelativeSize);
+}
 
-    painter->setOpacity(1.0);
+void DataChart::drawValue(QPainter* painter)
+{
+    const PainterSaver saver(painter);
     painter->setPen(Qt::white);
-    painter->setFont(gaugeFont(kPoints, QFont::Bold));
-    painter->drawText(box, Qt::AlignCenter | Qt::TextDontClip, valueText());
+    const QRectF place = valuePlace();
+    m_valueText.draw(painter, place.topLeft());
+    m_valueShown = inked(place);
+}
+
+// Of the number, which may be longer than its box; it is laid out once, to measure and to paint.
+QRectF DataChart::valuePlace()
+{
+    const QString text = valueText();
+    if (m_valueText.text() != text) {
+        m_valueText.setText(text);
+        m_valueText.beginLayout();
+        m_valueText.createLine();
+        m_valueText.endLayout();
+    }
+    QRectF place = m_valueText.lineAt(0).naturalTextRect();
+    place.moveCenter(QRectF(valueBox()).center());
+    return place;
 }

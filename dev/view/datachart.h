@@ -8,17 +8,21 @@
 #include <devview/devview_export.h>
 
 #include <QColor>
+#include <QFont>
 #include <QList>
 #include <QPointF>
+#include <QPolygonF>
 #include <QRectF>
+#include <QRegion>
 #include <QString>
+#include <QTextLayout>
 #include <QWidget>
 
 #include <memory>
 
-class PaintMemory;
 class QRadialGradient;
 class QTimer;
+class SplitPicture;
 
 /// A half-circle gauge: the arc fills from the left with the value, in the colour of the band in
 /// which the value lies; the value itself stands in a box below.
@@ -126,20 +130,43 @@ private:
     bool isOnScale(double v) const;
     void tellValue();
 
+    // What the dial's pictures depend on, beside the band.
+    struct Dial {
+        QSize size;
+        QFont font;
+        int dpiX = 0;
+        int dpiY = 0;
+        double minimum = 0;
+        double maximum = 0;
+        bool operator==(const Dial& other) const;
+    };
+
+    void updateFrom(int covered);
     void resetVariables();
-    void drawDial(QPainter* painter);
+    void drawDial(QPainter* painter, int covered);
     void drawColorPies(QPainter* painter);
-    void drawGraph(QPainter* painter);
+    void drawGraph(QPainter* painter, int covered);
     void drawCoverLines(QPainter* painter);
     void drawCoverCircle(QPainter* painter);
     void drawMarkAndText(QPainter* painter);
     void drawLabel(QPainter* painter, int number, double angle);
     void drawTextRect(QPainter* painter);
+    void drawValue(QPainter* painter);
     void setColor(QRadialGradient& gradient, int index);
     QPointF arcCentre() const;
+    QPointF onCircle(double radius, double degrees) const;
+    QPolygonF cover() const;
+    QRegion coverBetween(int span, int other) const;
+    QRect valueBox() const;
+    QRectF valuePlace();
+    Dial dialNow() const;
 
-    std::unique_ptr<PaintMemory> m_dialMemory;
-    std::unique_ptr<PaintMemory> m_arcMemory;
+    std::unique_ptr<SplitPicture> m_dial;
+    QTextLayout m_valueText;
+    // In the last paint.
+    Dial m_dialShown;
+    int m_bandShown = 0;
+    QRect m_valueShown;
 };
 
 #endif // DATACHART_H

@@ -29,17 +29,6 @@ QByteArray pixelsOf(QImage& image, const QRegion& clip)
     return pixels;
 }
 
-bool has(QImage& image, const QRegion& clip, const QByteArray& pixels)
-{
-    const char* expected = pixels.constData();
-    bool isSame = !pixels.isEmpty();
-    visitRows(image, clip, [&](const uchar* row, int bytes) {
-        isSame = isSame && std::memcmp(row, expected, std::size_t(bytes)) == 0;
-        expected += bytes;
-    });
-    return isSame;
-}
-
 void put(QImage& image, const QRegion& clip, const QByteArray& pixels)
 {
     const char* from = pixels.constData();
@@ -72,32 +61,6 @@ void PaintMemory::paint(QPainter* painter, const Key& key, int number,
         return put(*image, clip, *picture);
     paint();
     m_pictures.insert(number, pixelsOf(*image, clip));
-}
-
-void PaintMemory::paintOver(QPainter* painter, const QVariantList& key,
-                            const std::function<QRegion()>& parts,
-                            const std::function<void()>& paint)
-{
-    QImage* image = paintpixels::target(painter);
-    const QTransform& place = painter->deviceTransform();
-    if (!image || place.type() > QTransform::TxScale)
-        return paint();
-    if (m_overKey != key || m_place != place || m_format != image->format()) {
-        clear();
-        m_overKey = key;
-        m_place = place;
-        m_format = image->format();
-        return paint();
-    }
-    if (m_clip.isEmpty())
-        m_clip = paintpixels::onDevice(place, parts());
-    if (!paintpixels::canPaint(painter, *image, m_clip))
-        return paint();
-    if (has(*image, m_clip, m_below))
-        return put(*image, m_clip, m_pictures.value(0));
-    m_below = pixelsOf(*image, m_clip);
-    paint();
-    m_pictures.insert(0, pixelsOf(*image, m_clip));
 }
 
 void PaintMemory::clear()

@@ -2,7 +2,7 @@
 #define DEVVIEW_PAINTMEMORY_H
 
 // Remembers the pixels that paints have made and puts them there again: for an opaque part of a
-// widget that repeats a few pictures, or for marks that stay the same on a ground that does.
+// widget that repeats a few pictures.
 // May touch: Qt Gui.
 
 #include <QByteArray>
@@ -10,7 +10,6 @@
 #include <QImage>
 #include <QRegion>
 #include <QTransform>
-#include <QVariantList>
 #include <QVector>
 
 #include <functional>
@@ -29,21 +28,14 @@ public:
     // that shrink or turn, it only paints.
     void paint(QPainter* painter, const Key& key, int number, const std::function<void()>& paint);
 
-    // Paints marks over what lies below. `paint` draws nothing outside of `parts`, pixels of the
-    // widget; the pixels are put back as long as those below are the same, too. Remembers one
-    // picture, from the second time on that it is asked for: until then it may be the last.
-    void paintOver(QPainter* painter, const QVariantList& key,
-                   const std::function<QRegion()>& parts, const std::function<void()>& paint);
     void clear();
 
 private:
     Key m_key;
-    QVariantList m_overKey;
     QTransform m_place;
     QImage::Format m_format = QImage::Format_Invalid;
     QRegion m_clip; // pixels of the device, as the pictures
     QHash<int, QByteArray> m_pictures;
-    QByteArray m_below;
 };
 
 #endif // DEVVIEW_PAINTMEMORY_H

@@ -39,3 +39,12 @@ bool paintpixels::canPaint(QPainter* painter, const QImage& image, const QRegion
     return image.rect().contains(pixels.boundingRect()) &&
            (clip.isEmpty() || (pixels - clip).isEmpty());
 }
+
+QRegion paintpixels::exposed(const QPainter* painter)
+{
+    const QPaintEngine* engine = painter->paintEngine();
+    const QPaintDevice* device = engine->paintDevice();
+    const QRect all(0, 0, device->width(), device->height());
+    const QRegion clip = engine->systemClip();
+    return clip.isEmpty() ? QRegion(all) : clip & all;
+}

@@ -14,6 +14,8 @@ namespace paintpixels {
 
 // The image that a painter in its first state paints on, at its own size or larger, else null.
 QImage* target(QPainter* painter);
+// Where such a painter may paint, in pixels of the image.
+QRegion exposed(const QPainter* painter);
 // Parts of a widget in pixels of the image.
 QRegion onDevice(const QTransform& place, const QRegion& parts);
 // Whether all of `pixels` is on the image and may be painted on.
