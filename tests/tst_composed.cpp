@@ -39,8 +39,8 @@ public:
         case 0:
             m_now = m_now.addSecs(1);
             [[fallthrough]];
-        case 1: // as where something lay over it; thick lines are cut there, and look it
-            if (this->devicePixelRatioF() != 1)
+        case 1: // as where something lay over it; between whole pixels lines are cut there
+            if (this->devicePixelRatioF() != qRound(this->devicePixelRatioF()))
                 return this->update();
             return this->update(QRect(-kAside + dice.bounded(-kAside), 0, 40, kSize.height()));
         case 2:

@@ -25,21 +25,6 @@ QImage* paintpixels::target(QPainter* painter)
     return inWholeBytes && isUpright(painter->deviceTransform()) ? image : nullptr;
 }
 
-QRegion paintpixels::onDevice(const QTransform& place, const QRegion& parts)
-{
-    QRegion pixels;
-    for (const QRect& part : parts)
-        pixels += place.mapRect(QRectF(part)).toAlignedRect();
-    return pixels;
-}
-
-bool paintpixels::canPaint(QPainter* painter, const QImage& image, const QRegion& pixels)
-{
-    const QRegion clip = painter->paintEngine()->systemClip();
-    return image.rect().contains(pixels.boundingRect()) &&
-           (clip.isEmpty() || (pixels - clip).isEmpty());
-}
-
 QRegion paintpixels::exposed(const QPainter* painter)
 {
     const QPaintEngine* engine = painter->paintEngine();

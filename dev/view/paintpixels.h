@@ -6,7 +6,6 @@
 
 #include <QImage>
 #include <QRegion>
-#include <QTransform>
 
 class QPainter;
 
@@ -16,10 +15,6 @@ namespace paintpixels {
 QImage* target(QPainter* painter);
 // Where such a painter may paint, in pixels of the image.
 QRegion exposed(const QPainter* painter);
-// Parts of a widget in pixels of the image.
-QRegion onDevice(const QTransform& place, const QRegion& parts);
-// Whether all of `pixels` is on the image and may be painted on.
-bool canPaint(QPainter* painter, const QImage& image, const QRegion& pixels);
 
 } // namespace paintpixels
 

@@ -1,6 +1,6 @@
 #include "trendchart.h"
 
-#include "scrollmemory.h"
+#include "paintlayer.h"
 #include "valuetext.h"
 
 #include <QPainter>
@@ -24,9 +24,9 @@ constexpr double kLabelGap = 5.0;     // px between box and label
 constexpr int kInk = 2;               // px that lines and letters may reach out of their place
 constexpr double kFarAway = 30000;    // px; the paint engine counts no further
 
-QRect inked(const QRectF& place, int ink = kInk)
+QRect inked(const QRectF& place)
 {
-    return place.adjusted(-ink, -ink, ink, ink).toAlignedRect();
+    return place.adjusted(-kInk, -kInk, kInk, kInk).toAlignedRect();
 }
 
 int secondOf(QTime time)
@@ -40,7 +40,8 @@ TrendChart::TrendChart(const Look& look, QWidget* parent)
     : QWidget(parent)
     , m_look(look)
     , m_timeTexts(kMostTimeTexts)
-    , m_curveMemory(new ScrollMemory)
+    , m_boxLayer(new PaintLayer)
+    , m_curveLayer(new PaintLayer)
 {
     Q_ASSERT(look.curves.size() <= kMaxSeries);
     initVariables();
@@ -173,7 +174,8 @@ void TrendChart::resizeEvent(QResizeEvent* event)
 void TrendChart::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    m_curveMemory->clear();
+    m_boxLayer->clear();
+    m_curveLayer->clear();
 }
 
 // Repaints what the event asks for, most often the curves and the times only.
@@ -218,24 +220,33 @@ void TrendChart::drawBox(QPainter* painter)
 {
     const QRectF box(QPointF(m_leftSpace, m_topSpace),
                      QPointF(width() - m_leftSpace, height() - m_topSpace));
-    if (box != m_boxRect || devicePixelRatioF() != m_ratio) {
+    if (box != m_boxRect) {
         m_boxRect = box;
-        m_ratio = devicePixelRatioF();
+        m_boxLines = boxLines();
         for (auto curve = curveMap.cbegin(); curve != curveMap.cend(); ++curve)
             m_places[curve.key()] = curvePlace(curve.key());
         m_curveRows = curveRows();
     }
+    const bool hasGrid = !m_look.gridCanBeHidden || m_bShowHLine;
+    PaintLayer::Move move;
+    if (m_drawnBox.box == box && m_drawnBox.hasGrid == hasGrid &&
+        m_drawnBox.isAntialiased == m_bUseAntialiasing)
+        move.distance = 0;
+    m_drawnBox = {box, hasGrid, m_bUseAntialiasing};
+    m_boxLayer->paint(painter, inked(box) & rect(), m_boxLines & rect(), move,
+                      [this](QPainter* on, const QRect&) { drawLines(on); });
+}
+
+void TrendChart::drawLines(QPainter* painter)
+{
     painter->setPen(Qt::black);
     painter->setBrush(Qt::NoBrush);
-    drawFrame(painter);
-
-    if (m_look.gridCanBeHidden && !m_bShowHLine)
+    painter->drawRect(m_boxRect);
+    if (!m_drawnBox.hasGrid)
         return;
     painter->setPen(Qt::DotLine); // black whatever m_hLineClr says
-    for (int k = 1; k < kIntervals; ++k) {
-        const QLineF line = gridLine(k);
-        drawAt(QRectF(line.p1(), line.p2()), painter, [&] { painter->drawLine(line); });
-    }
+    for (int k = 1; k < kIntervals; ++k)
+        painter->drawLine(gridLine(k));
 }
 
 // From above.
@@ -245,23 +256,14 @@ QLineF TrendChart::gridLine(int k) const
     return {m_boxRect.left(), y, m_boxRect.right(), y};
 }
 
-// Where only the right side is to be painted, a line does in a fraction of the time of a rectangle;
-// a thin one has the same pixels.
-void TrendChart::drawFrame(QPainter* painter)
+// What the frame and the grid cover.
+QRegion TrendChart::boxLines() const
 {
-    const bool isThin = painter->deviceTransform().m11() == 1.0;
-    const QRectF inner = m_boxRect.adjusted(kInk, kInk, -kInk, -kInk);
-    const QRectF beside(inner.topLeft(), QPointF(width(), inner.bottom()));
-    for (const QRect& exposed : m_exposed& inked(m_boxRect)) {
-        if (inner.contains(exposed))
-            continue;
-        painter->setClipRect(exposed);
-        if (isThin && beside.contains(exposed))
-            painter->drawLine(m_boxRect.topRight(), m_boxRect.bottomRight());
-        else
-            painter->drawRect(m_boxRect);
-        painter->setClipping(false);
-    }
+    QRegion lines(inked(m_boxRect));
+    lines -= m_boxRect.adjusted(kInk, kInk, -kInk, -kInk).toRect();
+    for (int k = 1; k < kIntervals; ++k)
+        lines += inked(QRectF(gridLine(k).p1(), gridLine(k).p2()));
+    return lines;
 }
 
 void TrendChart::drawText(QPainter* painter)
@@ -376,17 +378,6 @@ double TrendChart::scaleOf(int id) const
     return m_boxRect.height() / m_look.curves.at(id).fullScale;
 }
 
-bool TrendChart::isThick() const
-{
-    return m_ratio != 1.0;
-}
-
-// Of a curve. A thick line is cut also where it only comes near the edge of a clip.
-int TrendChart::ink() const
-{
-    return isThick() ? 2 * kInk : kInk;
-}
-
 // What a curve covers at most.
 QRect TrendChart::curvePlace(int id) const
 {
@@ -403,29 +394,18 @@ QRect TrendChart::curvePlace(int id) const
         return {};
     const QPointF right(m_boxRect.right(), yOf(least * scaleOf(id)));
     const QPointF left(leftEnd(samples), yOf(most * scaleOf(id)));
-    return inked(QRectF(left, right), ink());
+    return inked(QRectF(left, right));
 }
 
-// All curves, each whole in one of the rectangles, and thick grid lines that touch them: the paint
-// engine cuts lines at the edge of a clip, and thick ones look it.
+// All curves, each whole in one of the rectangles.
 QRegion TrendChart::curveRows() const
 {
     QRect bounds;
     for (const QRect& place : m_places)
         bounds |= place;
-    const QRect box = inked(m_boxRect);
-    if (isThick()) {
-        bounds.setLeft(qMin(bounds.left(), box.left()));
-        bounds.setRight(qMax(bounds.right(), box.right()));
-    }
     QRegion rows;
     for (const QRect& place : m_places)
         rows += QRect(bounds.left(), place.top(), bounds.width(), place.height());
-    for (int k = 0; isThick() && k <= kIntervals; ++k) {
-        const QRect line = inked(QRectF(gridLine(k).p1(), gridLine(k).p2()));
-        if (rows.intersects(line))
-            rows += QRect(bounds.left(), line.top(), bounds.width(), line.height());
-    }
     return rows;
 }
 
@@ -433,15 +413,17 @@ void TrendChart::drawGraph(QPainter* painter)
 {
     if (!m_exposed.intersects(m_curveRows))
         return;
-    ScrollMemory::Move move;
+    PaintLayer::Move move;
     const int samples = rect().contains(m_curveRows.boundingRect()) ? samplesSinceDrawn() : -1;
     if (samples >= 0) {
         move.distance = static_cast<int>(samples * kSampleStep);
         move.still = stillPlace(move.distance);
-        move.reach = qCeil(kSampleStep) + ink();
+        move.reach = qCeil(kSampleStep) + 2 * kInk;
     }
-    m_curveMemory->paint(painter, m_curveRows, move,
-                         [this](QPainter* on, const QRect& place) { drawCurves(on, place); });
+    const QRect box = inked(m_boxRect);
+    const bool isInBox = box.contains(m_curveRows.boundingRect());
+    m_curveLayer->paint(painter, isInBox ? box & rect() : rect(), m_curveRows & rect(), move,
+                        [this](QPainter* on, const QRect& place) { drawCurves(on, place); });
     m_drawn = {curveMap, color_pen, m_boxRect, m_bUseAntialiasing};
 }
 
@@ -464,8 +446,8 @@ QRect TrendChart::stillPlace(double distance) const
     double left = m_boxRect.left();
     for (const QVector<double>& now : curveMap)
         left = qMax(left, leftEnd(now));
-    const int first = qCeil(left) + ink();
-    const int last = qFloor(m_boxRect.right() - distance - ink()) - 1;
+    const int first = qCeil(left) + kInk;
+    const int last = qFloor(m_boxRect.right() - distance - kInk) - 1;
     return {first, 0, qMax(last - first, 0), height()};
 }
 
@@ -493,9 +475,9 @@ double TrendChart::leftEnd(const QVector<double>& samples) const
 void TrendChart::drawCurves(QPainter* painter, const QRect& place)
 {
     constexpr int kUsualSegments = 256; // on the stack; more of them move to the heap
-    const QRectF reach = inked(place, ink());
-    const int first = qFloor((m_boxRect.right() - reach.right()) / kSampleStep);
-    const int last = qCeil((m_boxRect.right() - reach.left()) / kSampleStep) + 2;
+    const QRectF reach = inked(place);
+    const int first = qCeil((m_boxRect.right() - reach.right()) / kSampleStep) + 1;
+    const int last = qFloor((m_boxRect.right() - reach.left()) / kSampleStep) + 2;
 
     painter->setBrush(Qt::NoBrush);
     for (auto curve = curveMap.cbegin(); curve != curveMap.cend(); ++curve) {

@@ -23,7 +23,7 @@
 #include <array>
 #include <memory>
 
-class ScrollMemory;
+class PaintLayer;
 
 /// What DynamicChart and ThreeDynamicChart share: curves that enter at the right edge and move left
 /// by 5 px with every sample, in front of a grid, a scale and the time of day.
@@ -136,7 +136,7 @@ private:
     // The steps of a paint. They leave out what m_exposed does not touch.
     void resetVariables(QPainter* painter);
     void drawBox(QPainter* painter);
-    void drawFrame(QPainter* painter);
+    void drawLines(QPainter* painter);
     void drawText(QPainter* painter);
     void drawScales(QPainter* painter);
     void drawTimeAxis(QPainter* painter);
@@ -152,9 +152,8 @@ private:
     double xOf(int sample) const;
     double yOf(double pixels) const;
     double scaleOf(int id) const;
-    bool isThick() const;
-    int ink() const;
     QLineF gridLine(int k) const;
+    QRegion boxLines() const;
     QRect curvePlace(int id) const;
     QRegion curveRows() const;
     double leftEnd(const QVector<double>& samples) const;
@@ -168,7 +167,6 @@ private:
     QString m_caption;
     QStringList m_seriesNames;
     QMap<int, QString> m_latest; // last value given per series, trimmed or not
-    double m_ratio = 1;          // of the screen's pixels at the last paint
     QRegion m_exposed;           // by the paint in progress
     QTime m_now;                 // that the time axis shows
     int m_secondAsked = -1;      // of the day, for which the time axis was last to be painted
@@ -176,13 +174,20 @@ private:
     QFont m_timeFont;
     std::array<QRect, kMaxSeries> m_places; // of the curves, what they cover at most
     QRegion m_curveRows;                    // they in rows of one width
+    QRegion m_boxLines;                     // what frame and grid cover
     struct {                                // of the last paint
         QMap<int, QVector<double>> curves;
         QList<QPen> pens;
         QRectF box;
         bool isAntialiased = false;
     } m_drawn;
-    std::unique_ptr<ScrollMemory> m_curveMemory;
+    struct { // of the last paint
+        QRectF box;
+        bool hasGrid = false;
+        bool isAntialiased = false;
+    } m_drawnBox;
+    std::unique_ptr<PaintLayer> m_boxLayer;
+    std::unique_ptr<PaintLayer> m_curveLayer;
 };
 
 #endif // TRENDCHART_H
